@@ -1,0 +1,28 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "model/CampaignClass.h"
+
+namespace leafund {
+
+using CampaignList = std::vector<std::shared_ptr<CampaignClass>>;
+
+// The whole data store: four process-wide values, each created on first use, exactly once from
+// whichever thread comes first, and never freed. Afterwards they belong to the main thread; the
+// lists have no lock. Callers read, index, insert and remove directly.
+CampaignList& otherCampaigns();
+CampaignList& campaignsIFunded();
+CampaignList& myUnfundedCampaigns();
+std::string& currentUserName();
+
+// The list a list name selects, or nullptr for a name that selects none.
+CampaignList* campaignListNamed(std::string_view listName);
+
+// Writes the demonstration updates into the campaigns at positions 0 and 1 of `campaignsIFunded`.
+void writeSeedUpdates();
+
+}  // namespace leafund
