@@ -1,0 +1,32 @@
+#include "platform/foundation/NSURLSession.h"
+
+#include <utility>
+
+namespace leafund {
+
+NSURLSessionDataTask::NSURLSessionDataTask(NSURLRequest request, CompletionHandler handler)
+    : request_(std::move(request)), handler_(std::move(handler)) {}
+
+void NSURLSessionDataTask::resume() {
+  if (!handler_) return;
+  auto handler = std::make_shared<CompletionHandler>(std::exchange(handler_, nullptr));
+  currentHost().transfer(request_, [handler](NSData body, std::optional<NSURLResponse> response,
+                                             std::optional<NSError> error) mutable {
+    if (body && body->empty()) body = nullptr;
+    (*handler)(std::move(body), std::move(response), std::move(error));
+    // Moved out of this closure: the host may destroy the closure on its own thread.
+    currentHost().post([kept = std::exchange(handler, nullptr)] {});
+  });
+}
+
+NSURLSession& NSURLSession::sharedSession() {
+  static NSURLSession session;
+  return session;
+}
+
+std::shared_ptr<NSURLSessionDataTask> NSURLSession::dataTaskWithRequestCompletionHandler(
+    NSURLRequest request, CompletionHandler handler) {
+  return std::make_shared<NSURLSessionDataTask>(std::move(request), std::move(handler));
+}
+
+}  // namespace leafund

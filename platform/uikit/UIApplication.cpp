@@ -1,0 +1,230 @@
+#include "platform/uikit/UIApplication.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/foundation/FatalError.h"
+#include "platform/uikit/UINavigationController.h"
+#include "platform/uikit/UITabContainer.h"
+#include "platform/uikit/UITableView.h"
+#include "platform/uikit/UITableViewCell.h"
+#include "platform/uikit/UITapGestureRecognizer.h"
+
+namespace leafund {
+
+namespace {
+
+UIApplication* theApplication = nullptr;
+
+// A layout or a refresh that goes on for ever is a mistake in a screen or a skin.
+constexpr int kMostRounds = 100;
+
+}  // namespace
+
+UIApplication::UIApplication(Host& host, const UIStoryboard& storyboard,
+                             std::shared_ptr<UIApplicationDelegate> delegate)
+    : host_(host), storyboard_(storyboard), delegate_(std::move(delegate)) {
+  theApplication = this;
+}
+
+UIApplication::~UIApplication() {
+  if (theApplication == this) theApplication = nullptr;
+}
+
+UIApplication* UIApplication::current() { return theApplication; }
+
+void UIApplication::launch(const std::optional<LaunchOptions>& options) {
+  auto navigation = std::make_shared<UINavigationController>();
+  navigation->setSize(size_);
+  delegate_->setWindow(std::make_shared<UIWindow>(navigation));
+  delegate_->applicationDidFinishLaunchingWithOptions(*this, options);
+  navigation_ = std::move(navigation);
+  turn([this] {
+    navigation_->pushViewController(storyboard_.instantiateInitialViewController());
+  });
+}
+
+void UIApplication::turn(std::function<void()> work) {
+  pending_.push_back(std::move(work));
+  if (running_ || !navigation_) return;
+  running_ = true;
+  for (int round = 0; !settled(); ++round) {
+    if (round == kMostRounds) fatalError("turn", "the layout does not settle");
+    runRound();
+  }
+  running_ = false;
+}
+
+bool UIApplication::settled() const {
+  return pending_.empty() && needLayout_.empty() && changed_.empty() && !stackChanged_;
+}
+
+void UIApplication::runRound() {
+  if (!pending_.empty()) {
+    auto work = std::move(pending_.front());
+    pending_.pop_front();
+    work();
+  }
+  for (const auto& waiting : std::exchange(needLayout_, {})) {
+    const auto view = std::static_pointer_cast<UIView>(waiting.lock());
+    if (!view) continue;
+    view->awaitsLayout_ = false;
+    view->layoutSubviews();
+  }
+  if (std::exchange(stackChanged_, false)) host_.show(*navigation_);
+  for (const auto& waiting : std::exchange(changed_, {})) {
+    const auto view = std::static_pointer_cast<UIView>(waiting.lock());
+    if (!view) continue;
+    view->awaitsRefresh_ = false;
+    if (view->skin() != nullptr) view->skin()->refresh();
+  }
+}
+
+void UIApplication::noteChanged(UIView& view) {
+  if (std::exchange(view.awaitsRefresh_, true)) return;
+  changed_.push_back(view.weak_from_this());
+}
+
+void UIApplication::noteNeedsLayout(UIView& view) {
+  if (view.weak_from_this().expired() || std::exchange(view.awaitsLayout_, true)) return;
+  needLayout_.push_back(view.weak_from_this());
+}
+
+UIViewController* UIApplication::controllerOf(const UIView& view) const {
+  const UIView* root = &view;
+  for (; root != nullptr; root = root->superview()) {
+    for (const auto& screen : navigation_->viewControllers()) {
+      if (screen->viewIfLoaded().get() == root) return screen.get();
+      const auto tabs = screen->tabContainer();
+      const auto tab = tabs ? tabs->selectedViewController() : nullptr;
+      if (tab && tab->viewIfLoaded().get() == root) return tab.get();
+    }
+  }
+  return nullptr;
+}
+
+bool UIApplication::reachable(const UIView& view) const {
+  for (const UIView* each = &view; each != nullptr; each = each->superview()) {
+    if (each->hidden()) return false;
+  }
+  const auto* controller = navigation_ ? controllerOf(view) : nullptr;
+  return controller != nullptr && navigation_->isShown(*controller);
+}
+
+void UIApplication::tap(const std::shared_ptr<UIView>& view) {
+  turn([this, view] {
+    if (view && reachable(*view)) tapReached(view);
+  });
+}
+
+void UIApplication::tapReached(const std::shared_ptr<UIView>& view) {
+  // The finger leaves the input it was in, as on a phone whose keyboard goes away.
+  if (const auto input = firstResponder(); input && input != view) input->resignFirstResponder();
+  if (const auto control = std::dynamic_pointer_cast<UIControl>(view)) {
+    control->sendActionsForControlEvents(UIControlEvent::TouchUpInside);
+    return;
+  }
+  if (const auto cell = std::dynamic_pointer_cast<UITableViewCell>(view)) {
+    controllerOf(*cell)->performSegueWithIdentifierSender(cell->segueIdentifier(), cell);
+    return;
+  }
+  for (const auto* each = view.get(); each != nullptr; each = each->superview()) {
+    for (const auto& recognizer : each->gestureRecognizers()) recognizer->recognize();
+  }
+}
+
+void UIApplication::beginEditing(const std::shared_ptr<UITextInput>& input) {
+  turn([this, input] {
+    if (!input || !input->editable() || !reachable(*input) || input->editing()) return;
+    if (const auto other = firstResponder()) other->resignFirstResponder();
+    firstResponder_ = input;
+    input->becomeFirstResponder();
+  });
+}
+
+void UIApplication::edit(const std::shared_ptr<UITextInput>& input, std::string text) {
+  turn([this, input, text = std::move(text)]() mutable {
+    if (input && input->editable() && reachable(*input)) input->editByUser(std::move(text));
+  });
+}
+
+void UIApplication::endEditing(const std::shared_ptr<UITextInput>& input) {
+  turn([input] {
+    if (input) input->resignFirstResponder();
+  });
+}
+
+void UIApplication::pressReturn(const std::shared_ptr<UITextField>& field) {
+  turn([this, field] {
+    if (!field || !reachable(*field)) return;
+    // The default of the return key is to do nothing here, so only the delegate's own act counts.
+    if (const auto delegate = field->delegate()) delegate->textFieldShouldReturn(field);
+  });
+}
+
+void UIApplication::scroll(const std::shared_ptr<UITableView>& table, double offset) {
+  turn([this, table, offset] {
+    if (!table || !reachable(*table)) return;
+    table->setContentOffset({0, std::clamp(offset, 0.0, table->greatestOffset())});
+  });
+}
+
+void UIApplication::resize(CGSize size) {
+  size_ = size;
+  if (!navigation_) return;  // the first size comes before launch
+  turn([this, size] { navigation_->setSize(size); });
+}
+
+void UIApplication::goBack() {
+  turn([this] {
+    if (const auto input = firstResponder()) input->resignFirstResponder();
+    navigation_->goBack();
+  });
+}
+
+void UIApplication::tell(void (UIApplicationDelegate::*call)(UIApplication&)) {
+  turn([this, call] { ((*delegate_).*call)(*this); });
+}
+
+void UIApplication::resignActive() { tell(&UIApplicationDelegate::applicationWillResignActive); }
+void UIApplication::enterBackground() { tell(&UIApplicationDelegate::applicationDidEnterBackground); }
+void UIApplication::enterForeground() {
+  tell(&UIApplicationDelegate::applicationWillEnterForeground);
+}
+void UIApplication::becomeActive() { tell(&UIApplicationDelegate::applicationDidBecomeActive); }
+void UIApplication::terminate() { tell(&UIApplicationDelegate::applicationWillTerminate); }
+
+void UIApplication::receiveMemoryWarning() {
+  turn([this] {
+    for (const auto& screen : navigation_->viewControllers()) {
+      screen->didReceiveMemoryWarning();
+      for (const auto& child : screen->childViewControllers()) child->didReceiveMemoryWarning();
+    }
+  });
+}
+
+namespace {
+std::map<std::string, DelegateMaker, std::less<>>& delegateClasses() {
+  static std::map<std::string, DelegateMaker, std::less<>> classes;
+  return classes;
+}
+}  // namespace
+
+void registerDelegateClass(std::string_view className, DelegateMaker make) {
+  delegateClasses().insert_or_assign(std::string(className), make);
+}
+
+int UIApplicationMain(int, char**, std::optional<std::string>, std::string_view delegateClassName,
+                      Host& host, const UIStoryboard& storyboard) {
+  const auto make = delegateClasses().find(delegateClassName);
+  if (make == delegateClasses().end()) {
+    fatalError("UIApplicationMain", "no class is named " + std::string(delegateClassName));
+  }
+  setCurrentHost(&host);
+  // Lives as long as the process: a host may return from run() and go on.
+  static std::shared_ptr<UIApplication> application;
+  application = std::make_shared<UIApplication>(host, storyboard, make->second());
+  return host.run(*application);
+}
+
+}  // namespace leafund

@@ -1,0 +1,94 @@
+#include "platform/uikit/UINavigationController.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/foundation/FatalError.h"
+#include "platform/uikit/UIApplication.h"
+#include "platform/uikit/UITabContainer.h"
+
+namespace leafund {
+
+void UINavigationController::pushViewController(std::shared_ptr<UIViewController> controller) {
+  controller->navigation_ = weak_from_this();
+  const bool animated = !stack_.empty();
+  stack_.push_back(std::move(controller));
+  appear(animated);
+}
+
+void UINavigationController::popToViewController(
+    const std::shared_ptr<UIViewController>& controller) {
+  const auto found = std::find(stack_.begin(), stack_.end(), controller);
+  stack_.erase(std::next(found), stack_.end());
+  appear(true);
+}
+
+bool UINavigationController::goBack() {
+  if (!canGoBack(*topViewController())) return false;
+  popToViewController(stack_[stack_.size() - 2]);
+  return true;
+}
+
+bool UINavigationController::canGoBack(const UIViewController& controller) const {
+  return stack_.size() > 1 && stack_.front().get() != &controller &&
+         !controller.navigationItem().hidesBackButton();
+}
+
+std::shared_ptr<UIViewController> UINavigationController::nearestBelow(
+    const UIViewController& controller, std::string_view sceneName) const {
+  const auto self = std::find_if(stack_.rbegin(), stack_.rend(),
+                                 [&](const auto& each) { return each.get() == &controller; });
+  const auto found =
+      self == stack_.rend() ? self : std::find_if(std::next(self), stack_.rend(), [&](const auto& each) {
+        return each->className() == sceneName;
+      });
+  if (found == stack_.rend()) {
+    fatalError(controller.className(), "no " + std::string(sceneName) + " stands below");
+  }
+  return *found;
+}
+
+bool UINavigationController::isShown(const UIViewController& controller) const {
+  const auto& top = topViewController();
+  if (top.get() == &controller) return true;
+  const auto tabs = top->tabContainer();
+  return tabs && tabs->selectedViewController().get() == &controller;
+}
+
+const std::string& UINavigationController::barTitle(const UIViewController& controller) const {
+  const auto tabs = controller.tabContainer();
+  if (tabs && tabs->selectedViewController()) {
+    return tabs->selectedViewController()->navigationItem().title();
+  }
+  return controller.navigationItem().title();
+}
+
+bool UINavigationController::showsBar(const UIViewController& controller) const {
+  return !barTitle(controller).empty() || canGoBack(controller);
+}
+
+void UINavigationController::setSize(CGSize size) {
+  size_ = size;
+  if (!stack_.empty()) layOutShown();
+}
+
+void UINavigationController::appear(bool animated) {
+  const auto top = topViewController();
+  if (auto* application = UIApplication::current()) application->noteStackChanged();
+  top->view();
+  const auto tabs = top->tabContainer();
+  if (tabs) tabs->selectedViewController()->view();
+  layOutShown();
+  top->viewWillAppear(animated);
+  if (tabs) tabs->selectedViewController()->viewWillAppear(animated);
+}
+
+void UINavigationController::layOutShown() {
+  const auto& top = topViewController();
+  const double bar = showsBar(*top) ? kBarHeight : 0;
+  top->view()->setFrame({0, bar, size_.width, std::max(0.0, size_.height - bar)});
+  if (const auto tabs = top->tabContainer()) tabs->layOut();
+  top->viewDidLayoutSubviews();
+}
+
+}  // namespace leafund

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <memory>
+#include <string_view>
+#include <vector>
+
+#include "platform/graphics/Geometry.h"
+#include "platform/uikit/UIViewController.h"
+
+namespace leafund {
+
+// The stack of screens, the last one shown. It moves at once; what the glass does to catch up is the
+// host's. Never empty once it has its root.
+class UINavigationController : public std::enable_shared_from_this<UINavigationController> {
+ public:
+  static constexpr double kBarHeight = 56;  // points
+
+  const std::vector<std::shared_ptr<UIViewController>>& viewControllers() const { return stack_; }
+  const std::shared_ptr<UIViewController>& topViewController() const { return stack_.back(); }
+
+  void pushViewController(std::shared_ptr<UIViewController> controller);
+  // Takes everything above the controller, which must be on the stack, away.
+  void popToViewController(const std::shared_ptr<UIViewController>& controller);
+  // The one way back for bar, key and gesture: refused at the root and where the back button is
+  // hidden. Answers whether it went.
+  bool goBack();
+  bool canGoBack(const UIViewController& controller) const;
+
+  // The nearest screen of that scene below the given one; fatal when there is none.
+  std::shared_ptr<UIViewController> nearestBelow(const UIViewController& controller,
+                                                 std::string_view sceneName) const;
+
+  // The screen that takes input: the topmost one or, where it holds tabs, itself and the selected
+  // one.
+  bool isShown(const UIViewController& controller) const;
+
+  // The bar's text for a screen on the stack: its own title or that of its selected tab. A screen
+  // without a text has no bar.
+  const std::string& barTitle(const UIViewController& controller) const;
+  bool showsBar(const UIViewController& controller) const;
+
+  // The window's size in points; the shown screen's root view follows at once, the others when they
+  // appear.
+  void setSize(CGSize size);
+
+ private:
+  void appear(bool animated);
+  void layOutShown();
+
+  std::vector<std::shared_ptr<UIViewController>> stack_;
+  CGSize size_;
+};
+
+}  // namespace leafund

@@ -1,0 +1,93 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "platform/graphics/UIColor.h"
+#include "platform/uikit/UIControl.h"
+
+namespace leafund {
+
+class UITextField;
+
+// What the keyboard on the glass should offer. A hint alone: any text can be typed.
+enum class UIKeyboardType { Default, EmailAddress, DecimalPad, URL };
+
+class UITextFieldDelegate {
+ public:
+  virtual ~UITextFieldDelegate() = default;
+  // Answers whether the return key does what it does by default.
+  virtual bool textFieldShouldReturn(const std::shared_ptr<UITextField>& textField) = 0;
+};
+
+// What text fields and text views have in common: a text, never absent, that the user and the screen
+// write in turn. Text is UTF-8.
+class UITextInput : public UIControl {
+ public:
+  const std::string& text() const { return text_; }
+  void setText(std::string text);
+  UIColor textColor() const { return textColor_; }
+  void setTextColor(const UIColor& color);
+
+  // What belongs into the input, shown while it is empty.
+  const std::string& placeholder() const { return placeholder_; }
+  void setPlaceholder(std::string placeholder) { placeholder_ = std::move(placeholder); }
+  UIKeyboardType keyboardType() const { return keyboardType_; }
+  void setKeyboardType(UIKeyboardType type) { keyboardType_ = type; }
+
+  // A text that the screen wrote and the user has not touched since.
+  bool showsMessage() const { return writtenByScreen_ && !text_.empty(); }
+  bool editing() const { return editing_; }
+  // Whether the user can write in it.
+  virtual bool editable() const { return true; }
+  void resignFirstResponder();
+
+ private:
+  friend class UIApplication;
+  void becomeFirstResponder();
+  void editByUser(std::string text);
+
+  std::string text_;
+  std::string placeholder_;
+  UIColor textColor_ = UIColor::blackColor();
+  UIKeyboardType keyboardType_ = UIKeyboardType::Default;
+  bool writtenByScreen_ = false;
+  bool editing_ = false;
+};
+
+// One line.
+class UITextField : public UITextInput {
+ public:
+  bool secureTextEntry() const { return secureTextEntry_; }
+  void setSecureTextEntry(bool secure) { secureTextEntry_ = secure; }
+  // Typed characters of a secure field are masked; a message of the screen is read in clear.
+  bool masked() const { return secureTextEntry_ && !showsMessage(); }
+
+  std::shared_ptr<UITextFieldDelegate> delegate() const { return delegate_.lock(); }
+  void setDelegate(const std::shared_ptr<UITextFieldDelegate>& delegate) { delegate_ = delegate; }
+
+ private:
+  bool secureTextEntry_ = false;
+  std::weak_ptr<UITextFieldDelegate> delegate_;
+};
+
+struct NSRange {
+  std::size_t location = 0, length = 0;
+};
+
+// Many lines, to read or to write.
+class UITextView : public UITextInput {
+ public:
+  bool editable() const override { return editable_; }
+  void setEditable(bool editable) { editable_ = editable; }
+  // Scrolls so that the range is seen. Only the top is ever asked for, so the view remembers no more
+  // than that its next showing starts there.
+  void scrollRangeToVisible(NSRange range);
+  bool scrolledToTop() const { return scrolledToTop_; }
+
+ private:
+  bool editable_ = true;
+  bool scrolledToTop_ = false;
+};
+
+}  // namespace leafund
