@@ -1,0 +1,15 @@
+#include "interface/scenes/Scenes.h"
+#include "screens/campaign/ConfirmPageVC.h"
+
+namespace leafund {
+
+void confirmScene(Scene<ConfirmPageVC>& scene, ConfirmPageVC& screen) {
+  scene.title("Confirm your pledge");
+  scene.words("question", "Do you want to fund this campaign?");
+  auto& yes = scene.button(screen.yesButton, "Yes");
+  scene.on(yes, UIControlEvent::TouchUpInside, "yesClicked:", &ConfirmPageVC::yesClicked);
+  auto& no = scene.button(screen.noButton, "No");
+  scene.on(no, UIControlEvent::TouchUpInside, "noClicked:", &ConfirmPageVC::noClicked);
+}
+
+}  // namespace leafund

@@ -1,0 +1,26 @@
+#include "interface/scenes/Scenes.h"
+#include "screens/lists/FundCampaignVC.h"
+#include "screens/lists/MyProfileVC.h"
+#include "screens/lists/OtherCampaignsTableViewController.h"
+
+namespace leafund {
+
+void browseScene(Scene<OtherCampaignsTableViewController>& scene,
+                 OtherCampaignsTableViewController&) {
+  scene.title("Browse");
+  scene.subtitleCell("abc", "campaignSegue");
+}
+
+void fundedScene(Scene<FundCampaignVC>& scene, FundCampaignVC& screen) {
+  scene.title("Funded by you");
+  scene.subtitleCell("Funded", "campaignSegue");
+  screen.fundedTable.connect(screen.tableView());
+}
+
+void mineScene(Scene<MyProfileVC>& scene, MyProfileVC& screen) {
+  scene.title("Your campaigns");
+  scene.subtitleCell("MyCampaigns", "campaignSegue");
+  screen.fundedTable.connect(screen.tableView());
+}
+
+}  // namespace leafund

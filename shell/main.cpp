@@ -1,0 +1,11 @@
+#include "platform/qt/QtHost.h"
+#include "shell/AppDelegate.h"
+#include "shell/Storyboard.h"
+
+int main(int argc, char** argv) {
+  // Not on this function's stack: a host may return from its loop and live on.
+  static leafund::QtHost host(argc, argv);
+  return leafund::UIApplicationMain(argc, argv, std::nullopt,
+                                    leafund::NSStringFromClass<leafund::AppDelegate>(), host,
+                                    leafund::mainStoryboard());
+}
