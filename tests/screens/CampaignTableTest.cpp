@@ -1,0 +1,229 @@
+#include "screens/lists/CampaignTableViewController.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "platform/uikit/UITableViewCell.h"
+#include "screens/campaign/OneCampaignViewController.h"
+#include "screens/campaign/UpdatePageVC.h"
+#include "tests/support/HeadlessApplication.h"
+#include "tests/support/Screens.h"
+
+namespace leafund {
+namespace {
+
+using testing::ElementsAre;
+
+class CampaignTableTest : public testing::Test {
+ protected:
+  void open(const std::string& tab) {
+    app.signIn();
+    app.tap(tab);
+    screen = app.shownAs<CampaignTableViewController>();
+    table = screen->tableView();
+  }
+  std::shared_ptr<UITableViewCell> cell(std::ptrdiff_t row) { return table->visibleCells().at(row); }
+
+  HeadlessApplication app;
+  std::shared_ptr<CampaignTableViewController> screen;
+  std::shared_ptr<UITableView> table;
+};
+
+TEST_F(CampaignTableTest, EachScreenShowsItsListInOrderWithItsCells) {
+  open("browseTab");
+  EXPECT_EQ(table->contentHeight(), 7 * 160.0);
+  EXPECT_EQ(cell(0)->reuseIdentifier(), "abc");
+  EXPECT_EQ(cell(0)->textLabel()->text(), "Vegetarian for PETA");
+  EXPECT_EQ(cell(0)->detailTextLabel()->text(), otherCampaigns()[0]->shortDescription());
+  app.tap("fundedTab");
+  EXPECT_THAT(app.rowTitles(),
+              ElementsAre("Compost for Christ!", "Lights Out!", "Carpool for Salvation"));
+  app.tap("mineTab");
+  EXPECT_THAT(app.rowTitles(), ElementsAre("Eco-Friendly Stove!", "Dine Out Less!"));
+}
+
+TEST_F(CampaignTableTest, ReuseIdentifiersAreEachScreensOwn) {
+  open("fundedTab");
+  EXPECT_EQ(cell(0)->reuseIdentifier(), "Funded");
+  app.tap("mineTab");
+  EXPECT_EQ(app.shownAs<CampaignTableViewController>()
+                ->tableView()
+                ->visibleCells()
+                .at(0)
+                ->reuseIdentifier(),
+            "MyCampaigns");
+}
+
+TEST_F(CampaignTableTest, AnEmptyListIsOneSectionWithoutRowsAndStillWritesItsCount) {
+  otherCampaigns().clear();
+  testing::internal::CaptureStdout();
+  open("browseTab");
+  EXPECT_EQ(testing::internal::GetCapturedStdout(), "wren@example.org\n0\n");
+  EXPECT_EQ(screen->numberOfSectionsInTableView(*table), 1);
+  EXPECT_TRUE(table->visibleCells().empty());
+  EXPECT_EQ(table->contentHeight(), 0);
+}
+
+TEST_F(CampaignTableTest, EachCallForTheCountWritesOneLineWhateverTheSection) {
+  open("browseTab");
+  testing::internal::CaptureStdout();
+  EXPECT_EQ(screen->tableViewNumberOfRowsInSection(*table, 0), 7);
+  EXPECT_EQ(screen->tableViewNumberOfRowsInSection(*table, 99), 7);
+  EXPECT_EQ(testing::internal::GetCapturedStdout(), "7\n7\n");
+}
+
+TEST_F(CampaignTableTest, EveryRowIs160HighAlthoughTheTableIsTold100) {
+  open("browseTab");
+  EXPECT_EQ(table->rowHeight(), 100.0);
+  EXPECT_EQ(screen->tableViewHeightForRowAtIndexPath(*table, {3, 0}), 160.0);
+  EXPECT_EQ(cell(1)->frame(), (CGRect{0, 160, 390, 160}));
+}
+
+TEST_F(CampaignTableTest, ThePictureIsFramedSmallAndRound) {
+  open("browseTab");
+  const auto& picture = *cell(0)->imageView();
+  EXPECT_EQ(picture.frame(), (CGRect{0, 0, 65, 65}));
+  const CALayer& layer = picture.layer();
+  EXPECT_EQ(layer.borderWidth(), 0.5);
+  EXPECT_EQ(layer.borderColor(), UIColor::blackColor().CGColor());
+  EXPECT_EQ(layer.cornerRadius(), 65.0);
+  EXPECT_TRUE(layer.masksToBounds());
+}
+
+TEST_F(CampaignTableTest, AShownRowHasAWhiteCardWithAFaintShadowBehindItsContent) {
+  open("browseTab");
+  const auto& content = *cell(0)->contentView();
+  EXPECT_EQ(content.layer().backgroundColor(), UIColor::clearColor().CGColor());
+  const auto& card = *content.subviews().front();
+  EXPECT_EQ(card.frame(), (CGRect{0, 10, 390, 145}));
+  const CALayer& layer = card.layer();
+  EXPECT_EQ(layer.backgroundColor(), (CGColor{1, 1, 1, 1}));
+  EXPECT_EQ(layer.cornerRadius(), 2.0);
+  EXPECT_EQ(layer.shadowOffset(), (CGSize{-1, 1}));
+  EXPECT_FLOAT_EQ(static_cast<float>(layer.shadowOpacity()), 0.2F);
+  EXPECT_FALSE(layer.masksToBounds());
+}
+
+TEST_F(CampaignTableTest, ACellShownFiveTimesCarriesFiveCardsBehindItsContent) {
+  open("fundedTab");
+  const auto shown = cell(0);
+  for (int showing = 1; showing < 5; ++showing) {
+    app.tap("newsTab");
+    app.tap("fundedTab");
+  }
+  ASSERT_EQ(cell(0), shown);
+  const auto& subviews = shown->contentView()->subviews();
+  ASSERT_EQ(subviews.size(), 5U + 3U);
+  for (std::size_t card = 0; card < 5; ++card) {
+    EXPECT_EQ(subviews[card]->frame(), (CGRect{0, 10, 390, 145}));
+  }
+  EXPECT_EQ(subviews[5], shown->imageView());
+}
+
+TEST_F(CampaignTableTest, NoListScreenEverShowsABackButton) {
+  for (const auto* name : {"OtherCampaignsTableViewController", "MyProfileVC", "FundCampaignVC"}) {
+    const auto list = makeScreen<CampaignTableViewController>(name);
+    list->view();
+    EXPECT_TRUE(list->navigationItem().hidesBackButton()) << name;
+  }
+}
+
+TEST_F(CampaignTableTest, ANewOwnCampaignIsTheFirstRowTheNextTimeTheScreenComesIntoView) {
+  open("mineTab");
+  auto& mine = myUnfundedCampaigns();
+  mine.insert(mine.begin(), otherCampaigns()[3]);
+  EXPECT_EQ(app.rowTitles().front(), "Eco-Friendly Stove!");  // not before
+  app.tap("newsTab");
+  app.tap("mineTab");
+  EXPECT_EQ(app.rowTitles().front(), "No New Clothes!");
+}
+
+TEST_F(CampaignTableTest, TappingRow2OfFundedOpensItWithItsPositionAndList) {
+  open("fundedTab");
+  app.tapRow(2);
+  const auto detail = app.shownAs<OneCampaignViewController>();
+  ASSERT_NE(detail, nullptr);
+  EXPECT_EQ(detail->campaignNum, 2);
+  EXPECT_EQ(detail->campaignSendingYou, "campaignsIFunded");
+}
+
+TEST_F(CampaignTableTest, EachListPassesItsOwnName) {
+  open("browseTab");
+  app.tapRow(1);
+  EXPECT_EQ(app.shownAs<OneCampaignViewController>()->campaignSendingYou, "otherCampaigns");
+  app.application->goBack();
+  app.tap("mineTab");
+  app.tapRow(1);
+  EXPECT_EQ(app.shownAs<OneCampaignViewController>()->campaignSendingYou, "myUnfundedCampaigns");
+  EXPECT_EQ(app.shownAs<OneCampaignViewController>()->campaignNum, 1);
+}
+
+TEST_F(CampaignTableTest, TheSeguesIdentifierIsNotLookedAt) {
+  open("browseTab");
+  const auto detail = makeScreen<OneCampaignViewController>("OneCampaignViewController");
+  UIStoryboardSegue segue("anything", screen, detail);
+  screen->prepareForSegueSender(segue, cell(3));
+  EXPECT_EQ(detail->campaignNum, 3);
+}
+
+TEST_F(CampaignTableTest, AnotherDestinationReceivesNothing) {
+  open("browseTab");
+  const auto update = makeScreen<UpdatePageVC>("UpdatePageVC");
+  UIStoryboardSegue segue("campaignSegue", screen, update);
+  screen->prepareForSegueSender(segue, cell(3));
+  EXPECT_EQ(update->campaignNum, std::nullopt);
+  EXPECT_EQ(update->campaignSendingYou, std::nullopt);
+}
+
+TEST_F(CampaignTableTest, TheUnreadOutletHoldsTheScreensOwnTable) {
+  for (const auto* name : {"MyProfileVC", "FundCampaignVC"}) {
+    const auto list = makeScreen<CampaignTableViewController>(name);
+    EXPECT_NE(list->view(), nullptr);  // an outlet left open would have been fatal
+  }
+}
+
+using CampaignTableDeathTest = CampaignTableTest;
+
+TEST_F(CampaignTableDeathTest, ARowPastTheEndIsFatal) {
+  open("browseTab");
+  EXPECT_DEATH(screen->tableViewCellForRowAtIndexPath(*table, {7, 0}),
+               "OtherCampaignsTableViewController: position 7 is outside a list of 7");
+}
+
+TEST_F(CampaignTableDeathTest, ACellWithoutLabelsIsFatal) {
+  open("browseTab");
+  table->registerPrototype("abc", [] {
+    return std::make_shared<UITableViewCell>(UITableViewCellStyle::Bare, "abc");
+  });
+  EXPECT_DEATH(screen->tableViewCellForRowAtIndexPath(*table, {0, 0}),
+               "OtherCampaignsTableViewController: the cell has no text label");
+}
+
+TEST_F(CampaignTableDeathTest, AnAddressThatIsNoUrlIsFatal) {
+  open("browseTab");
+  otherCampaigns()[0]->setPhoto("Error: Please Enter a URL");
+  EXPECT_DEATH(screen->tableViewCellForRowAtIndexPath(*table, {0, 0}),
+               "not a URL: Error: Please Enter a URL");
+}
+
+TEST_F(CampaignTableDeathTest, AMissingTableOrRootViewIsFatal) {
+  open("browseTab");
+  const auto shown = cell(0);
+  screen->releaseView();
+  EXPECT_DEATH(screen->viewWillAppear(false), "the table view is absent");
+  EXPECT_DEATH(screen->tableViewWillDisplayCellForRowAtIndexPath(*table, shown, {0, 0}),
+               "the root view is absent");
+}
+
+TEST_F(CampaignTableDeathTest, ASegueWhoseSenderIsNoRowOfTheTableIsFatalWhateverTheDestination) {
+  open("browseTab");
+  const auto update = makeScreen<UpdatePageVC>("UpdatePageVC");
+  UIStoryboardSegue segue("campaignSegue", screen, update);
+  EXPECT_DEATH(screen->prepareForSegueSender(segue, nullptr), "the segue's sender is not a row");
+  EXPECT_DEATH(screen->prepareForSegueSender(segue, screen), "the segue's sender is not a row");
+  const auto foreign = std::make_shared<UITableViewCell>(UITableViewCellStyle::Subtitle, "abc");
+  EXPECT_DEATH(screen->prepareForSegueSender(segue, foreign), "a row of another table");
+}
+
+}  // namespace
+}  // namespace leafund

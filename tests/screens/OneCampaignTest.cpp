@@ -1,0 +1,229 @@
+#include "screens/campaign/OneCampaignViewController.h"
+
+#include <gtest/gtest.h>
+
+#include "model/Catalogue.h"
+#include "platform/headless/HeadlessHost.h"
+#include "screens/campaign/ConfirmPageVC.h"
+#include "screens/campaign/ThankYouVC.h"
+#include "screens/campaign/UpdatePageVC.h"
+#include "tests/support/Pictures.h"
+#include "tests/support/Screens.h"
+
+namespace leafund {
+namespace {
+
+class OneCampaignTest : public testing::Test {
+ protected:
+  std::shared_ptr<CampaignClass> open(const std::string& listName, std::ptrdiff_t position) {
+    detail->campaignSendingYou = listName;
+    detail->campaignNum = position;
+    detail->view();
+    return detail->campaign;
+  }
+  std::shared_ptr<CampaignClass> openWith(float goal, float raised) {
+    auto& campaign = *otherCampaigns()[0];
+    campaign.setTotalFunding(goal);
+    campaign.setCurrFunding(raised);
+    return open("otherCampaigns", 0);
+  }
+
+  HeadlessHost host;
+  RecordedScreen<OneCampaignViewController> detail{"OneCampaignViewController"};
+};
+
+TEST_F(OneCampaignTest, ShowsTheCampaignOfTheListAndPosition) {
+  testing::internal::CaptureStdout();
+  open("otherCampaigns", 1);
+  EXPECT_EQ(testing::internal::GetCapturedStdout(), "1\n");
+  EXPECT_EQ(detail->campaign, otherCampaigns()[1]);
+  EXPECT_EQ(detail->campaignTitle->text(), "Biking to Work!");
+  EXPECT_EQ(detail->campaignCreator->text(), "Tamsin");
+  EXPECT_EQ(detail->campaignText->text(), otherCampaigns()[1]->campaignDescription());
+  EXPECT_EQ(detail->desiredFund->text(), "$200.00");
+  EXPECT_EQ(detail->currentFund->text(), "$67.00");
+  EXPECT_EQ(detail->slider->progress(), 67.0F / 200.0F);
+  EXPECT_EQ(detail->slider->animatedFrom(), 0.0F);
+}
+
+TEST_F(OneCampaignTest, ACampaignThatIsNotFundedHidesUpdatesAndErrorAndShowsItsSums) {
+  open("otherCampaigns", 0);
+  EXPECT_TRUE(detail->campaignUpdates->hidden());
+  EXPECT_TRUE(detail->errorLabel->hidden());
+  EXPECT_FALSE(detail->slider->hidden());
+  EXPECT_FALSE(detail->desiredFund->hidden());
+  EXPECT_FALSE(detail->currentFund->hidden());
+  EXPECT_FALSE(detail->FundButton->hidden());
+  EXPECT_FALSE(detail->dollarAmountField->hidden());
+}
+
+TEST_F(OneCampaignTest, AFundedCampaignShowsFundedAndUpdatesAndHidesBarAndSums) {
+  open("campaignsIFunded", 0);
+  EXPECT_EQ(detail->labelAboveSlider->text(), "Funded!");
+  EXPECT_FALSE(detail->campaignUpdates->hidden());
+  EXPECT_TRUE(detail->slider->hidden());
+  EXPECT_TRUE(detail->desiredFund->hidden());
+  EXPECT_TRUE(detail->currentFund->hidden());
+  EXPECT_EQ(detail->slider->progress(), 1.0F);  // the hidden bar is still given its share
+}
+
+TEST_F(OneCampaignTest, OwnAndFundedCampaignsCannotBeFundedFromHere) {
+  for (const auto* list : {"campaignsIFunded", "myUnfundedCampaigns"}) {
+    RecordedScreen<OneCampaignViewController> screen("OneCampaignViewController");
+    screen->campaignSendingYou = list;
+    screen->campaignNum = 0;
+    screen->view();
+    EXPECT_TRUE(screen->FundButton->hidden()) << list;
+    EXPECT_TRUE(screen->dollarAmountField->hidden()) << list;
+  }
+}
+
+TEST_F(OneCampaignTest, FramesThePictureRoundAndTheTextWithALine) {
+  open("otherCampaigns", 0);
+  const CALayer& picture = std::as_const(*detail->campaignImage.get()).layer();
+  EXPECT_EQ(picture.cornerRadius(), 65.0);
+  EXPECT_EQ(picture.borderWidth(), 0.5);
+  EXPECT_EQ(picture.borderColor(), UIColor::blackColor().CGColor());
+  EXPECT_TRUE(picture.masksToBounds());
+  const CALayer& text = std::as_const(*detail->campaignText.get()).layer();
+  EXPECT_EQ(text.borderWidth(), 1.0);
+  EXPECT_EQ(text.borderColor(), UIColor::blackColor().CGColor());
+  EXPECT_TRUE(detail->campaignText->scrolledToTop());
+}
+
+TEST_F(OneCampaignTest, AGoalOfZeroWithNothingRaisedCountsAsFunded) {
+  openWith(0, 0);
+  EXPECT_EQ(detail->labelAboveSlider->text(), "Funded!");
+  EXPECT_NE(detail->slider->progress(), detail->slider->progress());  // not a number
+  EXPECT_EQ(detail->desiredFund->text(), "$0.00");
+}
+
+TEST_F(OneCampaignTest, WithoutAListNameThePresentersCampaignIsShownAndCannotBeFunded) {
+  testing::internal::CaptureStdout();
+  detail->campaign = campaignsIFunded()[2];
+  detail->view();
+  EXPECT_EQ(testing::internal::GetCapturedStdout(), "nil\n");
+  EXPECT_EQ(detail->campaignTitle->text(), "Carpool for Salvation");
+  EXPECT_TRUE(detail->FundButton->hidden());
+}
+
+TEST_F(OneCampaignTest, AReuseIdentifierNamesNoListAndKeepsThePresentersCampaign) {
+  detail->campaign = campaignsIFunded()[2];
+  detail->campaignSendingYou = "MyCampaigns";
+  detail->view();
+  EXPECT_EQ(detail->campaign, campaignsIFunded()[2]);
+  EXPECT_TRUE(detail->dollarAmountField->hidden());
+}
+
+TEST_F(OneCampaignTest, APictureThatArrivesIsShownAtItsOwnSize) {
+  open("otherCampaigns", 0);
+  ASSERT_EQ(host.fetches(), std::vector{otherCampaigns()[0]->photo()});
+  host.answer(0, pictureBody(640, 480));
+  EXPECT_EQ(detail->campaignImage->image()->size(), (CGSize{640, 480}));
+}
+
+TEST_F(OneCampaignTest, ABodyThatIsNoPictureEmptiesThePicture) {
+  open("otherCampaigns", 0);
+  detail->campaignImage->setImage(
+      UIImage::initWithData(std::make_shared<std::string>(pictureBody(8, 8))));
+  host.answer(0, "<html>404</html>", 404);
+  EXPECT_EQ(detail->campaignImage->image(), nullptr);
+}
+
+TEST_F(OneCampaignTest, ADownloadThatFailsShowsNothingAndSaysNothing) {
+  open("otherCampaigns", 0);
+  testing::internal::CaptureStdout();
+  host.fail(0);
+  EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
+  EXPECT_EQ(detail->campaignImage->image(), nullptr);
+}
+
+TEST_F(OneCampaignTest, TheDownloadKeepsTheScreenUntilItIsApplied) {
+  open("otherCampaigns", 0);
+  const std::weak_ptr<UIViewController> left = detail.screen;
+  detail.screen.reset();
+  EXPECT_FALSE(left.expired());
+  host.answer(0, pictureBody(640, 480));
+  EXPECT_TRUE(left.expired());
+}
+
+TEST_F(OneCampaignTest, TheUpdatePageLearnsPositionAndListAlsoWhenAbsent) {
+  detail->campaignNum = 1;
+  detail->campaignSendingYou = "campaignsIFunded";
+  const auto update = makeScreen<UpdatePageVC>("UpdatePageVC");
+  UIStoryboardSegue segue("any", detail.screen, update);
+  detail->prepareForSegueSender(segue, nullptr);
+  EXPECT_EQ(update->campaignNum, 1);
+  EXPECT_EQ(update->campaignSendingYou, "campaignsIFunded");
+  detail->campaignNum.reset();
+  detail->campaignSendingYou.reset();
+  detail->prepareForSegueSender(segue, nullptr);
+  EXPECT_EQ(update->campaignNum, std::nullopt);
+  EXPECT_EQ(update->campaignSendingYou, std::nullopt);
+}
+
+TEST_F(OneCampaignTest, TheConfirmationLearnsAmountAndPosition) {
+  detail->campaignNum = 4;
+  detail->dollarsDonated = 12.5F;
+  const auto confirm = makeScreen<ConfirmPageVC>("ConfirmPageVC");
+  UIStoryboardSegue segue("any", detail.screen, confirm);
+  detail->prepareForSegueSender(segue, nullptr);
+  EXPECT_EQ(confirm->campaignNum, 4);
+  EXPECT_EQ(confirm->dollarsDonated, 12.5F);
+}
+
+TEST_F(OneCampaignTest, AnyOtherDestinationLearnsNothing) {
+  const auto thanks = makeScreen<ThankYouVC>("ThankYouVC");
+  UIStoryboardSegue segue("campaignFundedSegue", detail.screen, thanks);
+  detail->prepareForSegueSender(segue, nullptr);
+  EXPECT_EQ(thanks->pageFrom, std::nullopt);
+}
+
+TEST_F(OneCampaignTest, TheUpdatesButtonPerformsUpdatesSegueWithTheScreenAsSender) {
+  open("campaignsIFunded", 0);
+  detail->campaignUpdates->sendActionsForControlEvents(UIControlEvent::TouchUpInside);
+  EXPECT_EQ(detail->segues, std::vector<std::string>{"updatesSegue"});
+  EXPECT_EQ(detail->lastSender, detail.screen);
+}
+
+using OneCampaignDeathTest = OneCampaignTest;
+
+TEST_F(OneCampaignDeathTest, APositionEqualToTheListsCountIsFatalAndNotClamped) {
+  EXPECT_DEATH(open("otherCampaigns", 7),
+               "Leafund stopped: OneCampaignViewController: position 7 is outside a list of 7");
+  EXPECT_DEATH(open("campaignsIFunded", 3), "position 3 is outside a list of 3");
+  EXPECT_DEATH(open("myUnfundedCampaigns", 2), "position 2 is outside a list of 2");
+}
+
+TEST_F(OneCampaignDeathTest, ANegativePositionIsFatal) {
+  EXPECT_DEATH(open("otherCampaigns", -1), "position -1 is outside a list of 7");
+}
+
+TEST_F(OneCampaignDeathTest, AListNameWithoutAPositionIsFatal) {
+  detail->campaignSendingYou = "otherCampaigns";
+  EXPECT_DEATH(detail->view(), "OneCampaignViewController: no campaign position was given");
+}
+
+TEST_F(OneCampaignDeathTest, WithoutACampaignTheFundedTestPassesAndTheProgressIsFatal) {
+  EXPECT_DEATH(detail->view(), "OneCampaignViewController: there is no campaign to show");
+}
+
+TEST_F(OneCampaignDeathTest, AnAddressThatIsNoUrlIsFatal) {
+  otherCampaigns()[0]->setPhoto("Error: Please Enter a URL");
+  EXPECT_DEATH(open("otherCampaigns", 0),
+               "OneCampaignViewController: not a URL: Error: Please Enter a URL");
+  otherCampaigns()[0]->setPhoto("");
+  EXPECT_DEATH(open("otherCampaigns", 0), "OneCampaignViewController: not a URL: ");
+}
+
+TEST_F(OneCampaignDeathTest, AnAbsentOutletIsFatalAndNamed) {
+  open("otherCampaigns", 0);
+  detail->releaseView();
+  EXPECT_DEATH(detail->ButtonClicked(nullptr),
+               "OneCampaignViewController: the outlet dollarAmountField is absent");
+  EXPECT_DEATH(host.answer(0, pictureBody(8, 8)),
+               "OneCampaignViewController: the outlet campaignImage is absent");
+}
+
+}  // namespace
+}  // namespace leafund

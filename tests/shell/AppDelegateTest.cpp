@@ -1,0 +1,97 @@
+#include "shell/AppDelegate.h"
+
+#include <gtest/gtest.h>
+
+#include "model/Catalogue.h"
+#include "platform/uikit/UITabContainer.h"
+#include "tests/support/HeadlessApplication.h"
+
+namespace leafund {
+namespace {
+
+const auto kAccent = UIColor::initWithRedGreenBlueAlpha(83.0 / 255, 134.0 / 255, 47.0 / 255, 1.0);
+
+TEST(AppDelegateTest, LaunchSucceedsWithAndWithoutOptions) {
+  HeadlessApplication app;
+  AppDelegate delegate;
+  EXPECT_TRUE(delegate.applicationDidFinishLaunchingWithOptions(*app.application, std::nullopt));
+  EXPECT_TRUE(delegate.applicationDidFinishLaunchingWithOptions(
+      *app.application, LaunchOptions{{"url", "http://example.org"}}));
+}
+
+TEST(AppDelegateTest, TheWindowIsEmptyAtFirstAndFilledByTheLaunch) {
+  EXPECT_EQ(AppDelegate().window(), nullptr);
+  HeadlessApplication app;
+  ASSERT_NE(app.delegate->window(), nullptr);
+  EXPECT_EQ(app.delegate->window()->rootViewController(), app.application->navigation());
+}
+
+TEST(AppDelegateTest, TheAccentColourIsMidGreen) {
+  HeadlessApplication app;
+  const auto color = UITabBar::appearance().tintColor()->CGColor();
+  EXPECT_FLOAT_EQ(color.red, 0.3254902F);
+  EXPECT_FLOAT_EQ(color.green, 0.5254902F);
+  EXPECT_FLOAT_EQ(color.blue, 0.1843137F);
+  EXPECT_FLOAT_EQ(color.alpha, 1.0F);
+}
+
+TEST(AppDelegateTest, ASelectedTabTitleTakesTheAccentColourAndTheBarItsTint) {
+  EXPECT_EQ(UITabBarItem("before launch").selectedTitleColor(), std::nullopt);
+  HeadlessApplication app;
+  EXPECT_EQ(UITabBarItem("after launch").selectedTitleColor(), kAccent);
+  EXPECT_EQ(UITabBar().tintColor(), kAccent);
+}
+
+TEST(AppDelegateTest, TheUnselectedStateKeepsTheDefaultColour) {
+  UITabBarItemAppearance appearance;
+  constexpr unsigned kNormal = 0;
+  appearance.setTitleTextAttributesForState(kAccent, kNormal);
+  EXPECT_EQ(appearance.selectedTitleColor(), std::nullopt);
+}
+
+TEST(AppDelegateTest, TheAccentColourIsSetBeforeTheFirstScreenLoads) {
+  HeadlessHost host;
+  const UIStoryboard storyboard("First",
+                                {{"First", [] { return std::make_shared<UIViewController>(); },
+                                  [](UIViewController&) {
+                                    EXPECT_EQ(UITabBar::appearance().tintColor(), kAccent);
+                                  }}},
+                                {});
+  EXPECT_EQ(UITabBar::appearance().tintColor(), std::nullopt);
+  HeadlessApplication app(storyboard);
+  EXPECT_NE(app.shown()->viewIfLoaded(), nullptr);
+}
+
+TEST(AppDelegateTest, GoingToTheBackgroundAndBackChangesNothing) {
+  HeadlessApplication app;
+  app.signIn();
+  const auto titles = app.rowTitles();
+  const auto others = otherCampaigns();
+  const auto showings = app.host.showings();
+  testing::internal::CaptureStdout();
+  app.application->resignActive();
+  app.application->enterBackground();
+  app.application->enterForeground();
+  app.application->becomeActive();
+  EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
+  EXPECT_EQ(app.rowTitles(), titles);
+  EXPECT_EQ(otherCampaigns(), others);
+  EXPECT_EQ(app.host.showings(), showings);
+}
+
+TEST(AppDelegateTest, TerminatingSavesNothing) {
+  HeadlessApplication app;
+  testing::internal::CaptureStdout();
+  app.application->terminate();
+  EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
+  EXPECT_EQ(otherCampaigns().size(), 7U);
+}
+
+TEST(AppDelegateTest, LaunchingTouchesNoCampaignOfTheUser) {
+  HeadlessApplication app;
+  currentUserName() = "Zelda";  // the two own campaigns take the name at their first use
+  EXPECT_EQ(myUnfundedCampaigns()[0]->creator(), "Zelda");
+}
+
+}  // namespace
+}  // namespace leafund

@@ -1,0 +1,154 @@
+#include "tests/support/PictureServer.h"
+
+#include <QTcpServer>
+#include <QTcpSocket>
+#include <algorithm>
+#include <future>
+#include <memory>
+#include <sstream>
+#include <stdexcept>
+#include <utility>
+
+#include "tests/support/PictureAnswers.h"
+
+namespace leafund {
+
+namespace {
+
+constexpr std::chrono::seconds generously{30};
+constexpr std::string_view endOfHead = "\r\n\r\n";
+
+std::string lowerCase(std::string text) {
+  std::transform(text.begin(), text.end(), text.begin(),
+                 [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
+  return text;
+}
+
+PictureServer::Request parsedHead(const std::string& head) {
+  std::istringstream lines(head);
+  PictureServer::Request request;
+  std::string line;
+  std::getline(lines, line);
+  std::istringstream(line) >> request.method >> request.path;
+  while (std::getline(lines, line)) {
+    if (line.ends_with('\r')) line.pop_back();
+    const std::size_t colon = line.find(':');
+    if (colon == std::string::npos) continue;
+    const std::size_t value = line.find_first_not_of(' ', colon + 1);
+    request.headers[lowerCase(line.substr(0, colon))] =
+        value == std::string::npos ? "" : line.substr(value);
+  }
+  return request;
+}
+
+}  // namespace
+
+PictureServer::PictureServer() {
+  std::promise<int> port;
+  auto listening = port.get_future();
+  thread_.reset(QThread::create([this, &port] {
+    listenAndServe([&port](int number) { port.set_value(number); });
+  }));
+  thread_->start();
+  port_ = listening.get();
+  if (port_ == 0) throw std::runtime_error("the picture server cannot listen");
+}
+
+PictureServer::~PictureServer() {
+  thread_->quit();
+  thread_->wait();
+}
+
+std::string PictureServer::baseAddress() const {
+  return "http://127.0.0.1:" + std::to_string(port_);
+}
+
+std::string PictureServer::serve(const std::string& path, Answer answer) {
+  const std::lock_guard lock(mutex_);
+  answers_[path] = std::move(answer);
+  return address(path);
+}
+
+std::vector<PictureServer::Request> PictureServer::requests() const {
+  const std::lock_guard lock(mutex_);
+  return requests_;
+}
+
+std::size_t PictureServer::requestsFor(std::string_view path) const {
+  const std::lock_guard lock(mutex_);
+  return static_cast<std::size_t>(
+      std::count_if(requests_.begin(), requests_.end(),
+                    [path](const Request& request) { return request.path == path; }));
+}
+
+int PictureServer::connections() const {
+  const std::lock_guard lock(mutex_);
+  return connections_;
+}
+
+int PictureServer::mostConnections() const {
+  const std::lock_guard lock(mutex_);
+  return mostConnections_;
+}
+
+bool PictureServer::waitForRequests(std::size_t count) const {
+  std::unique_lock lock(mutex_);
+  return changed_.wait_for(lock, generously, [&] { return requests_.size() >= count; });
+}
+
+bool PictureServer::waitForConnections(int count) const {
+  std::unique_lock lock(mutex_);
+  return changed_.wait_for(lock, generously, [&] { return connections_ == count; });
+}
+
+void PictureServer::listenAndServe(std::function<void(int port)> listening) {
+  QTcpServer server;
+  QObject::connect(&server, &QTcpServer::newConnection, &server, [&] {
+    while (QTcpSocket* client = server.nextPendingConnection()) accept(*client);
+  });
+  listening(server.listen(QHostAddress::LocalHost) ? server.serverPort() : 0);
+  QEventLoop().exec();
+}
+
+void PictureServer::accept(QTcpSocket& client) {
+  count(+1);
+  QObject::connect(&client, &QTcpSocket::disconnected, &client, [this, &client] {
+    count(-1);
+    client.deleteLater();
+  });
+  QObject::connect(&client, &QTcpSocket::readyRead, &client,
+                   [this, &client, received = std::string()]() mutable {
+                     received += client.readAll().toStdString();
+                     answerRequests(client, received);
+                   });
+}
+
+void PictureServer::answerRequests(QTcpSocket& client, std::string& received) {
+  for (;;) {
+    const std::size_t end = received.find(endOfHead);
+    if (end == std::string::npos) return;
+    Request request = parsedHead(received.substr(0, end + 2));
+    received.erase(0, end + endOfHead.size());
+    Answer answer = answers::status(404, "There is no such picture.");
+    {
+      const std::lock_guard lock(mutex_);
+      if (const auto found = answers_.find(request.path); found != answers_.end()) {
+        answer = found->second;
+      }
+      requests_.push_back(std::move(request));
+    }
+    changed_.notify_all();
+    answer(client);
+  }
+}
+
+void PictureServer::count(int change) {
+  {
+    const std::lock_guard lock(mutex_);
+    connections_ += change;
+    mostConnections_ = std::max(mostConnections_, connections_);
+  }
+  changed_.notify_all();
+}
+
+}  // namespace leafund

@@ -1,0 +1,75 @@
+#pragma once
+
+#include <QThread>
+#include <chrono>
+#include <condition_variable>
+#include <cstddef>
+#include <functional>
+#include <map>
+#include <mutex>
+#include <string>
+#include <string_view>
+#include <vector>
+
+class QTcpSocket;
+
+namespace leafund {
+
+// A real HTTP/1.1 server on the loopback address, on a port and a thread of its own: it needs no
+// event loop of the test. A path answers as it was told to, any other one with 404; connections are
+// kept open until an answer closes them. All its functions may be called from any thread.
+class PictureServer {
+ public:
+  // Writes whatever it likes to the client, on the server's thread; timers and the like belong to
+  // the socket. PictureAnswers.h has the ready-made ones.
+  using Answer = std::function<void(QTcpSocket&)>;
+
+  struct Request {
+    std::string method;
+    std::string path;
+    std::map<std::string, std::string> headers;  // By their names in lower case.
+  };
+
+  // Listens when this returns.
+  PictureServer();
+  PictureServer(const PictureServer&) = delete;
+  PictureServer& operator=(const PictureServer&) = delete;
+  // Cuts the connections that are open.
+  ~PictureServer();
+
+  std::string baseAddress() const;
+  std::string address(std::string_view path) const { return baseAddress().append(path); }
+
+  // `path` begins with a slash. Gives the path's whole address back.
+  std::string serve(const std::string& path, Answer answer);
+
+  // In the order in which they arrived.
+  std::vector<Request> requests() const;
+  std::size_t requestsFor(std::string_view path) const;
+
+  // Now, and the most there have been at any one time.
+  int connections() const;
+  int mostConnections() const;
+
+  // Wait until it is so, or for a generous time; whether it came to be.
+  bool waitForRequests(std::size_t count) const;
+  bool waitForConnections(int count) const;
+
+ private:
+  void listenAndServe(std::function<void(int port)> listening);
+  void accept(QTcpSocket& client);
+  // Answers what is whole of `received`, and leaves the rest.
+  void answerRequests(QTcpSocket& client, std::string& received);
+  void count(int change);
+
+  mutable std::mutex mutex_;
+  mutable std::condition_variable changed_;
+  std::map<std::string, Answer, std::less<>> answers_;
+  std::vector<Request> requests_;
+  int connections_ = 0;
+  int mostConnections_ = 0;
+  int port_ = 0;
+  std::unique_ptr<QThread> thread_;
+};
+
+}  // namespace leafund

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "shell/Storyboard.h"
+
+namespace leafund {
+
+// A screen of the application's own storyboard, not yet loaded.
+template <class Screen>
+std::shared_ptr<Screen> makeScreen(std::string_view sceneName) {
+  return std::dynamic_pointer_cast<Screen>(
+      mainStoryboard().instantiateViewControllerWithIdentifier(sceneName));
+}
+
+// A screen that writes its segues down instead of performing them. The scene is built by the
+// application's own description of it.
+template <class Screen>
+class Recording : public Screen {
+ public:
+  std::vector<std::string> segues;
+  Sender lastSender;
+
+  void performSegueWithIdentifierSender(std::string_view identifier,
+                                        const Sender& sender) override {
+    segues.emplace_back(identifier);
+    lastSender = sender;
+  }
+};
+
+// A storyboard like the application's, in which the named scene's screen is another class.
+inline UIStoryboard storyboardWith(const std::string& sceneName,
+                                   std::function<std::shared_ptr<UIViewController>()> make,
+                                   const std::string& initial = "LandingPageVC") {
+  auto scenes = mainStoryboard().scenes();
+  for (auto& scene : scenes) {
+    if (scene.name == sceneName) scene.make = make;
+  }
+  return UIStoryboard(initial, std::move(scenes), mainStoryboard().segues());
+}
+
+// A recording screen with its storyboard, which must outlive it.
+template <class Screen>
+struct RecordedScreen {
+  explicit RecordedScreen(const std::string& sceneName)
+      : storyboard(storyboardWith(sceneName,
+                                  [] { return std::make_shared<Recording<Screen>>(); })),
+        screen(std::static_pointer_cast<Recording<Screen>>(
+            storyboard.instantiateViewControllerWithIdentifier(sceneName))) {}
+  Recording<Screen>* operator->() const { return screen.get(); }
+
+  UIStoryboard storyboard;
+  std::shared_ptr<Recording<Screen>> screen;
+};
+
+}  // namespace leafund
