@@ -11,11 +11,12 @@ void NSURLSessionDataTask::resume() {
   if (!handler_) return;
   auto handler = std::make_shared<CompletionHandler>(std::exchange(handler_, nullptr));
   currentHost().transfer(request_, [handler](NSData body, std::optional<NSURLResponse> response,
-                                             std::optional<NSError> error) mutable {
+                                             std::optional<NSError> error) {
     if (body && body->empty()) body = nullptr;
-    (*handler)(std::move(body), std::move(response), std::move(error));
-    // Moved out of this closure: the host may destroy the closure on its own thread.
-    currentHost().post([kept = std::exchange(handler, nullptr)] {});
+    // Taken out of this closure: the host may destroy it, and copies of it, on its own thread.
+    auto running = std::make_shared<CompletionHandler>(std::exchange(*handler, nullptr));
+    (*running)(std::move(body), std::move(response), std::move(error));
+    currentHost().post([kept = std::move(running)] {});
   });
 }
 

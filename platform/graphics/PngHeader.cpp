@@ -1,7 +1,5 @@
 #include "platform/graphics/PngHeader.h"
 
-#include <zlib.h>
-
 #include <algorithm>
 
 namespace leafund {
@@ -13,10 +11,25 @@ using namespace std::string_view_literals;
 constexpr std::string_view signature = "\x89PNG\r\n\x1A\n"sv;
 constexpr std::uint8_t paletteColours = 3;
 
+// The CRC of ISO 3309, which PNG takes over: bit by bit, since the chunks before the pixels are short.
+std::uint32_t checksumOf(std::string_view bytes) {
+  constexpr std::uint32_t polynomial = 0xEDB88320;
+  std::uint32_t checksum = 0xFFFFFFFF;
+  for (const char byte : bytes) {
+    checksum ^= static_cast<std::uint8_t>(byte);
+    for (int bit = 0; bit < 8; ++bit) checksum = (checksum >> 1) ^ (polynomial & (0U - (checksum & 1U)));
+  }
+  return ~checksum;
+}
+
 struct Chunk {
   std::string_view name;
   std::string_view data;
-  bool intact;  // Its checksum is right.
+  std::string_view nameAndData;
+  std::uint32_t checksum;
+
+  // Its checksum is right. Summed only where it is asked: a chunk to pass over may be long.
+  bool intact() const { return checksumOf(nameAndData) == checksum; }
 
   bool isNamed() const {
     return std::all_of(name.begin(), name.end(), [](char letter) {
@@ -32,10 +45,8 @@ struct Chunk {
 Chunk readChunk(ByteReader& bytes, std::size_t length) {
   const std::string_view nameAndData = bytes.take(4 + length);
   const std::uint32_t checksum = bytes.big32();
-  if (!bytes.good()) return {"\0\0\0\0"sv, {}, false};
-  const auto* first = reinterpret_cast<const Bytef*>(nameAndData.data());
-  const bool intact = crc32_z(crc32_z(0, nullptr, 0), first, nameAndData.size()) == checksum;
-  return {nameAndData.substr(0, 4), nameAndData.substr(4), intact};
+  if (!bytes.good()) return {"\0\0\0\0"sv, {}, {}, checksum};
+  return {nameAndData.substr(0, 4), nameAndData.substr(4), nameAndData, checksum};
 }
 
 bool isDepthOfColourType(std::uint8_t depth, std::uint8_t colourType) {
@@ -62,7 +73,7 @@ std::optional<ImageHeader> readImageHeader(ByteReader& bytes) {
   constexpr std::size_t length = 13;
   if (bytes.big32() != length) return std::nullopt;
   const Chunk chunk = readChunk(bytes, length);
-  if (!chunk.intact || chunk.name != "IHDR") return std::nullopt;
+  if (!chunk.intact() || chunk.name != "IHDR") return std::nullopt;
   ByteReader data{chunk.data};
   ImageHeader header{};
   header.size.width = data.big32();
@@ -95,7 +106,7 @@ bool pixelsBegin(ByteReader& bytes, bool needsPalette) {
     const Chunk chunk = readChunk(bytes, length);
     if (!chunk.isNamed()) return false;
     if (chunk.isAncillary()) continue;
-    if (!chunk.intact || !isPalette(chunk)) return false;
+    if (!chunk.intact() || !isPalette(chunk)) return false;
     needsPalette = false;
   }
   return false;

@@ -92,6 +92,7 @@ void SceneBase::tabs(const std::vector<TabTraits>& tabs) {
     container->addTab(item, tab.sceneName);
   }
   controller_.tabContainer_ = container;
+  container->tabBar()->setName("tabBar");
   place(container, "tabs");
 }
 

@@ -35,13 +35,15 @@ UIApplication* UIApplication::current() { return theApplication; }
 
 void UIApplication::launch(const std::optional<LaunchOptions>& options) {
   auto navigation = std::make_shared<UINavigationController>();
-  navigation->setSize(size_);
   delegate_->setWindow(std::make_shared<UIWindow>(navigation));
   delegate_->applicationDidFinishLaunchingWithOptions(*this, options);
   navigation_ = std::move(navigation);
-  turn([this] {
-    navigation_->pushViewController(storyboard_.instantiateInitialViewController());
-  });
+  navigation_->setSize(size_);
+  // Ahead of what was raised before the launch: nothing from outside meets a stack without a
+  // screen.
+  pending_.emplace_front(
+      [this] { navigation_->pushViewController(storyboard_.instantiateInitialViewController()); });
+  turn([] {});
 }
 
 void UIApplication::turn(std::function<void()> work) {
@@ -128,9 +130,13 @@ void UIApplication::tapReached(const std::shared_ptr<UIView>& view) {
     controllerOf(*cell)->performSegueWithIdentifierSender(cell->segueIdentifier(), cell);
     return;
   }
+  // Gathered first: what one of them does may take away the view that holds the next.
+  std::vector<std::shared_ptr<UITapGestureRecognizer>> recognizers;
   for (const auto* each = view.get(); each != nullptr; each = each->superview()) {
-    for (const auto& recognizer : each->gestureRecognizers()) recognizer->recognize();
+    const auto& own = each->gestureRecognizers();
+    recognizers.insert(recognizers.end(), own.begin(), own.end());
   }
+  for (const auto& recognizer : recognizers) recognizer->recognize();
 }
 
 void UIApplication::beginEditing(const std::shared_ptr<UITextInput>& input) {
@@ -187,7 +193,9 @@ void UIApplication::tell(void (UIApplicationDelegate::*call)(UIApplication&)) {
 }
 
 void UIApplication::resignActive() { tell(&UIApplicationDelegate::applicationWillResignActive); }
-void UIApplication::enterBackground() { tell(&UIApplicationDelegate::applicationDidEnterBackground); }
+void UIApplication::enterBackground() {
+  tell(&UIApplicationDelegate::applicationDidEnterBackground);
+}
 void UIApplication::enterForeground() {
   tell(&UIApplicationDelegate::applicationWillEnterForeground);
 }

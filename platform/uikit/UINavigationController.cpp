@@ -18,8 +18,9 @@ void UINavigationController::pushViewController(std::shared_ptr<UIViewController
 
 void UINavigationController::popToViewController(
     const std::shared_ptr<UIViewController>& controller) {
-  const auto found = std::find(stack_.begin(), stack_.end(), controller);
-  stack_.erase(std::next(found), stack_.end());
+  const auto above = std::next(std::find(stack_.begin(), stack_.end(), controller));
+  std::for_each(above, stack_.end(), [](const auto& leaving) { leaving->navigation_.reset(); });
+  stack_.erase(above, stack_.end());
   appear(true);
 }
 
@@ -36,12 +37,15 @@ bool UINavigationController::canGoBack(const UIViewController& controller) const
 
 std::shared_ptr<UIViewController> UINavigationController::nearestBelow(
     const UIViewController& controller, std::string_view sceneName) const {
+  const auto* standing = &controller;  // itself or, for a tab's screen, the one that holds the tabs
+  while (standing->parentViewController() != nullptr) standing = standing->parentViewController();
   const auto self = std::find_if(stack_.rbegin(), stack_.rend(),
-                                 [&](const auto& each) { return each.get() == &controller; });
-  const auto found =
-      self == stack_.rend() ? self : std::find_if(std::next(self), stack_.rend(), [&](const auto& each) {
-        return each->className() == sceneName;
-      });
+                                 [&](const auto& each) { return each.get() == standing; });
+  const auto found = self == stack_.rend()
+                         ? self
+                         : std::find_if(std::next(self), stack_.rend(), [&](const auto& each) {
+                             return each->className() == sceneName;
+                           });
   if (found == stack_.rend()) {
     fatalError(controller.className(), "no " + std::string(sceneName) + " stands below");
   }
@@ -83,7 +87,7 @@ void UINavigationController::appear(bool animated) {
   if (tabs) tabs->selectedViewController()->viewWillAppear(animated);
 }
 
-void UINavigationController::layOutShown() {
+void UINavigationController::layOutShown() const {
   const auto& top = topViewController();
   const double bar = showsBar(*top) ? kBarHeight : 0;
   top->view()->setFrame({0, bar, size_.width, std::max(0.0, size_.height - bar)});

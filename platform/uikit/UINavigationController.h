@@ -9,11 +9,12 @@
 
 namespace leafund {
 
-// The stack of screens, the last one shown. It moves at once; what the glass does to catch up is the
-// host's. Never empty once it has its root.
+// The stack of screens, the last one shown. It moves at once; what the glass does to catch up is
+// the host's. Never empty once it has its root.
 class UINavigationController : public std::enable_shared_from_this<UINavigationController> {
  public:
-  static constexpr double kBarHeight = 56;  // points
+  static constexpr double kBarHeight = 56;           // points
+  static constexpr const char* kBackLabel = "Back";  // what a screen reader calls the way back
 
   const std::vector<std::shared_ptr<UIViewController>>& viewControllers() const { return stack_; }
   const std::shared_ptr<UIViewController>& topViewController() const { return stack_.back(); }
@@ -26,7 +27,8 @@ class UINavigationController : public std::enable_shared_from_this<UINavigationC
   bool goBack();
   bool canGoBack(const UIViewController& controller) const;
 
-  // The nearest screen of that scene below the given one; fatal when there is none.
+  // The nearest screen of that scene below the given one, or below the screen whose tab it is;
+  // fatal when there is none.
   std::shared_ptr<UIViewController> nearestBelow(const UIViewController& controller,
                                                  std::string_view sceneName) const;
 
@@ -42,10 +44,11 @@ class UINavigationController : public std::enable_shared_from_this<UINavigationC
   // The window's size in points; the shown screen's root view follows at once, the others when they
   // appear.
   void setSize(CGSize size);
+  // Frames the shown screen's views: by the size, and by whether the screen has a bar.
+  void layOutShown() const;
 
  private:
   void appear(bool animated);
-  void layOutShown();
 
   std::vector<std::shared_ptr<UIViewController>> stack_;
   CGSize size_;

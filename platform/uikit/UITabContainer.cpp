@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "platform/uikit/UIApplication.h"
+#include "platform/uikit/UINavigationController.h"
 #include "platform/uikit/UIViewController.h"
 
 namespace leafund {
@@ -40,9 +41,8 @@ UITabContainer::UITabContainer(UIViewController& owner)
 
 void UITabContainer::addTab(const std::shared_ptr<UITabBarItem>& item, std::string sceneName) {
   const std::size_t index = tabs_.size();
-  item->addAction("", UIControlEvent::TouchUpInside, [this, index](const Sender&) {
-    selectByUser(index);
-  });
+  item->addAction("", UIControlEvent::TouchUpInside,
+                  [this, index](const Sender&) { selectByUser(index); });
   tabBar_->addSubview(item);
   tabs_.push_back({item, std::move(sceneName)});
   if (index == 0) select(0);
@@ -66,7 +66,8 @@ void UITabContainer::selectByUser(std::size_t index) {
   if (index == selected_) return;
   select(index);
   shown_->view();
-  layOut();
+  // Through the stack, because a tab without a title gives its screen the room of the bar.
+  if (const auto navigation = owner_.navigationController()) navigation->layOutShown();
   shown_->viewWillAppear(false);
   if (auto* application = UIApplication::current()) application->noteStackChanged();
 }

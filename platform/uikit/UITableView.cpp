@@ -70,6 +70,8 @@ double UITableView::greatestOffset() const {
 }
 
 void UITableView::layoutSubviews() {
+  // A table that grew near its end would show nothing below its last row.
+  if (contentOffset().y > greatestOffset()) setContentOffset({contentOffset().x, greatestOffset()});
   const double top = contentOffset().y;
   const double bottom = top + frame().height;
   const std::ptrdiff_t first = rowAt(top);

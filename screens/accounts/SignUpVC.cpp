@@ -1,7 +1,7 @@
 #include "screens/accounts/SignUpVC.h"
 
 #include "model/Catalogue.h"
-#include "platform/foundation/CanonicalEquivalence.h"
+#include "platform/foundation/Unicode.h"
 #include "platform/foundation/Diagnostics.h"
 #include "platform/foundation/NSPredicate.h"
 #include "screens/InputMessage.h"

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/foundation/CanonicalEquivalence.h"
+#include "platform/foundation/Unicode.h"
 
 namespace leafund {
 namespace {
@@ -73,6 +73,14 @@ TEST(CanonicalEquivalenceTest, TellsDifferentTextsApart) {
 TEST(CanonicalEquivalenceTest, ABlockedMarkDoesNotMove) {
   // A letter between two marks keeps them on their own letters.
   expectBothWays({"a\u0301b\u0323", "a\u0323b\u0301"}, false);
+}
+
+TEST(CanonicalEquivalenceTest, ManyMarksOfOneKindKeepTheirOrder) {
+  const std::string mixed = "a" + repeated("\u0301\u0316\u0300\u0316", 50);
+  const std::string sorted = "a" + repeated("\u0316", 100) + repeated("\u0301\u0300", 50);
+  const std::string swapped = "a" + repeated("\u0316", 100) + repeated("\u0300\u0301", 50);
+  expectBothWays({mixed, sorted}, true);
+  expectBothWays({mixed, swapped}, false);
 }
 
 TEST(CanonicalEquivalenceTest, BytesThatAreNotUtf8EqualOnlyThemselves) {

@@ -137,6 +137,26 @@ TEST(JpegHeaderTest, AHuffmanTableWithTooManyShortCodesIsUnreadableWhereItIsUsed
   EXPECT_TRUE(isReadable(broken(0x00) + tables + end)) << "written anew";
 }
 
+TEST(JpegHeaderTest, ADcTableWithASymbolAbove15IsUnreadableWhereItIsUsed) {
+  const auto withSymbol = [](unsigned kindAndSlot, unsigned symbol) {
+    return segment(0xC4, byte(kindAndSlot) + byte(1) + std::string(15, '\0') + byte(symbol));
+  };
+  const std::string end = frame(0xC0, 2, 2) + scan();
+  EXPECT_TRUE(isReadable(tables + withSymbol(0x00, 15) + end));
+  EXPECT_FALSE(isReadable(tables + withSymbol(0x00, 16) + end));
+  EXPECT_TRUE(isReadable(tables + withSymbol(0x10, 0xFF) + end)) << "AC";
+}
+
+TEST(JpegHeaderTest, AHuffmanTableHasAtMost256Codes) {
+  const auto withCodes = [](unsigned codes) {
+    return segment(0xC4, byte(0x11) + std::string(14, '\0') + byte(codes - 200) + byte(200) +
+                             std::string(codes, '\0'));
+  };
+  const std::string end = tables + frame(0xC0, 2, 2) + scan();
+  EXPECT_TRUE(isReadable(withCodes(256) + end));
+  EXPECT_FALSE(isReadable(withCodes(257) + end));
+}
+
 TEST(JpegHeaderTest, AProgressiveScanHoldsOneBand) {
   const auto scanOf = [](unsigned first, unsigned last, unsigned bits) {
     return segment(0xDA, byte(1) + byte(1) + byte(0) + byte(first) + byte(last) + byte(bits));

@@ -1,8 +1,8 @@
-#include "platform/uikit/UIProgressView.h"
-
 #include <gtest/gtest.h>
 
 #include <limits>
+
+#include "platform/uikit/UIProgressView.h"
 
 namespace leafund {
 namespace {

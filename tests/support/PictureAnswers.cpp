@@ -107,9 +107,7 @@ Answer neverAnswers() {
   return [](QTcpSocket&) {};
 }
 
-Answer stallMidBody() {
-  return bytes(statusLine200 + lengthLine(1000) + "\r\nonly the beginning");
-}
+Answer stallMidBody() { return bytes(statusLine200 + lengthLine(1000) + "\r\nonly the beginning"); }
 
 Answer endless() {
   return [](QTcpSocket& client) {
@@ -134,7 +132,6 @@ const Table& transportFaults() {
                            {"closeAtOnce", closeAtOnce()},
                            {"resetMidBody", resetMidBody()},
                            {"shortContentLength", shortContentLength()},
-                           {"cutChunk", cutChunk()},
                            {"noHttp", noHttp()}};
   return table;
 }

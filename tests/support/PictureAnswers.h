@@ -25,7 +25,7 @@ PictureServer::Answer resetAtOnce();
 PictureServer::Answer closeAtOnce();
 PictureServer::Answer resetMidBody();
 PictureServer::Answer shortContentLength();  // The body ends before its announced length.
-PictureServer::Answer cutChunk();
+PictureServer::Answer cutChunk();            // "whole", and then some of the next chunk.
 PictureServer::Answer noHttp();
 PictureServer::Answer neverAnswers();
 PictureServer::Answer stallMidBody();
@@ -41,8 +41,8 @@ PictureServer::Answer headerOnly();  // 200 without a length, closed after the h
 // Answers by name: a new one takes its function and a line here, and every test that walks the
 // table meets it.
 using Table = std::map<std::string, PictureServer::Answer>;
-const Table& transportFaults();    // End in an error as soon as they are met.
-const Table& silences();           // End in an error after the idle time.
+const Table& transportFaults();  // End in an error as soon as they are met.
+const Table& silences();         // End in an error after the idle time.
 const Table& answersWithoutBody();
 
 }  // namespace leafund::answers

@@ -1,11 +1,11 @@
 #pragma once
 
 #include <QThread>
-#include <chrono>
 #include <condition_variable>
 #include <cstddef>
 #include <functional>
 #include <map>
+#include <memory>
 #include <mutex>
 #include <string>
 #include <string_view>

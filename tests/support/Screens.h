@@ -45,8 +45,7 @@ inline UIStoryboard storyboardWith(const std::string& sceneName,
 template <class Screen>
 struct RecordedScreen {
   explicit RecordedScreen(const std::string& sceneName)
-      : storyboard(storyboardWith(sceneName,
-                                  [] { return std::make_shared<Recording<Screen>>(); })),
+      : storyboard(storyboardWith(sceneName, [] { return std::make_shared<Recording<Screen>>(); })),
         screen(std::static_pointer_cast<Recording<Screen>>(
             storyboard.instantiateViewControllerWithIdentifier(sceneName))) {}
   Recording<Screen>* operator->() const { return screen.get(); }

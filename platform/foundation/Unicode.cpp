@@ -1,11 +1,15 @@
-#include "platform/foundation/CanonicalEquivalence.h"
+#include "platform/foundation/Unicode.h"
 
 #include <unicode/normalizer2.h>
+#include <unicode/regex.h>
 #include <unicode/uchar.h>
 #include <unicode/unistr.h>
+#include <unicode/ustring.h>
 #include <unicode/utf8.h>
 
 #include <algorithm>
+#include <limits>
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -85,6 +89,22 @@ std::optional<std::u32string> canonicalForm(std::string_view utf8) {
   return form;
 }
 
+// Nothing for a text that is not UTF-8, or too long for ICU, which counts in 32 bits.
+std::optional<icu::UnicodeString> utf16From(std::string_view utf8) {
+  // UTF-16 never needs more units than UTF-8 needs bytes.
+  if (utf8.size() >= std::numeric_limits<int32_t>::max()) return std::nullopt;
+  const auto size = static_cast<int32_t>(utf8.size());
+  icu::UnicodeString text;
+  char16_t* buffer = text.getBuffer(size);
+  if (buffer == nullptr) return std::nullopt;
+  int32_t units = 0;
+  UErrorCode status = U_ZERO_ERROR;
+  u_strFromUTF8(buffer, text.getCapacity(), &units, utf8.data(), size, &status);
+  text.releaseBuffer(U_SUCCESS(status) ? units : 0);
+  if (U_FAILURE(status)) return std::nullopt;
+  return text;
+}
+
 }  // namespace
 
 bool canonicallyEquivalent(std::string_view a, std::string_view b) {
@@ -93,6 +113,21 @@ bool canonicallyEquivalent(std::string_view a, std::string_view b) {
   if (!formOfA) return false;
   const auto formOfB = canonicalForm(b);
   return formOfB && *formOfA == *formOfB;
+}
+
+std::optional<bool> matchesWholeText(std::string_view pattern, std::string_view text) {
+  const auto expression = utf16From(pattern);
+  if (!expression) return std::nullopt;
+  UErrorCode status = U_ZERO_ERROR;
+  const std::unique_ptr<icu::RegexPattern> compiled{
+      icu::RegexPattern::compile(*expression, 0, status)};
+  if (U_FAILURE(status)) return std::nullopt;
+  const auto subject = utf16From(text);
+  if (!subject) return false;
+  const std::unique_ptr<icu::RegexMatcher> matcher{compiled->matcher(*subject, status)};
+  if (U_FAILURE(status)) return false;
+  const bool matches = matcher->matches(status);
+  return U_SUCCESS(status) && matches;
 }
 
 }  // namespace leafund

@@ -1,0 +1,42 @@
+import QtQuick
+import Leafund
+
+// A button with words on it.
+Pressable {
+    id: button
+
+    required property ViewObject view
+    property bool primary: true
+    readonly property alias text: label.text
+
+    objectName: view.name
+    visible: view.visible
+    implicitWidth: label.implicitWidth + 2 * Theme.space
+    implicitHeight: Math.max(Theme.target, label.implicitHeight + 2 * Theme.unit)
+
+    onPressed: view.tap()
+
+    Accessible.name: view.text
+
+    Rectangle {
+        anchors.fill: parent
+        radius: Theme.radius
+        color: button.primary ? (button.held ? Theme.accentDeep : Theme.accent)
+                              : (button.held ? Theme.accentPale : Theme.card)
+        border { width: Theme.hairline; color: Theme.accent }
+    }
+
+    Text {
+        id: label
+        anchors { fill: parent; leftMargin: Theme.unit; rightMargin: Theme.unit }
+        text: button.view.text
+        textFormat: Text.PlainText
+        horizontalAlignment: Text.AlignHCenter
+        verticalAlignment: Text.AlignVCenter
+        fontSizeMode: Text.HorizontalFit
+        minimumPointSize: Theme.small
+        color: button.primary ? Theme.accentInk : Theme.accentDeep
+        font { pointSize: Theme.lead; weight: Font.Bold }
+        Accessible.ignored: true
+    }
+}

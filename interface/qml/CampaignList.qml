@@ -1,0 +1,65 @@
+import QtQuick
+import Leafund
+
+// A table of campaigns. The toolkit says how long it is and which rows are shown where.
+FocusScope {
+    id: list
+
+    required property SceneObject scene
+    readonly property var views: scene.views
+    readonly property ViewObject table: scene.root
+
+    x: table.x
+    y: table.y
+    width: table.width
+    height: table.height
+
+    function scrollBy(distance) {
+        const lowest = Math.max(0, flickable.contentHeight - flickable.height);
+        flickable.contentY = Math.max(0, Math.min(lowest, flickable.contentY + distance));
+    }
+
+    // The row in focus stays in sight, and some of the next: only rows in sight can be reached.
+    readonly property Item focused: Window.activeFocusItem
+    onFocusedChanged: {
+        if (!focused || focused.parent !== rows)
+            return;
+        const above = focused.y - Theme.peek - flickable.contentY;
+        const below = focused.y + focused.height + Theme.peek - flickable.contentY - flickable.height;
+        scrollBy(above < 0 ? above : Math.max(0, below));
+    }
+
+    Keys.onUpPressed: scrollBy(-Theme.step)
+    Keys.onDownPressed: scrollBy(Theme.step)
+    Keys.onPressed: event => {
+        event.accepted = event.key === Qt.Key_PageUp || event.key === Qt.Key_PageDown;
+        if (event.accepted)
+            scrollBy((event.key === Qt.Key_PageUp ? -1 : 1) * (height - Theme.step));
+    }
+
+    Flickable {
+        id: flickable
+        objectName: "table"
+        anchors.fill: parent
+        contentHeight: list.table.contentHeight
+        boundsBehavior: Flickable.StopAtBounds
+        clip: true
+        onContentYChanged: list.table.scroll(contentY)
+
+        // No binding: it would end a flick at each refresh.
+        readonly property real offset: list.table.contentOffset
+        onOffsetChanged: if (offset !== contentY) contentY = offset
+
+        Accessible.role: Accessible.List
+
+        TableRows {
+            id: rows
+            width: flickable.width
+            height: flickable.contentHeight
+            table: list.table
+            delegate: Component { CampaignRow {} }
+        }
+    }
+
+    ScrollMark { target: flickable }
+}

@@ -1,0 +1,72 @@
+import QtQuick
+import Leafund
+
+// A row of a campaign list: on its card a round picture, the title and the pitch.
+Pressable {
+    id: row
+
+    required property ViewObject view
+
+    readonly property real inset: Math.max(Theme.gap, (width - Theme.column) / 2)
+
+    x: view.x
+    y: view.y
+    width: view.width
+    height: view.height
+    visible: view.visible
+    ringOutset: -Theme.half
+
+    onPressed: view.tap()
+
+    Accessible.role: Accessible.ListItem
+    Accessible.name: title.text
+    Accessible.description: pitch.text
+
+    CardItem {
+        anchors.fill: parent
+        view: row.view.parts.content
+        ground: Theme.ground
+    }
+
+    Picture {
+        id: picture
+        view: row.view.parts.picture
+        description: title.text
+        x: row.inset
+        anchors { verticalCenter: parent.verticalCenter; verticalCenterOffset: Theme.cardOffset }
+        width: view.width
+        height: view.height
+        Accessible.ignored: true
+    }
+
+    Column {
+        anchors { left: picture.right; leftMargin: Theme.gap; right: parent.right; rightMargin: row.inset }
+        anchors { verticalCenter: parent.verticalCenter; verticalCenterOffset: Theme.cardOffset }
+        spacing: Theme.half
+
+        Text {
+            id: title
+            width: parent.width
+            text: row.view.parts.title.text
+            textFormat: Text.PlainText
+            wrapMode: Text.Wrap
+            maximumLineCount: 2
+            elide: Text.ElideRight
+            color: Theme.ink
+            font { pointSize: Theme.lead; weight: Font.Bold }
+            Accessible.ignored: true
+        }
+        Text {
+            id: pitch
+            width: parent.width
+            text: row.view.parts.detail.text
+            textFormat: Text.PlainText
+            wrapMode: Text.Wrap
+            maximumLineCount: 4
+            elide: Text.ElideRight
+            color: Theme.quiet
+            font.pointSize: Theme.body
+            Accessible.ignored: true
+        }
+    }
+}

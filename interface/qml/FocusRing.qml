@@ -1,0 +1,17 @@
+import QtQuick
+import Leafund
+
+// Shows where the keyboard is.
+Rectangle {
+    property alias target: watch.target
+    property real outset: Theme.half
+
+    anchors.fill: parent
+    anchors.margins: -outset
+    visible: watch.ring
+    color: Theme.none
+    border { width: Theme.ringWidth; color: Theme.accentDeep }
+    radius: Theme.radius + Theme.half
+
+    FocusWatch { id: watch }
+}

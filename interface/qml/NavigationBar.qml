@@ -1,0 +1,58 @@
+import QtQuick
+import Leafund
+
+// The bar on top of a screen: the way back where there is one, the title, and what the screen adds.
+Rectangle {
+    id: bar
+
+    required property SceneObject scene
+    default property alias trailing: trailing.data
+
+    color: Theme.card
+
+    Pressable {
+        id: back
+        objectName: "backButton"
+        x: Theme.half
+        anchors.verticalCenter: parent.verticalCenter
+        width: Theme.target
+        height: Theme.target
+        visible: bar.scene.canGoBack
+        ringOutset: 0
+        onPressed: bar.scene.goBack()
+        Accessible.name: bar.scene.backLabel
+
+        IconItem {
+            anchors.centerIn: parent
+            width: Theme.icon
+            height: Theme.icon
+            icon: IconItem.Back
+            color: Theme.accentDeep
+        }
+    }
+
+    Text {
+        objectName: "barTitle"
+        anchors.verticalCenter: parent.verticalCenter
+        x: back.visible ? back.x + back.width : Theme.gap
+        width: (trailing.width > 0 ? trailing.x : bar.width) - x - Theme.unit
+        text: bar.scene.title
+        textFormat: Text.PlainText
+        elide: Text.ElideRight
+        color: Theme.ink
+        font { pointSize: Theme.lead; weight: Font.Bold }
+        Accessible.role: Accessible.Heading
+        Accessible.name: text
+    }
+
+    Row {
+        id: trailing
+        anchors { right: parent.right; rightMargin: Theme.unit; verticalCenter: parent.verticalCenter }
+    }
+
+    Rectangle {
+        anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
+        height: Theme.hairline
+        color: Theme.line
+    }
+}

@@ -1,0 +1,44 @@
+import QtQuick
+import Leafund
+
+// A screen: the navigation bar where it has one, and below it the content where the toolkit placed
+// the root view.
+FocusScope {
+    id: page
+
+    required property SceneObject scene
+    readonly property var views: scene.views
+    default property alias content: content.data
+    property alias barContent: bar.trailing
+    readonly property int slideDuration: Theme.slideDuration
+
+    width: scene.root.width
+    height: scene.root.y + scene.root.height
+
+    Rectangle {
+        anchors.fill: parent
+        color: Theme.ground
+    }
+
+    // What no control takes for itself goes to the screen.
+    MouseArea {
+        anchors.fill: parent
+        onClicked: page.scene.root.tap()
+    }
+
+    NavigationBar {
+        id: bar
+        scene: page.scene
+        width: parent.width
+        height: page.scene.root.y
+        visible: page.scene.barShown
+    }
+
+    Item {
+        id: content
+        x: page.scene.root.x
+        y: page.scene.root.y
+        width: page.scene.root.width
+        height: page.scene.root.height
+    }
+}

@@ -1,0 +1,40 @@
+import QtQuick
+import Leafund
+
+// Whatever is pressed: by finger, pointer, Enter, Space or assistive technology. Pressing it takes
+// the focus, so that an input the user was in is left.
+Item {
+    id: pressable
+
+    signal pressed
+    readonly property bool held: area.pressed
+    property alias ringOutset: ring.outset
+
+    activeFocusOnTab: true
+
+    function press() {
+        forceActiveFocus(Qt.MouseFocusReason);
+        pressed();
+    }
+
+    Keys.onReturnPressed: pressed()
+    Keys.onEnterPressed: pressed()
+    Keys.onSpacePressed: pressed()
+
+    Accessible.role: Accessible.Button
+    Accessible.focusable: true
+    Accessible.onPressAction: pressed()
+
+    MouseArea {
+        id: area
+        anchors.fill: parent
+        cursorShape: Qt.PointingHandCursor
+        onClicked: pressable.press()
+    }
+
+    FocusRing {
+        id: ring
+        target: pressable
+        z: 1
+    }
+}

@@ -1,0 +1,51 @@
+import QtQuick
+import Leafund
+
+// How far something has come. It fills from where the last change began.
+Item {
+    id: progress
+
+    required property ViewObject view
+    property real shown: view.progressFrom
+
+    // What assistive technology reads, by these names.
+    readonly property real value: Math.round(view.progress * 100)
+    readonly property real minimumValue: 0
+    readonly property real maximumValue: 100
+
+    objectName: view.name
+    visible: view.visible
+    implicitHeight: Theme.bar
+
+    readonly property real goal: view.progress
+    onGoalChanged: fill.restart()
+    Component.onCompleted: fill.restart()
+
+    NumberAnimation {
+        id: fill
+        target: progress
+        property: "shown"
+        from: progress.view.progressFrom
+        to: progress.view.progress
+        duration: Theme.fillDuration
+        easing.type: Easing.OutCubic
+    }
+
+    Accessible.role: Accessible.ProgressBar
+    Accessible.name: view.accessibleName
+
+    Rectangle {
+        anchors.fill: parent
+        radius: height / 2
+        color: Theme.accentPale
+        border { width: Theme.hairline; color: Theme.line }
+    }
+
+    Rectangle {
+        width: Math.max(height, parent.width * progress.shown)
+        height: parent.height
+        radius: height / 2
+        visible: progress.shown > 0
+        color: Theme.accent
+    }
+}

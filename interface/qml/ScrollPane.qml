@@ -1,0 +1,75 @@
+import QtQuick
+import Leafund
+
+// A column of controls that scrolls where the screen is too short for it, and keeps the control in
+// focus in sight. The column stands in the middle of a wide screen, and of a high one on demand.
+Item {
+    id: pane
+
+    default property alias content: column.data
+    property bool centred: false
+    property alias spacing: column.spacing
+
+    anchors.fill: parent
+    // The keys that scroll work as soon as the screen is there. A pane without any control in it
+    // sets activeFocusOnTab besides, so that the keyboard finds its way back to it.
+    focus: true
+
+    function reveal() {
+        const item = Window.activeFocusItem;
+        for (let each = item; each !== column; each = each.parent)
+            if (!each)
+                return;
+        const whole = item.mapToItem(column, 0, 0, item.width, item.height);
+        const caret = item.cursorRectangle;
+        const shown = caret ? item.mapToItem(column, caret) : whole;
+        const top = column.y + shown.y - Theme.wide;
+        const bottom = column.y + shown.y + shown.height + Theme.space;
+        const lowest = Math.max(0, flickable.contentHeight - flickable.height);
+        if (bottom > flickable.contentY + flickable.height)
+            flickable.contentY = Math.min(lowest, bottom - flickable.height);
+        if (top < flickable.contentY)
+            flickable.contentY = Math.max(0, top);
+    }
+
+    function scrollBy(distance) {
+        const lowest = Math.max(0, flickable.contentHeight - flickable.height);
+        flickable.contentY = Math.max(0, Math.min(lowest, flickable.contentY + distance));
+    }
+
+    readonly property Item focused: Window.activeFocusItem
+    onFocusedChanged: reveal()
+    onHeightChanged: Qt.callLater(reveal)
+
+    Keys.onUpPressed: scrollBy(-Theme.step)
+    Keys.onDownPressed: scrollBy(Theme.step)
+    Keys.onPressed: event => {
+        event.accepted = event.key === Qt.Key_PageUp || event.key === Qt.Key_PageDown;
+        if (event.accepted)
+            scrollBy((event.key === Qt.Key_PageUp ? -1 : 1) * (height - Theme.step));
+    }
+
+    Flickable {
+        id: flickable
+        anchors.fill: parent
+        contentHeight: Math.max(height, column.height + 2 * Theme.space)
+        boundsBehavior: Flickable.StopAtBounds
+        interactive: contentHeight > height
+        clip: true
+        onContentHeightChanged: Qt.callLater(pane.reveal)
+
+        Column {
+            id: column
+            width: Math.min(Theme.column, pane.width - 2 * Theme.space)
+            x: (pane.width - width) / 2
+            y: pane.centred ? Math.max(Theme.space, (pane.height - height) / 2) : Theme.space
+            spacing: Theme.gap
+        }
+    }
+
+    ScrollMark { target: flickable }
+    FocusRing {
+        target: pane
+        outset: -Theme.half
+    }
+}

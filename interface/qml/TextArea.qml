@@ -1,0 +1,42 @@
+import QtQuick
+import Leafund
+
+// An input of many lines, as high as its text.
+EntryBox {
+    id: area
+
+    input: editor
+
+    FontMetrics {
+        id: metrics
+        font: editor.font
+    }
+
+    TextEdit {
+        id: editor
+        objectName: area.view.name
+        width: parent.width
+        height: Math.max(implicitHeight, Theme.areaLines * metrics.lineSpacing)
+        activeFocusOnTab: true
+        text: area.view.text
+        textFormat: TextEdit.PlainText
+        wrapMode: TextEdit.Wrap
+        color: area.view.textColor
+        font { pointSize: Theme.lead; weight: area.view.coloured ? Font.Bold : Font.Normal }
+        inputMethodHints: area.view.inputHints | Qt.ImhMultiLine
+        selectByMouse: true
+        selectionColor: Theme.accentDeep
+        selectedTextColor: Theme.accentInk
+
+        // What the toolkit wrote comes back equal and is no edit.
+        onTextChanged: if (text !== area.view.text) area.view.edit(text)
+
+        // Tab leads on, as everywhere.
+        Keys.onTabPressed: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
+        Keys.onBacktabPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
+
+        Accessible.role: Accessible.EditableText
+        Accessible.name: area.view.accessibleName
+        Accessible.multiLine: true
+    }
+}

@@ -1,0 +1,10 @@
+import QtQuick
+import Leafund
+
+// The place of a view that nobody sees.
+Item {
+    required property ViewObject view
+
+    objectName: view.name
+    visible: false
+}

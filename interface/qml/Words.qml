@@ -1,0 +1,22 @@
+import QtQuick
+import Leafund
+
+// Words that the user reads.
+Text {
+    id: words
+
+    required property ViewObject view
+    property bool heading: false
+
+    objectName: view.name
+    visible: view.visible
+    text: view.text
+    textFormat: Text.PlainText
+    wrapMode: Text.Wrap
+    color: Theme.ink
+    font.pointSize: Theme.body
+    lineHeight: 1.2
+
+    Accessible.role: heading ? Accessible.Heading : Accessible.StaticText
+    Accessible.name: text
+}

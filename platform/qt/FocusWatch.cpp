@@ -1,0 +1,80 @@
+#include "platform/qt/FocusWatch.h"
+
+#include <QFocusEvent>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <utility>
+
+namespace leafund {
+
+namespace {
+
+bool writes(const QKeyEvent& key) {
+  if (key.key() == Qt::Key_Backspace || key.key() == Qt::Key_Delete) return true;
+  return !key.text().isEmpty() && key.text().front().isPrint();
+}
+
+bool writes(const QInputMethodEvent& composition) {
+  return !composition.preeditString().isEmpty() || !composition.commitString().isEmpty();
+}
+
+}  // namespace
+
+void FocusWatch::setTarget(QQuickItem* target) {
+  if (target == target_) return;
+  if (target_) target_->removeEventFilter(this);
+  target_ = target;
+  if (target_) target_->installEventFilter(this);
+  emit targetChanged();
+}
+
+bool FocusWatch::eventFilter(QObject*, QEvent* event) {
+  switch (event->type()) {
+    case QEvent::FocusIn:
+      focusIn(static_cast<QFocusEvent*>(event)->reason());
+      break;
+    case QEvent::FocusOut:
+      focusOut(static_cast<QFocusEvent*>(event)->reason());
+      break;
+    case QEvent::MouseButtonPress:
+    case QEvent::TouchBegin:
+      if (target_->hasActiveFocus()) enter();
+      break;
+    case QEvent::KeyPress:
+      if (writes(*static_cast<QKeyEvent*>(event))) enter();
+      break;
+    case QEvent::InputMethod:
+      if (writes(*static_cast<QInputMethodEvent*>(event))) enter();
+      break;
+    default:
+      break;
+  }
+  return false;
+}
+
+void FocusWatch::focusIn(Qt::FocusReason reason) {
+  if (reason != Qt::ActiveWindowFocusReason) {
+    byKeyboard_ = reason != Qt::MouseFocusReason;
+    enter();
+  }
+  setRing(byKeyboard_);
+}
+
+void FocusWatch::focusOut(Qt::FocusReason reason) {
+  setRing(false);
+  // The user is still in it when the window is only put aside for a moment.
+  if (reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason) return;
+  if (!std::exchange(inside_, false)) return;
+  emit left();
+}
+
+void FocusWatch::enter() {
+  if (std::exchange(inside_, true)) return;
+  emit entered();
+}
+
+void FocusWatch::setRing(bool ring) {
+  if (std::exchange(ring_, ring) != ring) emit ringChanged();
+}
+
+}  // namespace leafund

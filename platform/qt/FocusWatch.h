@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QPointer>
+#include <QQuickItem>
+#include <QtQmlIntegration/qqmlintegration.h>
+
+namespace leafund {
+
+// Tells how an item has the focus. Entering and leaving count only when the user does it: not when
+// the window becomes active again, nor when a screen comes back, both of which give the focus with
+// Qt::ActiveWindowFocusReason. Whoever then types or presses into the item has entered it too.
+class FocusWatch : public QObject {
+  Q_OBJECT
+  QML_ELEMENT
+  Q_PROPERTY(QQuickItem* target READ target WRITE setTarget NOTIFY targetChanged)
+  // The item has the focus by the keyboard or by assistive technology, which must be seen.
+  Q_PROPERTY(bool ring READ ring NOTIFY ringChanged)
+
+ public:
+  using QObject::QObject;
+
+  QQuickItem* target() const { return target_; }
+  void setTarget(QQuickItem* target);
+  bool ring() const { return ring_; }
+
+  bool eventFilter(QObject* object, QEvent* event) override;
+
+ signals:
+  void targetChanged();
+  void ringChanged();
+  void entered();
+  void left();
+
+ private:
+  void focusIn(Qt::FocusReason reason);
+  void focusOut(Qt::FocusReason reason);
+  void enter();
+  void setRing(bool ring);
+
+  QPointer<QQuickItem> target_;
+  bool inside_ = false;
+  bool byKeyboard_ = false;  // the last way in
+  bool ring_ = false;
+};
+
+}  // namespace leafund

@@ -1,0 +1,133 @@
+#include "platform/qt/PicturePixels.h"
+
+#include <QBuffer>
+#include <QImageReader>
+#include <QPainter>
+#include <algorithm>
+#include <cmath>
+
+#include "platform/graphics/PictureHeader.h"
+
+namespace leafund {
+
+namespace {
+
+const char* readerName(PictureHeader::Format format) {
+  switch (format) {
+    case PictureHeader::Format::JPEG:
+      return "jpeg";
+    case PictureHeader::Format::PNG:
+      return "png";
+    case PictureHeader::Format::GIF:
+      return "gif";
+  }
+  return "";
+}
+
+// How large the whole picture is drawn, of which the pixels asked for show the middle.
+QSizeF wholeSize(CGSize picture, QSize pixels, UIViewContentMode mode) {
+  if (mode == UIViewContentMode::ScaleToFill) return pixels;
+  const double scale = std::max(pixels.width() / picture.width, pixels.height() / picture.height);
+  return {std::max(picture.width * scale, 1.0 * pixels.width()),
+          std::max(picture.height * scale, 1.0 * pixels.height())};
+}
+
+// `size` in whole pixels, and no larger than the picture, whose pixels say no more than they do.
+QSize decodedSize(QSizeF size, QSize most) {
+  const auto side = [](double length, int longest) {
+    return static_cast<int>(std::clamp(std::round(length), 1.0, 1.0 * longest));
+  };
+  return {side(size.width(), most.width()), side(size.height(), most.height())};
+}
+
+QSize ownPixels(const UIImage& image) {
+  const auto side = [&image](double points) {
+    return static_cast<int>(std::clamp(std::round(points * image.scale()), 1.0, 16384.0));
+  };
+  return {side(image.size().width), side(image.size().height)};
+}
+
+// The format is named and not guessed by the reader, whose plug-ins may know formats that read
+// other files.
+QImage decoded(const std::string& body, PictureHeader::Format format, QSize size) {
+  auto bytes = QByteArray::fromRawData(body.data(), static_cast<qsizetype>(body.size()));
+  QBuffer buffer(&bytes);
+  QImageReader reader(&buffer, readerName(format));
+  reader.setAutoDetectImageFormat(false);
+  reader.setAutoTransform(false);
+  reader.setScaledSize(size);
+  return reader.read();
+}
+
+// The middle of a picture that is drawn at the size `whole`, of which it may be a smaller version.
+QImage middle(const QImage& picture, QSizeF whole, QSize pixels) {
+  if (picture.isNull() || picture.size() == pixels) return picture;
+  const QSizeF shown(pixels.width() * picture.width() / whole.width(),
+                     pixels.height() * picture.height() / whole.height());
+  const QPointF corner((picture.width() - shown.width()) / 2,
+                       (picture.height() - shown.height()) / 2);
+  if (shown.toSize() == pixels) return picture.copy({corner.toPoint(), pixels});
+  QImage result(pixels, picture.format());
+  if (result.isNull()) return result;
+  result.fill(Qt::transparent);
+  QPainter painter(&result);
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  painter.drawImage(QRectF(QPointF(), pixels), picture, {corner, shown});
+  return result;
+}
+
+QImage bodyPixels(const std::string& body, QSize pixels, UIViewContentMode mode) {
+  const auto header = readPictureHeader(body);
+  if (!header) return {};
+  const QSizeF whole = wholeSize({1.0 * header->width, 1.0 * header->height}, pixels, mode);
+  const QSize size = decodedSize(whole, {header->width, header->height});
+  QImage picture = decoded(body, header->format, size);
+  if (picture.isNull()) return picture;
+  const bool isJpeg = header->format == PictureHeader::Format::JPEG;
+  picture.convertTo(isJpeg ? QImage::Format_RGB32 : QImage::Format_ARGB32_Premultiplied);
+  return middle(picture, whole, pixels);
+}
+
+// Whether the drawing is one picture over all of it, as a resize makes it.
+bool isOnePicture(const Drawing& drawing) {
+  return drawing.strokes.size() == 1 && !drawing.opaque &&
+         drawing.strokes[0].rect == CGRect{0, 0, drawing.size.width, drawing.size.height};
+}
+
+QImage stretched(const UIImage& image, QSizeF size) {
+  return picturePixels(image, decodedSize(size, ownPixels(image)), UIViewContentMode::ScaleToFill);
+}
+
+QImage drawingPixels(const Drawing& drawing, QSize pixels, UIViewContentMode mode) {
+  if (drawing.size.width <= 0 || drawing.size.height <= 0) return {};
+  const QSizeF whole = wholeSize(drawing.size, pixels, mode);
+  if (isOnePicture(drawing)) {
+    return middle(stretched(*drawing.strokes[0].image, whole), whole, pixels);
+  }
+  QImage canvas(pixels, QImage::Format_ARGB32_Premultiplied);
+  if (canvas.isNull()) return canvas;
+  canvas.fill(drawing.opaque ? Qt::black : Qt::transparent);
+  const double across = whole.width() / drawing.size.width;
+  const double down = whole.height() / drawing.size.height;
+  QPainter painter(&canvas);
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  painter.translate((pixels.width() - whole.width()) / 2, (pixels.height() - whole.height()) / 2);
+  painter.setClipRect(QRectF(QPointF(), whole));
+  for (const auto& stroke : drawing.strokes) {
+    const CGRect& rect = stroke.rect;
+    const QRectF target(rect.x * across, rect.y * down, rect.width * across, rect.height * down);
+    const QImage picture = stretched(*stroke.image, target.size());
+    if (!picture.isNull()) painter.drawImage(target, picture);
+  }
+  return canvas;
+}
+
+}  // namespace
+
+QImage picturePixels(const UIImage& image, QSize pixels, UIViewContentMode mode) {
+  if (pixels.isEmpty()) return {};
+  return image.drawing() ? drawingPixels(*image.drawing(), pixels, mode)
+                         : bodyPixels(*image.body(), pixels, mode);
+}
+
+}  // namespace leafund

@@ -1,0 +1,134 @@
+#include "platform/qt/QtHost.h"
+
+#include <QGuiApplication>
+#include <QQmlEngine>
+#include <QThread>
+#include <utility>
+
+#include "platform/foundation/FatalError.h"
+#include "platform/foundation/NSURLRequest.h"
+#include "platform/qt/QtTransfer.h"
+#include "platform/qt/QtWindow.h"
+#include "platform/qt/SceneStage.h"
+#include "platform/uikit/UIApplication.h"
+
+// The interface's types and its compiled files stand in a static library, and without being named
+// here they would not be linked in. The resources themselves are linked as they are.
+extern void qml_register_types_Leafund();
+static void linkInterface() {
+  qml_register_types_Leafund();
+  Q_INIT_RESOURCE(qmlcache_leafund_qt);
+}
+
+namespace leafund {
+
+namespace {
+
+// How far the application is from the user: in front, in sight, out of sight.
+enum class Activity { Background, Inactive, Active };
+
+Activity activityOf(Qt::ApplicationState state) {
+  if (state == Qt::ApplicationActive) return Activity::Active;
+  return state == Qt::ApplicationInactive ? Activity::Inactive : Activity::Background;
+}
+
+// The system may skip the middle; the application hears of every step.
+class ActivityReport {
+ public:
+  void reach(Activity reached) {
+    auto* application = UIApplication::current();
+    if (application == nullptr) return;
+    if (activity_ == Activity::Active && reached != Activity::Active) application->resignActive();
+    if (activity_ != Activity::Background && reached == Activity::Background) {
+      application->enterBackground();
+    }
+    if (activity_ == Activity::Background && reached != Activity::Background) {
+      application->enterForeground();
+    }
+    if (activity_ != Activity::Active && reached == Activity::Active) application->becomeActive();
+    activity_ = reached;
+  }
+
+ private:
+  Activity activity_ = Activity::Inactive;
+};
+
+QFont typeface() {
+  QFont font = QGuiApplication::font();
+  font.setFamilies({QStringLiteral("Inter"), font.family()});
+  return font;
+}
+
+}  // namespace
+
+QtHost::QtHost(int argc, char** argv) : argc_(argc), argv_(argv) {}
+
+QtHost::~QtHost() { stop(); }
+
+int QtHost::run(UIApplication& application) {
+  start(application);
+  QGuiApplication::exec();
+  application.terminate();
+  stop();
+  return 0;
+}
+
+void QtHost::start(UIApplication& application) {
+  // On a phone-sized window the software renderer is on screen first and takes a third of the memory
+  // that a software OpenGL needs; it is also the only one that every machine has.
+  QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+  gui_ = std::make_unique<QGuiApplication>(argc_, argv_);
+  QGuiApplication::setDesktopFileName(QStringLiteral("leafund"));
+  QGuiApplication::setFont(typeface());
+  linkInterface();
+  openWindow();
+  QObject::connect(gui_.get(), &QGuiApplication::applicationStateChanged, &mainThread_,
+                   [report = ActivityReport()](Qt::ApplicationState state) mutable {
+                     report.reach(activityOf(state));
+                   });
+  application.resize({static_cast<double>(window_->width()), static_cast<double>(window_->height())});
+  application.launch();
+  window_->show();
+  window_->requestActivate();  // where no window manager does it, no key would arrive
+}
+
+void QtHost::openWindow() {
+  engine_ = std::make_unique<QQmlEngine>();
+  window_ = std::make_unique<QtWindow>();
+  stage_ = std::make_unique<SceneStage>(*engine_, *window_->contentItem());
+}
+
+void QtHost::stop() {
+  if (!gui_) return;
+  transfer_.reset();
+  stage_.reset();
+  // Items first, then their bridges, and both before the engine and the window they belong to.
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  window_.reset();
+  engine_.reset();
+  gui_.reset();
+}
+
+bool QtHost::onMain() const { return QThread::currentThread() == mainThread_.thread(); }
+
+void QtHost::post(std::function<void()> step) {
+  QMetaObject::invokeMethod(
+      &mainThread_,
+      [step = std::move(step)]() mutable {
+        if (auto* application = UIApplication::current()) application->turn(std::move(step));
+      },
+      Qt::QueuedConnection);
+}
+
+void QtHost::transfer(const NSURLRequest& request, CompletionHandler completion) {
+  if (!transfer_) transfer_ = std::make_unique<QtTransfer>();
+  transfer_->start(request.URL().absoluteString(), std::move(completion));
+}
+
+double QtHost::screenScale() const { return window_ ? window_->effectiveDevicePixelRatio() : 1.0; }
+
+void QtHost::show(const UINavigationController& navigation) {
+  if (stage_) stage_->show(navigation);
+}
+
+}  // namespace leafund

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QThread>
+#include <chrono>
+#include <cstddef>
+#include <memory>
+#include <string>
+
+#include "platform/Host.h"
+#include "platform/foundation/NSURLSession.h"
+
+namespace leafund {
+
+// Fetches whole bodies on a thread of its own, by the session's policy (see NSURLSession.h). The
+// thread is started by the first fetch.
+//
+// To be made and destroyed on the main thread. What is still under way is then given up, at once:
+// its completion is not called any more and is destroyed there, on the main thread, once the thread
+// of the fetches has ended, because it may own screens. Nothing may be started by then.
+//
+// A body that does not arrive whole is an error, with one exception: a chunked one, whose
+// connection ends between or within two chunks, now and then passes for whole. Only Qt sees the
+// chunks, and it does not always tell (measured: 1 to 12 in 100 when cut at random moments).
+class QtTransfer {
+ public:
+  // Above zero, all of them.
+  struct Limits {
+    int redirects = NSURLSession::kMostRedirects;
+    // Without a byte, and also without a connection: a host is asked over at most six at once.
+    std::chrono::milliseconds idle = std::chrono::seconds{NSURLSession::kIdleSeconds};
+    std::size_t bodyBytes = NSURLSession::kMostBodyBytes;
+  };
+
+  QtTransfer();
+  explicit QtTransfer(const Limits& limits);
+  QtTransfer(const QtTransfer&) = delete;
+  QtTransfer& operator=(const QtTransfer&) = delete;
+  ~QtTransfer();
+
+  // Returns at once. The completion runs exactly once, on the thread of the fetches, and is
+  // destroyed there after it has run. With an error there is neither a body nor a response; else
+  // there are both, and the body may be empty. A status that tells of a failure is no error.
+  // On the main thread only. `url` is UTF-8.
+  void start(std::string url, CompletionHandler completion);
+
+ private:
+  class Session;
+
+  Limits limits_;
+  QThread thread_;
+  std::unique_ptr<Session> session_;  // Null until the first fetch; lives on the thread.
+};
+
+}  // namespace leafund

@@ -1,0 +1,110 @@
+#include "platform/qt/SceneStage.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+namespace leafund {
+
+namespace {
+
+// The lower of the two screens moves a third of the way, which shows which one lies on top.
+constexpr double kLowerShare = 1.0 / 3;
+
+double between(double from, double to, double share) { return from + (to - from) * share; }
+
+}  // namespace
+
+SceneStage::SceneStage(QQmlEngine& engine, QQuickItem& glass)
+    : glass_(glass), loader_(engine) {
+  animation_.setStartValue(0.0);
+  animation_.setEndValue(1.0);
+  animation_.setEasingCurve(QEasingCurve::OutCubic);
+  connect(&animation_, &QVariantAnimation::finished, this, &SceneStage::endSlide);
+}
+
+void SceneStage::show(const UINavigationController& navigation) {
+  auto leaving = takeLeaving(navigation);
+  auto& top = *navigation.topViewController();
+  const auto known = pages_.size();
+  auto& page = pageFor(top);
+  page.refresh(navigation, top);
+  if (page.item() != shown_) exchangeFor(*page.item(), pages_.size() > known);
+  for (auto& gone : leaving) {
+    // Only what slides out is still seen; the others end here.
+    if (gone->item() == outgoing_) leaving_.push_back(std::move(gone));
+  }
+}
+
+std::vector<std::unique_ptr<ScenePage>> SceneStage::takeLeaving(
+    const UINavigationController& navigation) {
+  const auto& stack = navigation.viewControllers();
+  const auto stays = [&](const std::unique_ptr<ScenePage>& page) {
+    return std::any_of(stack.begin(), stack.end(),
+                       [&](const auto& controller) { return page->shows(*controller); });
+  };
+  const auto gone = std::stable_partition(pages_.begin(), pages_.end(), stays);
+  std::vector<std::unique_ptr<ScenePage>> leaving(std::make_move_iterator(gone),
+                                                  std::make_move_iterator(pages_.end()));
+  pages_.erase(gone, pages_.end());
+  return leaving;
+}
+
+ScenePage& SceneStage::pageFor(UIViewController& controller) {
+  const auto found = std::find_if(pages_.begin(), pages_.end(),
+                                  [&](const auto& page) { return page->shows(controller); });
+  if (found != pages_.end()) return **found;
+  pages_.push_back(std::make_unique<ScenePage>(loader_, controller, &glass_));
+  pages_.back()->item()->setVisible(false);
+  return *pages_.back();
+}
+
+void SceneStage::exchangeFor(QQuickItem& incoming, bool forward) {
+  const double edge = forward ? glass_.width() : -glass_.width() * kLowerShare;
+  // Turned round in the middle of a slide, both go on from where they are.
+  const double incomingX = &incoming == outgoing_ ? incoming.x() : edge;
+  const double outgoingX = shown_ != nullptr ? shown_->x() : 0;
+  animation_.stop();
+  endSlide();
+  outgoing_ = std::exchange(shown_, &incoming);
+  if (outgoing_ != nullptr) {
+    outgoing_->setX(outgoingX);
+    outgoing_->setEnabled(false);
+    outgoing_->setFocus(false);
+  }
+  incoming.setVisible(true);
+  incoming.setEnabled(true);
+  // A focus that the host gives back is none that the user gave.
+  incoming.forceActiveFocus(Qt::ActiveWindowFocusReason);
+  if (outgoing_ == nullptr) return;
+  incoming.setX(incomingX);
+  slide(incoming, forward);
+}
+
+void SceneStage::slide(QQuickItem& incoming, bool forward) {
+  incoming.setZ(forward ? 1 : 0);
+  outgoing_->setZ(forward ? 0 : 1);
+  const double inFrom = incoming.x();
+  const double outFrom = outgoing_->x();
+  const double outTo = forward ? -glass_.width() * kLowerShare : glass_.width();
+  animation_.disconnect(&glass_);
+  connect(&animation_, &QVariantAnimation::valueChanged, &glass_,
+          [this, in = &incoming, inFrom, outFrom, outTo](const QVariant& value) {
+            if (outgoing_ == nullptr) return;
+            in->setX(between(inFrom, 0, value.toDouble()));
+            outgoing_->setX(between(outFrom, outTo, value.toDouble()));
+          });
+  animation_.setDuration(incoming.property("slideDuration").toInt());
+  animation_.start();
+}
+
+void SceneStage::endSlide() {
+  if (shown_ != nullptr) shown_->setX(0);
+  if (auto* gone = std::exchange(outgoing_, nullptr)) {
+    gone->setVisible(false);
+    gone->setX(0);
+  }
+  leaving_.clear();
+}
+
+}  // namespace leafund

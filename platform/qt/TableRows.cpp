@@ -1,0 +1,72 @@
+#include "platform/qt/TableRows.h"
+
+#include <QQmlContext>
+#include <algorithm>
+#include <map>
+
+#include "platform/foundation/FatalError.h"
+#include "platform/uikit/UITableView.h"
+#include "platform/uikit/UITableViewCell.h"
+
+namespace leafund {
+
+void TableRows::setTable(ViewObject* table) {
+  if (table == table_) return;
+  if (table_) disconnect(table_, nullptr, this, nullptr);
+  table_ = table;
+  connect(table_, &ViewObject::changed, this, &TableRows::catchUp);
+  emit tableChanged();
+}
+
+void TableRows::componentComplete() {
+  QQuickItem::componentComplete();
+  catchUp();
+}
+
+void TableRows::catchUp() {
+  if (!isComponentComplete() || !table_) return;
+  while (items_.size() < table_->cells().size()) makeItem(table_->cells()[items_.size()]);
+  nameAndStack();
+}
+
+void TableRows::makeItem(ViewObject* cell) {
+  QVariantMap properties;
+  properties.insert("view", QVariant::fromValue(cell));
+  if (!delegate_->isReady()) fatalError("TableRows", delegate_->errorString().toStdString());
+  auto* object = delegate_->createWithInitialProperties(properties, delegate_->creationContext());
+  auto* item = qobject_cast<QQuickItem*>(object);
+  if (item == nullptr) fatalError("TableRows", delegate_->errorString().toStdString());
+  item->setParent(this);
+  item->setParentItem(this);
+  items_.push_back(item);
+}
+
+void TableRows::nameAndStack() {
+  const auto table = std::dynamic_pointer_cast<UITableView>(table_->view());
+  if (!table) return;  // on its way out: it stays as it was last shown
+  std::map<const UIView*, QQuickItem*> itemOf;
+  QString focused;
+  for (std::size_t i = 0; i < items_.size(); ++i) {
+    itemOf[table_->cells()[i]->view().get()] = items_[i];
+    if (items_[i]->hasActiveFocus()) focused = items_[i]->objectName();
+    items_[i]->setObjectName({});
+  }
+  QQuickItem* before = nullptr;
+  for (const auto& [row, cell] : table->visibleCells()) {
+    auto* item = itemOf[cell.get()];
+    item->setObjectName(qtText(cell->reuseIdentifier()) + '-' + QString::number(row));
+    if (before != nullptr) item->stackAfter(before);
+    before = item;
+  }
+  if (!focused.isEmpty()) keepFocus(focused);
+}
+
+void TableRows::keepFocus(const QString& rowName) {
+  const auto row = std::find_if(items_.begin(), items_.end(),
+                                [&](auto* item) { return item->objectName() == rowName; });
+  if (row != items_.end() && (*row)->hasActiveFocus()) return;
+  for (auto* item : items_) item->setFocus(false);
+  if (row != items_.end()) (*row)->forceActiveFocus(Qt::ActiveWindowFocusReason);
+}
+
+}  // namespace leafund

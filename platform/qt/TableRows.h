@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QPointer>
+#include <QQmlComponent>
+#include <QQuickItem>
+#include <QtQmlIntegration/qqmlintegration.h>
+#include <vector>
+
+#include "platform/qt/ViewObject.h"
+
+namespace leafund {
+
+// The rows of a table: one item for each cell the table ever made, kept as long as the table. They
+// are stacked in the order of their rows, because the order of Tab and of screen readers follows the
+// stacking. A shown row's item is named after its identifier and row, such as "abc-3", a pooled one
+// has no name. The focus stays with the row when rows change cells.
+class TableRows : public QQuickItem {
+  Q_OBJECT
+  QML_ELEMENT
+  Q_PROPERTY(leafund::ViewObject* table READ table WRITE setTable NOTIFY tableChanged REQUIRED)
+  // Makes a row's item; it is given the cell as its property `view`.
+  Q_PROPERTY(QQmlComponent* delegate MEMBER delegate_ NOTIFY delegateChanged REQUIRED)
+
+ public:
+  using QQuickItem::QQuickItem;
+
+  ViewObject* table() const { return table_; }
+  void setTable(ViewObject* table);
+
+ signals:
+  void tableChanged();
+  void delegateChanged();
+
+ protected:
+  void componentComplete() override;
+
+ private:
+  void catchUp();
+  void makeItem(ViewObject* cell);
+  void nameAndStack();
+  void keepFocus(const QString& rowName);
+
+  QPointer<ViewObject> table_;
+  QQmlComponent* delegate_ = nullptr;
+  std::vector<QQuickItem*> items_;  // by the cells' order; children of this item
+};
+
+}  // namespace leafund

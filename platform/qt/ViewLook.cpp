@@ -1,0 +1,106 @@
+#include "platform/qt/ViewLook.h"
+
+#include "platform/uikit/UIButton.h"
+#include "platform/uikit/UILabel.h"
+#include "platform/uikit/UIProgressView.h"
+#include "platform/uikit/UITabContainer.h"
+#include "platform/uikit/UITableView.h"
+#include "platform/uikit/UITextInput.h"
+
+namespace leafund {
+
+namespace {
+
+Qt::InputMethodHints hintsFor(UIKeyboardType keyboard) {
+  switch (keyboard) {
+    case UIKeyboardType::EmailAddress:
+      return Qt::ImhEmailCharactersOnly;
+    case UIKeyboardType::DecimalPad:
+      return Qt::ImhFormattedNumbersOnly;
+    case UIKeyboardType::URL:
+      return Qt::ImhUrlCharactersOnly;
+    case UIKeyboardType::Default:
+      break;
+  }
+  return Qt::ImhNone;
+}
+
+void readInput(const UITextInput& input, ViewLook& look) {
+  look.text = qtText(input.text());
+  look.placeholder = qtText(input.placeholder());
+  look.textColor = qtColor(input.textColor().CGColor());
+  look.editing = input.editing();
+  look.editable = input.editable();
+  look.showsMessage = input.showsMessage();
+  // What was typed is what counts: nothing may be corrected, completed or capitalised on the way.
+  auto hints = hintsFor(input.keyboardType()) | Qt::ImhNoPredictiveText | Qt::ImhNoAutoUppercase;
+  if (const auto* field = dynamic_cast<const UITextField*>(&input)) {
+    look.secure = field->secureTextEntry();
+    look.masked = field->masked();
+  }
+  if (look.secure) hints |= Qt::ImhSensitiveData;
+  look.inputHints = static_cast<int>(hints);
+}
+
+void readTab(const UITabBarItem& tab, ViewLook& look) {
+  look.text = qtText(tab.title());
+  look.selected = tab.selected();
+  if (const auto& color = tab.selectedTitleColor()) look.selectedTitleColor = qtColor(color->CGColor());
+}
+
+void readControl(const UIControl& control, ViewLook& look) {
+  if (const auto* input = dynamic_cast<const UITextInput*>(&control)) {
+    readInput(*input, look);
+  } else if (const auto* button = dynamic_cast<const UIButton*>(&control)) {
+    look.text = qtText(button->title());
+  } else if (const auto* tab = dynamic_cast<const UITabBarItem*>(&control)) {
+    readTab(*tab, look);
+  }
+}
+
+void readTable(const UITableView& table, ViewLook& look) {
+  look.contentHeight = table.contentHeight();
+  look.contentOffset = table.contentOffset().y;
+}
+
+void readPicture(const UIImageView& picture, ViewLook& look) {
+  look.image = picture.image();
+  look.contentMode = picture.contentMode();
+}
+
+void readKind(const UIView& view, ViewLook& look) {
+  if (const auto* control = dynamic_cast<const UIControl*>(&view)) {
+    readControl(*control, look);
+  } else if (const auto* label = dynamic_cast<const UILabel*>(&view)) {
+    look.text = qtText(label->text());
+  } else if (const auto* picture = dynamic_cast<const UIImageView*>(&view)) {
+    readPicture(*picture, look);
+  } else if (const auto* progress = dynamic_cast<const UIProgressView*>(&view)) {
+    look.progress = static_cast<double>(progress->shownProgress());
+    look.progressFrom = static_cast<double>(progress->animatedFrom());
+  } else if (const auto* table = dynamic_cast<const UITableView*>(&view)) {
+    readTable(*table, look);
+  } else if (const auto* bar = dynamic_cast<const UITabBar*>(&view)) {
+    if (const auto& color = bar->tintColor()) look.tintColor = qtColor(color->CGColor());
+  }
+}
+
+}  // namespace
+
+QColor qtColor(const CGColor& color) {
+  return QColor::fromRgbF(color.red, color.green, color.blue, color.alpha);
+}
+
+ViewLook lookOf(const UIView& view) {
+  ViewLook look;
+  look.name = qtText(view.name());
+  look.accessibleName = qtText(view.accessibilityLabel());
+  const auto frame = view.frame();
+  look.frame = {frame.x, frame.y, frame.width, frame.height};
+  look.layer = view.layer();
+  look.visible = !view.hidden();
+  readKind(view, look);
+  return look;
+}
+
+}  // namespace leafund

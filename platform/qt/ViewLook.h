@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QColor>
+#include <QRectF>
+#include <QString>
+#include <memory>
+#include <string>
+
+#include "platform/graphics/UIImage.h"
+#include "platform/uikit/CALayer.h"
+#include "platform/uikit/UIImageView.h"
+
+namespace leafund {
+
+// What a view shows, copied: a scene on its way out still draws when its views are gone. What a kind
+// of view does not have stays as it is here. Lengths in points.
+struct ViewLook {
+  QString name;
+  QString accessibleName;
+  QRectF frame;
+  CALayer layer;
+  bool visible = true;
+
+  // The words: of a label or an input its text, of a button or a tab its title.
+  QString text;
+
+  // Inputs.
+  QString placeholder;
+  QColor textColor = Qt::black;
+  int inputHints = 0;  // Qt::InputMethodHints
+  bool secure = false;
+  bool masked = false;
+  bool editing = false;
+  bool editable = false;
+  bool showsMessage = false;
+
+  // Progress, both from 0 to 1.
+  double progress = 0;
+  double progressFrom = 0;
+
+  // Tabs.
+  bool selected = false;
+  QColor selectedTitleColor;
+  QColor tintColor;
+
+  // Tables.
+  double contentHeight = 0;
+  double contentOffset = 0;
+
+  // Pictures.
+  std::shared_ptr<const UIImage> image;
+  UIViewContentMode contentMode = UIViewContentMode::ScaleToFill;
+};
+
+ViewLook lookOf(const UIView& view);
+
+inline QString qtText(const std::string& utf8) { return QString::fromStdString(utf8); }
+QColor qtColor(const CGColor& color);
+
+}  // namespace leafund

@@ -1,0 +1,77 @@
+#include "tests/contract/ContractTest.h"
+
+#include <stdexcept>
+
+#include "platform/dispatch/MainQueue.h"
+
+namespace leafund {
+
+namespace {
+
+std::shared_ptr<UIView> descendant(const UIView& root, std::string_view name) {
+  for (const auto& each : root.subviews()) {
+    if (each->name() == name) return each;
+    if (auto found = descendant(*each, name)) return found;
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+ContractTest::ContractTest()
+    : application(std::make_shared<UIApplication>(underTest->host(), storyboard, delegate)) {
+  underTest->start(*application);
+  settle();
+}
+
+ContractTest::~ContractTest() = default;
+
+std::shared_ptr<UIViewController> ContractTest::shown() {
+  const auto tabs = top()->tabContainer();
+  return tabs ? tabs->selectedViewController() : top();
+}
+
+WatchedLife& ContractTest::life(const std::shared_ptr<UIViewController>& screen) {
+  return dynamic_cast<WatchedLife&>(*screen);
+}
+
+std::vector<std::string> ContractTest::stack() {
+  std::vector<std::string> names;
+  for (const auto& screen : navigation().viewControllers()) names.push_back(screen->className());
+  return names;
+}
+
+std::shared_ptr<UIView> ContractTest::view(std::string_view name) {
+  auto found = descendant(*top()->view(), name);
+  if (!found) throw std::out_of_range("no view is named " + std::string(name));
+  return found;
+}
+
+std::shared_ptr<UITextField> ContractTest::field(std::string_view name) {
+  return std::dynamic_pointer_cast<UITextField>(view(name));
+}
+
+std::shared_ptr<UITableView> ContractTest::table() {
+  return std::dynamic_pointer_cast<UITableView>(shown()->view());
+}
+
+void ContractTest::type(std::string_view name, const std::string& text) {
+  const auto input = field(name);
+  application->beginEditing(input);
+  application->edit(input, text);
+}
+
+void ContractTest::signIn() {
+  type("userEmail", "wren@example.org");
+  type("password", "secret");
+  tap("signInButton");
+  settle();
+}
+
+void ContractTest::settle() {
+  bool reached = false;
+  dispatch_async(dispatch_get_main_queue(), [&reached] { reached = true; });
+  ASSERT_TRUE(underTest->runUntil([&reached] { return reached; }));
+}
+
+}  // namespace leafund

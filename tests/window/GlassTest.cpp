@@ -1,0 +1,253 @@
+#include <gtest/gtest.h>
+
+#include <QQuickItem>
+#include <QTest>
+#include <map>
+
+#include "model/Catalogue.h"
+#include "platform/qt/ViewObject.h"
+#include "platform/uikit/UILabel.h"
+#include "platform/uikit/UITabContainer.h"
+#include "platform/uikit/UITableView.h"
+#include "tests/window/WindowApplication.h"
+
+namespace leafund {
+namespace {
+
+// What the glass and the toolkit must agree on, on the screen shown: every named view has exactly
+// one item, seen where the view is, with the same words.
+void collectNames(const UIView& root, std::map<std::string, const UIView*>& views) {
+  for (const auto& view : root.subviews()) {
+    if (!view->name().empty()) views[view->name()] = view.get();
+    collectNames(*view, views);
+  }
+}
+
+void expectGlassEqualsToolkit(WindowApplication& app) {
+  std::map<std::string, const UIView*> views;
+  collectNames(*app.navigation().topViewController()->view(), views);
+  ASSERT_FALSE(views.empty());
+  for (const auto& [name, view] : views) {
+    const auto items = app.page()->findChildren<QQuickItem*>(QString::fromStdString(name));
+    ASSERT_EQ(items.size(), 1) << name;
+    bool hidden = false;
+    for (const auto* each = view; each != nullptr; each = each->superview()) {
+      hidden = hidden || each->hidden();
+    }
+    // The word between the two sums is seen with them.
+    if (name == "ofGoal") hidden = views["desiredFund"]->hidden();
+    EXPECT_EQ(items[0]->isVisible(), !hidden) << name;
+    if (const auto* label = dynamic_cast<const UILabel*>(view)) {
+      EXPECT_EQ(items[0]->property("text").toString().toStdString(), label->text()) << name;
+    }
+    if (const auto* input = dynamic_cast<const UITextInput*>(view)) {
+      EXPECT_EQ(items[0]->property("text").toString().toStdString(), input->text()) << name;
+    }
+  }
+}
+
+class GlassTest : public testing::Test {
+ protected:
+  void click(const std::string& name) {
+    app.click(app.require(name));
+    app.settle();
+  }
+  void type(const std::string& name, const std::string& text) {
+    app.click(app.require(name));
+    app.typeKeys(text);
+    app.settle();
+  }
+  void signIn() {
+    type("userEmail", "wren@example.org");
+    type("password", "secret");
+    click("signInButton");
+  }
+  QString glassText(const std::string& name) {
+    return app.require(name).property("text").toString();
+  }
+
+  WindowApplication app;
+};
+
+TEST_F(GlassTest, EveryNamedViewOfEverySceneHasExactlyOneItemThatAgreesWithIt) {
+  expectGlassEqualsToolkit(app);
+  click("signUpButton");
+  expectGlassEqualsToolkit(app);
+  app.press(Qt::Key_Escape);
+  app.settle();
+  signIn();
+  for (const auto* tab : {"browseTab", "fundedTab", "mineTab", "newsTab"}) {
+    click(tab);
+    expectGlassEqualsToolkit(app);
+  }
+  click("mineTab");
+  click("newButton");
+  expectGlassEqualsToolkit(app);
+  app.press(Qt::Key_Escape);
+  app.settle();
+  click("fundedTab");
+  click("Funded-0");
+  expectGlassEqualsToolkit(app);
+  click("campaignUpdates");
+  expectGlassEqualsToolkit(app);
+  app.press(Qt::Key_Escape);
+  app.settle();
+  app.press(Qt::Key_Escape);
+  app.settle();
+  click("browseTab");
+  click("abc-0");
+  expectGlassEqualsToolkit(app);
+  type("dollarAmountField", "10");
+  click("FundButton");
+  expectGlassEqualsToolkit(app);
+  click("yesButton");
+  expectGlassEqualsToolkit(app);
+}
+
+TEST_F(GlassTest, TheWindowStartsAtThePhonesNaturalSizeAndTheToolkitFollowsItsSize) {
+  EXPECT_EQ(app.window().size(), QSize(390, 844));
+  EXPECT_EQ(app.shown()->view()->frame(), (CGRect{0, 0, 390, 844}));
+  app.window().resize(568, 400);
+  EXPECT_TRUE(app.waitUntil([&] { return app.shown()->view()->frame().width == 568; }));
+}
+
+TEST_F(GlassTest, APasswordIsMaskedOnTheGlassAndItsMessageReadInClear) {
+  type("password", "secret");
+  EXPECT_EQ(app.require("password").property("displayText").toString(), QString(6, QChar(0x25CF)));
+  EXPECT_EQ(glassText("password"), "secret");
+  QTest::keyClick(&app.window(), Qt::Key_A, Qt::ControlModifier);
+  app.press(Qt::Key_Delete);
+  click("signInButton");
+  EXPECT_EQ(app.require("password").property("displayText").toString(),
+            "Error: Please Enter a Password");
+  EXPECT_EQ(app.require("password").property("color").value<QColor>(), QColor(Qt::red));
+}
+
+TEST_F(GlassTest, EnteringAnInputThatShowsAMessageClearsItAndTypedTextStays) {
+  click("signInButton");
+  EXPECT_EQ(glassText("userEmail"), "Error: Please Enter a Name");
+  type("userEmail", "wren");
+  EXPECT_EQ(glassText("userEmail"), "wren");
+  click("password");
+  click("userEmail");
+  EXPECT_EQ(glassText("userEmail"), "wren");
+}
+
+TEST_F(GlassTest, EnteringTheFormsInputsSelectsAMessageSoThatTypingReplacesIt) {
+  click("signUpButton");
+  click("signUpButton");
+  EXPECT_EQ(glassText("nameField"), "Error: Please Enter a Name");
+  type("nameField", "Wren");
+  EXPECT_EQ(glassText("nameField"), "Wren");
+  EXPECT_EQ(app.require("nameField").property("color").value<QColor>(), QColor(Qt::red));
+}
+
+TEST_F(GlassTest, TypingInTheMiddleKeepsTheCursorThere) {
+  type("userEmail", "ac");
+  app.press(Qt::Key_Left);
+  app.typeKeys("b");
+  app.settle();
+  EXPECT_EQ(glassText("userEmail"), "abc");
+  EXPECT_EQ(app.require("userEmail").property("cursorPosition").toInt(), 2);
+}
+
+TEST_F(GlassTest, AWindowThatComesToTheFrontIsNotAUserEnteringAnInput) {
+  click("signInButton");
+  auto& input = app.require("userEmail");
+  input.forceActiveFocus(Qt::ActiveWindowFocusReason);
+  app.settle();
+  EXPECT_EQ(glassText("userEmail"), "Error: Please Enter a Name");
+}
+
+TEST_F(GlassTest, AHiddenBackButtonRefusesBarKeyAndGesture) {
+  signIn();
+  EXPECT_FALSE(app.require("backButton").isVisible());
+  app.press(Qt::Key_Escape);
+  app.press(Qt::Key_Back);
+  app.settle();
+  EXPECT_EQ(app.navigation().topViewController()->className(), "TabBarVC");
+}
+
+TEST_F(GlassTest, TheBackButtonGoesBack) {
+  click("signUpButton");
+  EXPECT_TRUE(app.require("backButton").isVisible());
+  click("backButton");
+  EXPECT_EQ(app.shown()->className(), "LandingPageVC");
+}
+
+TEST_F(GlassTest, ADoubleClickOnYesBooksOnce) {
+  signIn();
+  click("abc-0");
+  type("dollarAmountField", "1");
+  click("FundButton");
+  auto& yes = app.require("yesButton");
+  const auto where = yes.mapToScene({yes.width() / 2, yes.height() / 2}).toPoint();
+  QTest::mouseClick(&app.window(), Qt::LeftButton, {}, where);
+  QTest::mouseClick(&app.window(), Qt::LeftButton, {}, where);
+  app.settle();
+  EXPECT_EQ(campaignsIFunded().size(), 4U);
+  EXPECT_EQ(otherCampaigns().size(), 6U);
+}
+
+TEST_F(GlassTest, AnIncomingScreenTakesAClickAtOnce) {
+  signIn();
+  auto& tab = app.require("newsTab");
+  const auto where = tab.mapToScene({tab.width() / 2, tab.height() / 2}).toPoint();
+  app.click(app.require("abc-0"));
+  app.press(Qt::Key_Escape);  // the detail screen is still sliding in
+  QTest::mouseClick(&app.window(), Qt::LeftButton, {}, where);
+  app.settle();
+  EXPECT_EQ(app.navigation().topViewController()->className(), "TabBarVC");
+}
+
+TEST_F(GlassTest, ASelectedTabIsDrawnInTheAccentColourAndTheOthersAreNot) {
+  signIn();
+  const QColor accent(83, 134, 47);
+  const auto colourOf = [&](const std::string& name) {
+    const QImage glass = app.window().grabWindow();
+    const auto& tab = app.require(name);
+    const QRect area = tab.mapRectToScene(tab.boundingRect()).toRect();
+    int accented = 0;
+    for (int y = area.top(); y <= area.bottom(); ++y) {
+      for (int x = area.left(); x <= area.right(); ++x) {
+        accented += glass.pixelColor(x, y) == accent;
+      }
+    }
+    return accented;
+  };
+  EXPECT_GT(colourOf("browseTab"), 20);
+  EXPECT_EQ(colourOf("newsTab"), 0);
+}
+
+TEST_F(GlassTest, RowsStandOnTheGlassInTheirOrder) {
+  signIn();
+  app.require("table").setProperty("contentY", 300.0);
+  app.settle();
+  app.require("table").setProperty("contentY", 100.0);
+  app.settle();
+  const auto& table = dynamic_cast<UITableView&>(*app.shown()->view());
+  QList<QQuickItem*> siblings = app.require("abc-1").parentItem()->childItems();
+  int previous = -1;
+  for (const auto& [row, cell] : table.visibleCells()) {
+    auto& item = app.require("abc-" + std::to_string(row));
+    EXPECT_EQ(item.y(), 160.0 * static_cast<double>(row));
+    EXPECT_GT(siblings.indexOf(&item), previous);
+    previous = static_cast<int>(siblings.indexOf(&item));
+  }
+}
+
+TEST(LoopTest, ClosingTheWindowEndsTheLoopAndAnswersZero) {
+  int argc = 1;
+  char name[] = "leafund";
+  char* argv[] = {name, nullptr};
+  QtHost host(argc, argv);
+  setCurrentHost(&host);
+  const auto application =
+      std::make_shared<UIApplication>(host, mainStoryboard(), std::make_shared<AppDelegate>());
+  host.post([&] { host.window()->close(); });
+  EXPECT_EQ(host.run(*application), 0);
+  EXPECT_EQ(host.window(), nullptr);
+}
+
+}  // namespace
+}  // namespace leafund

@@ -1,0 +1,159 @@
+#include "tests/window/WindowApplication.h"
+
+#include <gtest/gtest.h>
+
+#include <QTest>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+#include "model/Catalogue.h"
+#include "model/PictureHost.h"
+#include "platform/uikit/UITabContainer.h"
+#include "tests/support/PictureAnswers.h"
+
+namespace leafund {
+
+namespace {
+
+constexpr int kPatience = 10'000;  // milliseconds; reached only by what never happens
+
+void failOnWarning(QtMsgType type, const QMessageLogContext&, const QString& message) {
+  if (type == QtDebugMsg || type == QtInfoMsg) return;
+  // Said of the surroundings: by the offscreen platform, and where nobody is logged in.
+  for (const auto* surroundings : {"This plugin does not support", "XDG_RUNTIME_DIR"}) {
+    if (message.contains(QLatin1String(surroundings))) return;
+  }
+  ADD_FAILURE() << "warned: " << message.toStdString();
+}
+
+std::string contents(const std::filesystem::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+QtHost makeHost() {
+  static int argc = 1;
+  static char name[] = "leafund";
+  static char* argv[] = {name, nullptr};
+  return QtHost(argc, argv);
+}
+
+}  // namespace
+
+WindowApplication::WindowApplication(const UIStoryboard& storyboard)
+    : host(makeHost()),
+      application(
+          std::make_shared<UIApplication>(host, storyboard, std::make_shared<AppDelegate>())) {
+  qInstallMessageHandler(failOnWarning);
+  setCurrentHost(&host);
+  host.start(*application);
+  server_ = std::make_unique<PictureServer>();
+  servePictures();  // after launching, which writes the updates
+  EXPECT_TRUE(QTest::qWaitForWindowExposed(&window()));
+  settle();
+}
+
+WindowApplication::~WindowApplication() {
+  host.stop();
+  application.reset();
+  setCurrentHost(nullptr);
+  qInstallMessageHandler(nullptr);
+}
+
+// The addresses of the catalogue name the host that the build was made for; here they name the
+// test's own server.
+void WindowApplication::servePictures() {
+  const std::string built = pictureAddress("");
+  const auto moved = [&](const std::string& address) {
+    return address.starts_with(built) ? server_->address("/" + address.substr(built.size()))
+                                      : address;
+  };
+  for (const auto& file : std::filesystem::directory_iterator(LEAFUND_PICTURES_DIR)) {
+    if (file.path().extension() != ".jpg") continue;
+    server_->serve("/" + file.path().filename().string(), answers::ok(contents(file.path())));
+  }
+  for (const auto* list : {&otherCampaigns(), &campaignsIFunded()}) {
+    for (const auto& campaign : *list) {
+      campaign->setPhoto(moved(campaign->photo()));
+      campaign->setUpdateOnePhoto(moved(campaign->updateOnePhoto()));
+    }
+  }
+}
+
+std::shared_ptr<UIViewController> WindowApplication::shown() {
+  const auto& top = navigation().topViewController();
+  const auto tabs = top->tabContainer();
+  return tabs ? tabs->selectedViewController() : top;
+}
+
+bool WindowApplication::waitUntil(const std::function<bool()>& done) {
+  return QTest::qWaitFor(done, kPatience);
+}
+
+void WindowApplication::settle() {
+  QCoreApplication::processEvents();
+  EXPECT_TRUE(waitUntil([&] {
+    const auto* shownPage = page();
+    if (shownPage == nullptr || shownPage->x() != 0) return false;
+    int visible = 0;
+    for (const auto* each : window().contentItem()->childItems()) visible += each->isVisible();
+    return visible == 1;
+  })) << "the slide does not end";
+  // One more frame: rows of controls are laid out when it is drawn.
+  int frames = 0;
+  QObject context;
+  QObject::connect(&window(), &QQuickWindow::afterRendering, &context, [&] { ++frames; });
+  window().update();
+  EXPECT_TRUE(waitUntil([&] { return frames > 0; })) << "no frame is drawn";
+}
+
+QQuickItem* WindowApplication::page() {
+  const auto name = QString::fromStdString(navigation().topViewController()->className());
+  for (auto* each : window().contentItem()->childItems()) {
+    if (each->objectName() == name && each->isVisible() && each->isEnabled()) return each;
+  }
+  return nullptr;
+}
+
+QQuickItem* WindowApplication::item(const std::string& name) {
+  auto* shownPage = page();
+  if (shownPage == nullptr) return nullptr;
+  for (auto* each : shownPage->findChildren<QQuickItem*>(QString::fromStdString(name))) {
+    if (each->isVisible()) return each;
+  }
+  return shownPage->findChild<QQuickItem*>(QString::fromStdString(name));
+}
+
+QQuickItem& WindowApplication::require(const std::string& name) {
+  auto* found = item(name);
+  if (found == nullptr) throw std::out_of_range("no item is named " + name);
+  return *found;
+}
+
+void WindowApplication::click(QQuickItem& target) {
+  settle();
+  for (auto* each = target.parentItem(); each != nullptr; each = each->parentItem()) {
+    if (!each->inherits("QQuickFlickable")) continue;
+    const double top = target.mapToItem(each, QPointF(0, 0)).y();
+    const double beyond = top + target.height() - each->height();
+    if (top < 0 || beyond > 0) {
+      const double offset = each->property("contentY").toDouble();
+      each->setProperty("contentY", offset + (top < 0 ? top : beyond));
+    }
+  }
+  const QPointF middle(target.width() / 2, target.height() / 2);
+  QTest::mouseClick(&window(), Qt::LeftButton, {}, target.mapToScene(middle).toPoint());
+  QCoreApplication::processEvents();
+}
+
+void WindowApplication::typeKeys(const std::string& text) {
+  for (const char letter : text) QTest::keyClick(&window(), letter);
+}
+
+void WindowApplication::press(Qt::Key key) {
+  QTest::keyClick(&window(), key);
+  QCoreApplication::processEvents();
+}
+
+}  // namespace leafund

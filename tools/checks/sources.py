@@ -1,0 +1,90 @@
+"""C++ and QML as their own tools see them."""
+
+import concurrent.futures
+import os
+import re
+import shutil
+import subprocess
+
+FORMAT = "clang-format-19"
+QMLLINT = "/usr/lib/qt6/bin/qmllint"
+KEYWORDS = {"if", "for", "while", "switch", "return", "sizeof", "decltype", "noexcept", "explicit", "requires"}
+
+
+def told(command, top):
+    """What a command complains about; nothing when it is content."""
+    run = subprocess.run(command, cwd=top, capture_output=True, text=True)
+    return (run.stdout + run.stderr).strip().splitlines()[:3] if run.returncode else []
+
+
+def each(project, paths, command):
+    with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
+        return [line for lines in pool.map(lambda path: told(command(path), project.top), paths) for line in lines]
+
+
+def headers(project):
+    """A header that its own source includes first is proved by the build; the others are tried here."""
+
+    def proved(path):
+        source = path.removesuffix("h") + "cpp"
+        first = re.search(r'#include\s+["<]([^">]+)', project.text(source)) if source in project.all else None
+        return first and first.group(1) == path
+
+    far = ("platform/qt/", "tests/", "bench/")
+    paths = [path for path in project.files(".h") if not path.startswith(far) and not proved(path)]
+    alone = ["g++", "-std=c++20", "-fsyntax-only", "-I.", "-x", "c++", "/dev/null", "-include"]
+    return each(project, paths, lambda path: [*alone, path])
+
+
+def guards(project):
+    return [path for path in project.files(".h") if "#pragma once" not in project.text(path)]
+
+
+def formatted(project):
+    if not shutil.which(FORMAT):
+        return [f"{FORMAT} is not installed"]
+    told_of = each(
+        project, project.files(".h", ".cpp"), lambda path: [FORMAT, "--dry-run", "--Werror", path]
+    )
+    return sorted({line.split(":")[0] for line in told_of if "clang-formatted" in line} or set(told_of))
+
+
+def skin_syntax(project):
+    """Only what cannot be read at all: it does not know the types that C++ registers, and merely warns."""
+    if not os.path.exists(QMLLINT):
+        return [f"{QMLLINT} is not installed"]
+    return each(project, project.files(".qml"), lambda path: [QMLLINT, "--bare", path])
+
+
+def operations(text):
+    """The names of a header's public operations, roughly."""
+    text = re.sub(r"//.*|/\*.*?\*/", "", text)
+    for section in re.split(r"^\s*(?=public:|protected:|private:)", text, flags=re.M):
+        if section.startswith(("protected:", "private:")):
+            continue
+        for name in re.findall(r"^\s+(?:[\w:<>,&*\s\[\]]+[\s&*])(\w+)\([^;{]*\)[^;{()]*[;{]", section, flags=re.M):
+            if name not in KEYWORDS and name[0].islower() and not name.endswith("_"):
+                yield name
+
+
+def callers(project):
+    everything = {path: project.text(path) for path in project.files(".h", ".cpp")}
+    found = []
+    for path in project.files(".h"):
+        if not path.startswith("platform/uikit/"):
+            continue
+        own = {path, path.removesuffix("h") + "cpp"}
+        others = "\n".join(text for other, text in everything.items() if other not in own)
+        for name in dict.fromkeys(operations(everything[path])):
+            if not re.search(rf"\b{name}\b", others):
+                found.append(f"{path}: {name}")
+    return found
+
+
+CHECKS = (
+    ("headers stand alone", "include in the header what it uses", headers),
+    ("headers are read once", "begin it with #pragma once", guards),
+    ("C++ is formatted", f"{FORMAT} -i on the files named", formatted),
+    ("QML can be read", "see qmllint", skin_syntax),
+    ("toolkit operations are used", "take the operation away, or use it", callers),
+)

@@ -1,0 +1,100 @@
+"""The tree itself: its files, their names and sizes, the pictures and the words that stay out of it."""
+
+import collections
+import pathlib
+import re
+import subprocess
+
+LIMITS = {".h": 250, ".cpp": 250, ".py": 250, ".sh": 250, "": 250, ".qml": 200}
+# Longer than the limit, and why.
+LONG = {
+    "model/SeedCampaigns.cpp": "the seed campaigns' texts, which no cut would make easier to read",
+}
+REPEATED = {"CMakeLists.txt", "README.md", "main.cpp", "run"}
+
+
+class Project:
+    """The files that are tracked, or would be."""
+
+    def __init__(self, top):
+        self.top = pathlib.Path(top)
+        listed = subprocess.run(
+            ["git", "-c", f"safe.directory={top}", "ls-files", "-z", "--cached", "--others", "--exclude-standard"],
+            cwd=top, check=True, capture_output=True, text=True,
+        ).stdout
+        self.all = sorted(path for path in set(listed.split("\0")) if path and (self.top / path).is_file())
+        self.texts = {}
+
+    def files(self, *suffixes):
+        return [path for path in self.all if pathlib.Path(path).suffix in suffixes]
+
+    def text(self, path):
+        if path not in self.texts:
+            self.texts[path] = (self.top / path).read_text(encoding="utf-8", errors="replace")
+        return self.texts[path]
+
+    def scripts(self):
+        return [path for path in self.files("") if self.text(path).startswith("#!")]
+
+
+def unique_names(project):
+    places = collections.defaultdict(list)
+    for path in project.all:
+        places[pathlib.Path(path).name].append(path)
+    return [" and ".join(paths) for name, paths in places.items() if len(paths) > 1 and name not in REPEATED]
+
+
+def small_files(project):
+    found = []
+    for path in project.files(".h", ".cpp", ".qml", ".py", ".sh") + project.scripts():
+        length = project.text(path).count("\n")
+        if length > LIMITS[pathlib.Path(path).suffix] and path not in LONG:
+            found.append(f"{path} has {length} lines")
+    return found + [f"{path} is allowed to be long, and is gone" for path in LONG if path not in project.all]
+
+
+def pictures(project):
+    seeds = project.text("model/SeedCampaigns.cpp") + project.text("model/PictureHost.cpp")
+    found = []
+    for name in sorted(set(re.findall(r'"([\w-]+\.(?:jpe?g|png|gif|svg))"', seeds))):
+        path = project.top / "pictures" / name
+        body = path.read_bytes() if path.exists() else b""
+        if f"pictures/{name}" not in project.all:
+            found.append(f"pictures/{name} is missing")
+        elif not (body.startswith(b"\xff\xd8\xff") and body.endswith(b"\xff\xd9")):
+            found.append(f"pictures/{name} is no whole JPEG")
+        elif len(body) >= 80_000:
+            found.append(f"pictures/{name} has {len(body)} bytes")
+    return found or ([] if "pictureFile" in seeds else ["model/SeedCampaigns.cpp names no picture"])
+
+
+def foreign_words(project):
+    # In pieces, so that this file does not hold them.
+    pieces = (
+        r"\bspeci" + r"fications?\b",
+        r"\bPa" + r"rts? \d+\.\d+",
+        r"(?<![\w.])/(wo" + r"rk|ro" + r"ot|ho" + r"me)/\w",
+        r"\b(reg" + r"istry|deb|pypi)\.[a-z]+\.(org|com|net)\b",
+    )
+    wanted = re.compile("|".join(pieces), re.I)
+    return [
+        f"{path}:{number}  {line.strip()[:100]}"
+        for path in project.all
+        if pathlib.Path(path).suffix not in {".jpg", ".png"}
+        for number, line in enumerate(project.text(path).splitlines(), 1)
+        if wanted.search(line)
+    ]
+
+
+def behaviours(project):
+    told = subprocess.run([project.top / "tools/check-table"], capture_output=True, text=True)
+    return (told.stdout + told.stderr).splitlines() if told.returncode else []
+
+
+CHECKS = (
+    ("file names are unique", "rename one of them", unique_names),
+    ("files are small", "cut it in two along its subject", small_files),
+    ("pictures are there", "make them with pictures/make; JPEG, under 80,000 bytes", pictures),
+    ("no foreign words", "give the reason instead, and no path of one machine", foreign_words),
+    ("the table of behaviours", "name a test that exists", behaviours),
+)

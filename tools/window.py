@@ -1,0 +1,168 @@
+"""The app's window as a user meets it: found by names, driven by real keys and clicks."""
+
+import hashlib
+import os
+import subprocess
+import time
+
+import gi
+
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi, GLib  # noqa: E402
+
+LIMIT = 15.0  # seconds that any one step may take
+FIELDS = {"text", "entry", "password text", "editbar"}
+TABS = {"page tab", "radio button"}
+CONTROLS = {"push button", "button", "list item", "table cell", "link"} | FIELDS | TABS
+
+
+class RoadBroken(Exception):
+    pass
+
+
+class Window:
+    """Sees what assistive technology sees, and touches only through the X server."""
+
+    def __init__(self, process):
+        self.process = process
+        self.width, self.height = self._screen()
+        Atspi.init()
+        self.application = self._wait("the app on the accessibility bus", self._find_application)
+        Atspi.Accessible.set_cache_mask(self.application, Atspi.Cache.NONE)
+
+    # Looking
+
+    def sees(self, name, roles=None):
+        """The first showing thing of that name, exact or as a part of it."""
+        shown = [node for node in self._showing() if roles is None or node[1] in roles]
+        exact = [node for node in shown if node[0] == name]
+        return next(iter(exact or [node for node in shown if name in node[0]]), None)
+
+    def expect(self, name, roles=None):
+        return self._wait(f"“{name}” on the screen", lambda: self.sees(name, roles))
+
+    def expect_gone(self, name):
+        self._wait(f"“{name}” gone from the screen", lambda: not self.sees(name))
+
+    def rows(self):
+        """Names of the rows on the screen, from top to bottom."""
+        found = [node for node in self._showing() if node[1] in {"list item", "table cell"}]
+        return [name for name, _, _ in sorted(found, key=lambda node: node[2][1])]
+
+    # Touching
+
+    def click(self, name, roles=None):
+        self.expect(name, roles or CONTROLS)
+        self._bring_into_view(name, roles or CONTROLS)
+        x, y = self._still_middle(name, roles or CONTROLS)
+        self._xdotool("mousemove", str(x), str(y), "click", "1")
+
+    def type_into(self, field, text):
+        """Replaces what a field holds."""
+        self.click(field, FIELDS)
+        self._xdotool("key", "ctrl+a", "key", "BackSpace", "type", "--delay", "20", text)
+
+    def key(self, name):
+        self._xdotool("key", name)
+
+    def capture(self, path):
+        """Saves the screen once it stands still."""
+        self._wait("a screen that stands still", self._is_still)
+        subprocess.run(["import", "-window", "root", path], check=True)
+
+    # The rest is how.
+
+    def _find_application(self):
+        desktop = Atspi.get_desktop(0)
+        for index in range(desktop.get_child_count()):
+            child = desktop.get_child_at_index(index)
+            if child and child.get_process_id() == self.process and child.get_child_count():
+                return child
+        return None
+
+    def _showing(self):
+        """Name, role and place of everything in the scene on top, in reading order.
+
+        What is below the fold counts: it has a place, and is a turn of the wheel away. The state
+        "showing" would miss it; what is hidden has no place at all.
+        """
+        found, waiting = [], [self.application]
+        while waiting:
+            node = waiting.pop()
+            try:
+                place = self._place(node)
+                if place[2] > 0 and place[3] > 0 and 0 <= place[0] + place[2] // 2 < self.width:
+                    found.append((node.get_name() or "", node.get_role_name(), place))
+                children = [node.get_child_at_index(i) for i in range(node.get_child_count())]
+            except GLib.Error:
+                continue  # it left while it was looked at
+            waiting.extend(child for child in reversed(children) if child)
+        return found
+
+    @staticmethod
+    def _place(node):
+        extents = node.get_extents(Atspi.CoordType.SCREEN)
+        return extents.x, extents.y, extents.width, extents.height
+
+    def _bring_into_view(self, name, roles):
+        """Turns the wheel until the middle of a control lies on the screen."""
+
+        def in_view():
+            _, y = self._middle(name, roles)
+            if 0 < y < self.height:
+                return True
+            self._xdotool("mousemove", str(self.width // 2), str(self.height // 2))
+            self._xdotool("click", "5" if y > 0 else "4")
+            return False
+
+        self._wait(f"“{name}” within reach", in_view)
+
+    def _still_middle(self, name, roles):
+        """The middle of a control that no longer slides."""
+        seen = []
+
+        def still():
+            seen.append(self._middle(name, roles))
+            return len(seen) > 1 and seen[-1] == seen[-2]
+
+        self._wait(f"“{name}” at rest", still)
+        return seen[-1]
+
+    def _middle(self, name, roles):
+        x, y, width, height = self.expect(name, roles)[2]
+        return x + width // 2, y + height // 2
+
+    def _is_still(self):
+        before = self._pixels()
+        time.sleep(0.15)
+        return before == self._pixels()
+
+    @staticmethod
+    def _pixels():
+        shot = subprocess.run(["import", "-window", "root", "rgb:-"], check=True, capture_output=True)
+        return hashlib.sha256(shot.stdout).digest()
+
+    @staticmethod
+    def _screen():
+        shape = subprocess.run(["xdotool", "getdisplaygeometry"], check=True, capture_output=True, text=True)
+        return tuple(int(number) for number in shape.stdout.split())
+
+    @staticmethod
+    def _xdotool(*arguments):
+        subprocess.run(["xdotool", *arguments], check=True)
+
+    def _wait(self, what, condition):
+        end = time.monotonic() + LIMIT
+        while True:
+            result = condition()
+            if result:
+                return result
+            if not os.path.exists(f"/proc/{self.process}"):
+                raise RoadBroken(f"the app ended; expected {what}")
+            if time.monotonic() > end:
+                raise RoadBroken(f"not within {LIMIT:.0f} s: {what}")
+            time.sleep(0.05)
+
+    def describe(self):
+        """What is on the screen, for whoever must find out why the road broke."""
+        return "\n".join(f"  {role}: {name!r} at {place}" for name, role, place in self._showing() if name)

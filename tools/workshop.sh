@@ -1,0 +1,130 @@
+# What ./run, ./test and tools/tour share. Sourced by bash, from the top of the tree.
+
+say() { printf '%s\n' "$*"; }
+fail() { printf '%s: %s\n' "${0##*/}" "$*" >&2; exit 1; }
+
+# Every process and folder made on the way is noted here and ended by endEverything, in reverse.
+started=()
+folders=()
+
+# Runs a command as a process group of its own, so that its children end with it; sets $job.
+start() {
+  setsid -- "$@" &
+  job=$!
+  started=("$job" "${started[@]}")
+}
+
+endEverything() {
+  trap '' INT TERM  # a second Ctrl-C must not leave half of them behind
+  local group
+  for group in "${started[@]}"; do
+    kill -TERM -- "-$group" 2>/dev/null || kill -TERM "$group" 2>/dev/null
+    wait "$group" 2>/dev/null
+  done
+  for group in "${folders[@]}"; do rm -rf "$group"; done
+  started=() folders=()
+}
+
+endEverythingAtExit() {
+  trap endEverything EXIT
+  trap 'exit 130' INT
+  trap 'exit 143' TERM HUP
+}
+
+# Runs a command to its end, but lets an interruption through at once.
+await() {
+  local status
+  start "$@"
+  wait "$job"
+  status=$?
+  started=("${started[@]:1}")  # its number may soon be somebody else's
+  return $status
+}
+
+# Prints the packages of the named lists.
+packagesOf() {
+  local list
+  for list in "$@"; do awk -v list="$list" '$1 == list { print $2 }' tools/packages; done | sort -u
+}
+
+missingPackages() {
+  local package
+  for package in $(packagesOf "$@"); do
+    [[ $(dpkg-query -W -f '${db:Status-Abbrev}' "$package" 2>/dev/null) == ii* ]] || say "$package"
+  done
+}
+
+# Installs what is missing of the named lists, and nothing else.
+installMissing() {
+  if ! command -v dpkg-query >/dev/null; then
+    say "This is no Debian system; needed are: $(packagesOf "$@" | xargs)"
+    return
+  fi
+  local missing asRoot=()
+  mapfile -t missing < <(missingPackages "$@")
+  ((${#missing[@]})) || return 0
+  say "Installing: ${missing[*]}"
+  if ((EUID)); then
+    command -v sudo >/dev/null || fail "neither root nor sudo: please install ${missing[*]}"
+    asRoot=(sudo)
+  fi
+  "${asRoot[@]}" apt-get update -qq &&
+    "${asRoot[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq \
+      --no-install-recommends -o Dpkg::Use-Pty=0 "${missing[@]}" >/dev/null || fail "the packages could not be installed"
+}
+
+# Two clones on one machine do not meet: each build folder has a port of its own, from its path.
+ownPort() { say $((20000 + $(cksum <<<"$PWD/$1" | cut -d' ' -f1) % 10000)); }
+
+# The picture host that a build folder was configured with, or its own.
+configuredHost() {
+  local address
+  address=$(sed -n 's/^LEAFUND_PICTURE_HOST:[A-Z]*=//p' "$1/CMakeCache.txt" 2>/dev/null)
+  say "${address:-http://127.0.0.1:$(ownPort "$1")}"
+}
+
+# The last line of what is served at /word on a port.
+wordAt() {
+  {
+    exec 4<>"/dev/tcp/127.0.0.1/$1"
+    printf 'GET /word HTTP/1.0\r\n\r\n' >&4
+    timeout 2 tail -n 1 <&4
+  } 2>/dev/null
+}
+
+# True when what answers on a port is the host just started: it alone knows the word.
+answersWith() {
+  local word=$1 port=$2 attempt
+  for attempt in {1..50}; do
+    [[ $(wordAt "$port") == "$word" ]] && return 0
+    kill -0 "$job" 2>/dev/null || return 1  # the port was taken
+    sleep 0.1
+  done
+  return 1
+}
+
+# Starts the picture host of a build folder, on another port when its own is taken, and sets
+# $pictureHost. Before the build, because the address is compiled in.
+startPictureHost() {
+  local build=$1 root word port attempt
+  pictureHost=$(configuredHost "$build")
+  if [[ $pictureHost != http://127.0.0.1:* ]]; then
+    say "Pictures come from $pictureHost"
+    return
+  fi
+  mkdir -p "$build"
+  root=$(mktemp -d "$PWD/$build/pictures.XXXXXX")
+  folders+=("$root")
+  word=$(od -An -N16 -tx1 /dev/urandom | tr -d ' ')
+  say "$word" >"$root/word"
+  ln -s "$PWD"/pictures/*.jpg "$root/"
+  port=${pictureHost##*:}
+  for attempt in {1..20}; do
+    pictureHost=http://127.0.0.1:$port
+    start busybox httpd -f -vv -c /dev/null -p "127.0.0.1:$port" -h "$root" 2>"$build/pictures.log"
+    answersWith "$word" "$port" && return
+    say "Port $port is taken by something else; trying the next one."
+    port=$((20000 + (port - 19999) % 10000))
+  done
+  fail "no free port for the picture host"
+}
