@@ -23,6 +23,15 @@ class Tour:
         self.pictures += 1
         self.window.capture(f"{self.folder}/{self.pictures:02}-{screen}.png")
 
+    def steps(self):
+        return (
+            self.sign_in,
+            self.pledge,
+            self.find_pledge_under_funded,
+            self.read_update,
+            self.look_around,
+        )
+
     def sign_in(self):
         window = self.window
         window.expect("Small pledges, green changes.")
@@ -38,7 +47,7 @@ class Tour:
 
     def pledge(self):
         window = self.window
-        window.expect("Biking to Work!")
+        window.expect_picture("Biking to Work!")
         self.save("browse")
         window.click(PLEDGED)
         window.expect("Fund this campaign")
@@ -64,6 +73,7 @@ class Tour:
         window.click("Funded", TABS)
         window.expect(PLEDGED)
         self.check(PLEDGED in window.rows()[0], "the new pledge is the first row")
+        window.expect_picture(FUNDED_BEFORE)
         self.save("funded")
 
     def read_update(self):
@@ -80,7 +90,7 @@ class Tour:
     def look_around(self):
         window = self.window
         window.click("Mine", TABS)
-        window.expect("Eco-Friendly Stove!")
+        window.expect_picture("Eco-Friendly Stove!")
         self.save("mine")
         window.click("New")
         window.expect("Create campaign")
@@ -106,7 +116,7 @@ def main():
     try:
         window = Window(process)
         tour = Tour(window, folder)
-        for step in (tour.sign_in, tour.pledge, tour.find_pledge_under_funded, tour.read_update, tour.look_around):
+        for step in tour.steps():
             step()
             print(f"{step.__name__.replace('_', ' ')}: done", flush=True)
     except RoadBroken as reason:

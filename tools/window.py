@@ -13,11 +13,16 @@ from gi.repository import Atspi, GLib  # noqa: E402
 LIMIT = 15.0  # seconds that any one step may take
 FIELDS = {"text", "entry", "password text", "editbar"}
 TABS = {"page tab", "radio button"}
-CONTROLS = {"push button", "button", "list item", "table cell", "link"} | FIELDS | TABS
+ROWS = {"list item", "table cell"}
+CONTROLS = {"push button", "button", "link"} | ROWS | FIELDS | TABS
 
 
 class RoadBroken(Exception):
     pass
+
+
+def run(*command):
+    return subprocess.run(command, check=True, stdout=subprocess.PIPE).stdout
 
 
 class Window:
@@ -44,9 +49,20 @@ class Window:
     def expect_gone(self, name):
         self._wait(f"“{name}” gone from the screen", lambda: not self.sees(name))
 
+    def expect_picture(self, row):
+        """Waits until the left end of a row shows more colours than a frame and letters have."""
+
+        def drawn():
+            x, y, _, height = self.expect(row, ROWS)[2]
+            crop = f"80x{height}+{x}+{y}"
+            shot = run("import", "-window", "root", "-crop", crop, "-format", "%k", "info:-")
+            return int(shot) > 500
+
+        self._wait(f"the picture of “{row}”", drawn)
+
     def rows(self):
         """Names of the rows on the screen, from top to bottom."""
-        found = [node for node in self._showing() if node[1] in {"list item", "table cell"}]
+        found = [node for node in self._showing() if node[1] in ROWS]
         return [name for name, _, _ in sorted(found, key=lambda node: node[2][1])]
 
     # Touching
@@ -68,7 +84,7 @@ class Window:
     def capture(self, path):
         """Saves the screen once it stands still."""
         self._wait("a screen that stands still", self._is_still)
-        subprocess.run(["import", "-window", "root", path], check=True)
+        run("import", "-window", "root", path)
 
     # The rest is how.
 
@@ -92,7 +108,9 @@ class Window:
             try:
                 place = self._place(node)
                 if place[2] > 0 and place[3] > 0 and 0 <= place[0] + place[2] // 2 < self.width:
-                    found.append((node.get_name() or "", node.get_role_name(), place))
+                    # Qt keeps a password input's name back, but not its description.
+                    name = node.get_name() or node.get_description() or ""
+                    found.append((name, node.get_role_name(), place))
                 children = [node.get_child_at_index(i) for i in range(node.get_child_count())]
             except GLib.Error:
                 continue  # it left while it was looked at
@@ -139,17 +157,15 @@ class Window:
 
     @staticmethod
     def _pixels():
-        shot = subprocess.run(["import", "-window", "root", "rgb:-"], check=True, capture_output=True)
-        return hashlib.sha256(shot.stdout).digest()
+        return hashlib.sha256(run("import", "-window", "root", "rgb:-")).digest()
 
     @staticmethod
     def _screen():
-        shape = subprocess.run(["xdotool", "getdisplaygeometry"], check=True, capture_output=True, text=True)
-        return tuple(int(number) for number in shape.stdout.split())
+        return tuple(int(number) for number in run("xdotool", "getdisplaygeometry").split())
 
     @staticmethod
     def _xdotool(*arguments):
-        subprocess.run(["xdotool", *arguments], check=True)
+        run("xdotool", *arguments)
 
     def _wait(self, what, condition):
         end = time.monotonic() + LIMIT
@@ -165,4 +181,5 @@ class Window:
 
     def describe(self):
         """What is on the screen, for whoever must find out why the road broke."""
-        return "\n".join(f"  {role}: {name!r} at {place}" for name, role, place in self._showing() if name)
+        named = [node for node in self._showing() if node[0]]
+        return "\n".join(f"  {role}: {name!r} at {place}" for name, role, place in named)

@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # What ./run, ./test and tools/tour share. Sourced by bash, from the top of the tree.
 
 say() { printf '%s\n' "$*"; }
@@ -14,15 +15,18 @@ start() {
   started=("$job" "${started[@]}")
 }
 
+# Ends the last process started.
+endLast() {
+  kill -TERM -- "-${started[0]}" 2>/dev/null || kill -TERM "${started[0]}" 2>/dev/null
+  wait "${started[0]}" 2>/dev/null
+  started=("${started[@]:1}")
+}
+
 endEverything() {
-  trap '' INT TERM  # a second Ctrl-C must not leave half of them behind
-  local group
-  for group in "${started[@]}"; do
-    kill -TERM -- "-$group" 2>/dev/null || kill -TERM "$group" 2>/dev/null
-    wait "$group" 2>/dev/null
-  done
-  for group in "${folders[@]}"; do rm -rf "$group"; done
-  started=() folders=()
+  trap '' INT TERM HUP  # a second Ctrl-C must not leave half of them behind
+  while ((${#started[@]})); do endLast; done
+  ((${#folders[@]})) && rm -rf "${folders[@]}"
+  folders=()
 }
 
 endEverythingAtExit() {
@@ -68,9 +72,10 @@ installMissing() {
     command -v sudo >/dev/null || fail "neither root nor sudo: please install ${missing[*]}"
     asRoot=(sudo)
   fi
-  "${asRoot[@]}" apt-get update -qq &&
-    "${asRoot[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq \
-      --no-install-recommends -o Dpkg::Use-Pty=0 "${missing[@]}" >/dev/null || fail "the packages could not be installed"
+  "${asRoot[@]}" apt-get update -qq || fail "the lists of packages could not be read"
+  "${asRoot[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq \
+    --no-install-recommends -o Dpkg::Use-Pty=0 "${missing[@]}" >/dev/null ||
+    fail "the packages could not be installed"
 }
 
 # Two clones on one machine do not meet: each build folder has a port of its own, from its path.
@@ -94,8 +99,8 @@ wordAt() {
 
 # True when what answers on a port is the host just started: it alone knows the word.
 answersWith() {
-  local word=$1 port=$2 attempt
-  for attempt in {1..50}; do
+  local word=$1 port=$2
+  for _ in {1..50}; do
     [[ $(wordAt "$port") == "$word" ]] && return 0
     kill -0 "$job" 2>/dev/null || return 1  # the port was taken
     sleep 0.1
@@ -106,7 +111,7 @@ answersWith() {
 # Starts the picture host of a build folder, on another port when its own is taken, and sets
 # $pictureHost. Before the build, because the address is compiled in.
 startPictureHost() {
-  local build=$1 root word port attempt
+  local build=$1 root word port
   pictureHost=$(configuredHost "$build")
   if [[ $pictureHost != http://127.0.0.1:* ]]; then
     say "Pictures come from $pictureHost"
@@ -119,10 +124,11 @@ startPictureHost() {
   say "$word" >"$root/word"
   ln -s "$PWD"/pictures/*.jpg "$root/"
   port=${pictureHost##*:}
-  for attempt in {1..20}; do
+  for _ in {1..20}; do
     pictureHost=http://127.0.0.1:$port
     start busybox httpd -f -vv -c /dev/null -p "127.0.0.1:$port" -h "$root" 2>"$build/pictures.log"
     answersWith "$word" "$port" && return
+    endLast
     say "Port $port is taken by something else; trying the next one."
     port=$((20000 + (port - 19999) % 10000))
   done

@@ -8,7 +8,8 @@ Item {
     required property ViewObject view
     property real shown: view.progressFrom
 
-    // What assistive technology reads, by these names.
+    // What assistive technology reads, by these names where the system knows of progress, and as a
+    // description where it does not.
     readonly property real value: Math.round(view.progress * 100)
     readonly property real minimumValue: 0
     readonly property real maximumValue: 100
@@ -33,6 +34,7 @@ Item {
 
     Accessible.role: Accessible.ProgressBar
     Accessible.name: view.accessibleName
+    Accessible.description: value + "%"
 
     Rectangle {
         anchors.fill: parent

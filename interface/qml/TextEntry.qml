@@ -29,6 +29,6 @@ EntryBox {
 
         Accessible.role: Accessible.EditableText
         Accessible.name: entry.view.accessibleName
-        Accessible.passwordEdit: entry.view.secure
+        // Not Accessible.passwordEdit: it takes the name away, and the role follows the echo mode.
     }
 }

@@ -76,7 +76,9 @@ int QtHost::run(UIApplication& application) {
 void QtHost::start(UIApplication& application) {
   // On a phone-sized window the software renderer is on screen first and takes a third of the memory
   // that a software OpenGL needs; it is also the only one that every machine has.
-  QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+  if (QQuickWindow::sceneGraphBackend() != QLatin1String("software")) {
+    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+  }
   gui_ = std::make_unique<QGuiApplication>(argc_, argv_);
   QGuiApplication::setDesktopFileName(QStringLiteral("leafund"));
   QGuiApplication::setFont(typeface());

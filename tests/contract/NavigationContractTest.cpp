@@ -110,7 +110,7 @@ TEST_F(NavigationContract, ATappedRowStartsItsSegueWithTheCellAsSender) {
   takeLog();
   application->tap(cell);
   settle();
-  EXPECT_EQ(life(browse).lastSender, cell);
+  EXPECT_EQ(life(browse).lastSender.lock(), cell);
   EXPECT_THAT(log, ElementsAre("OtherCampaignsTableViewController prepares campaignSegue",
                                "OneCampaignViewController viewDidLoad",
                                "OneCampaignViewController viewWillAppear"));

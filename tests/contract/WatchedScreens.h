@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <string>
 #include <utility>
 #include <vector>
@@ -18,7 +19,7 @@ class WatchedLife {
  public:
   virtual ~WatchedLife() = default;
   std::vector<CGRect> framesAtAppearance;
-  Sender lastSender;
+  std::weak_ptr<UIResponder> lastSender;  // often the screen itself
 };
 
 // A screen of the application that also writes its life down. Its scene, and so its skin, are the

@@ -8,6 +8,8 @@
 #include "platform/uikit/UITapGestureRecognizer.h"
 #include "screens/campaign/ConfirmPageVC.h"
 #include "screens/campaign/ThankYouVC.h"
+#include "tests/platform/CommaLocale.h"
+#include "tests/support/AmountTexts.h"
 #include "tests/support/HeadlessApplication.h"
 #include "tests/support/Screens.h"
 
@@ -89,6 +91,29 @@ TEST_F(NewCampaignTest, ABadAmountKeepsRefusingUntilItIsCorrected) {
   press();
   EXPECT_EQ(form->segues, Segues{"campaignCreatedSegue"});
   EXPECT_FALSE(form->moneyErrorField->hidden());  // hidden again only by a new form
+}
+
+TEST_F(NewCampaignTest, EveryAmountTextHasItsOutcome) {
+  for (const auto& [text, amount] : amountTexts()) {
+    const auto before = myUnfundedCampaigns().size();
+    fill(text);
+    press();
+    ASSERT_EQ(myUnfundedCampaigns().size(), before + (amount ? 1 : 0)) << text;
+    if (amount) {
+      EXPECT_TRUE(sameAmount(myUnfundedCampaigns()[0]->totalFunding(), *amount)) << text;
+    }
+  }
+}
+
+TEST_F(NewCampaignTest, EveryAmountTextHasItsOutcomeUnderALocaleWithADecimalComma) {
+  const CommaLocale locale;
+  if (!locale.set()) GTEST_SKIP() << locale.whyNot();
+  for (const auto& [text, amount] : amountTexts()) {
+    const auto before = myUnfundedCampaigns().size();
+    fill(text);
+    press();
+    EXPECT_EQ(myUnfundedCampaigns().size(), before + (amount ? 1 : 0)) << text;
+  }
 }
 
 TEST_F(NewCampaignTest, PressedTwiceAfterAnEmptyCreatorTheMessageIsTheCreator) {

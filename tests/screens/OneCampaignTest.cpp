@@ -4,6 +4,7 @@
 
 #include <csignal>
 #include <cstdio>
+#include <limits>
 
 #include "model/Catalogue.h"
 #include "platform/headless/HeadlessHost.h"
@@ -99,6 +100,26 @@ TEST_F(OneCampaignTest, AGoalOfZeroWithNothingRaisedCountsAsFunded) {
   EXPECT_EQ(detail->labelAboveSlider->text(), "Funded!");
   EXPECT_NE(detail->slider->progress(), detail->slider->progress());  // not a number
   EXPECT_EQ(detail->desiredFund->text(), "$0.00");
+}
+
+TEST_F(OneCampaignTest, EveryGoalIsWrittenOut) {
+  const std::pair<float, const char*> goals[] = {
+      {0.0F, "$0.00"},
+      {-5.0F, "$-5.00"},
+      {std::numeric_limits<float>::quiet_NaN(), "$nan"},
+      {std::numeric_limits<float>::infinity(), "$inf"},
+      {3.4e38F, "$339999995214436424907732413799364296704.00"}};
+  for (const auto& [goal, text] : goals) {
+    RecordedScreen<OneCampaignViewController> screen("OneCampaignViewController");
+    otherCampaigns()[0]->setTotalFunding(goal);
+    screen->campaignSendingYou = "otherCampaigns";
+    screen->campaignNum = 0;
+    screen->view();
+    EXPECT_EQ(screen->desiredFund->text(), text);
+    EXPECT_EQ(screen->currentFund->text(), "$120.00");
+    EXPECT_GE(screen->slider->shownProgress(), 0.0F) << text;
+    EXPECT_LE(screen->slider->shownProgress(), 1.0F) << text;
+  }
 }
 
 TEST_F(OneCampaignTest, WithoutAListNameThePresentersCampaignIsShownAndCannotBeFunded) {

@@ -5,6 +5,8 @@
 #include "model/Catalogue.h"
 #include "platform/headless/HeadlessHost.h"
 #include "screens/campaign/OneCampaignViewController.h"
+#include "tests/platform/CommaLocale.h"
+#include "tests/support/AmountTexts.h"
 #include "tests/support/Screens.h"
 
 namespace leafund {
@@ -94,13 +96,24 @@ TEST_F(PledgeAmountTest, WhatIsNotANumberGoesOnAndTheInfiniteIsRefused) {
   EXPECT_EQ(detail->errorLabel->text(), kTooMuch);
 }
 
-TEST_F(PledgeAmountTest, EveryFormOfANumberIsRead) {
-  const std::pair<const char*, float> amounts[] = {
-      {"25", 25}, {"25.50", 25.5F}, {".5", 0.5F}, {"+5", 5}, {"1e1", 10}, {"0x1p3", 8}};
-  for (const auto& [text, amount] : amounts) {
+TEST_F(PledgeAmountTest, EveryAmountTextHasItsOutcome) {
+  detail->campaign->setTotalFunding(1e9F);
+  for (const auto& [text, amount] : amountTexts()) {
+    detail->dollarsDonated = -1;
     pledge(text);
-    EXPECT_TRUE(goesOn()) << text;
-    EXPECT_EQ(detail->dollarsDonated, amount) << text;
+    EXPECT_TRUE(sameAmount(detail->dollarsDonated, amount.value_or(-1))) << text;
+    EXPECT_EQ(goesOn(), amount.has_value() && !std::isinf(*amount)) << text;
+  }
+}
+
+TEST_F(PledgeAmountTest, EveryAmountTextHasItsOutcomeUnderALocaleWithADecimalComma) {
+  const CommaLocale locale;
+  if (!locale.set()) GTEST_SKIP() << locale.whyNot();
+  detail->campaign->setTotalFunding(1e9F);
+  for (const auto& [text, amount] : amountTexts()) {
+    detail->dollarsDonated = -1;
+    pledge(text);
+    EXPECT_TRUE(sameAmount(detail->dollarsDonated, amount.value_or(-1))) << text;
   }
 }
 

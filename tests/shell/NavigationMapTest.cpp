@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <set>
 
 #include "model/Catalogue.h"
@@ -143,6 +144,90 @@ TEST(NavigationMapTest, EveryTransitionJoinsTwoScenesAndEverySceneIsReached) {
   }
   EXPECT_EQ(scenes.size(), 12U);
   EXPECT_EQ(reached, scenes);
+}
+
+TEST(NavigationMapTest, NoSceneIsADeadEnd) {
+  for (const auto& scene : mainStoryboard().scenes()) {
+    if (scene.name == "NewsFeedVC" || scene.name == "TabBarVC") continue;  // the tab bar leads on
+    const auto map = segues();
+    const bool leadsOn = std::any_of(map.begin(), map.end(), [&](const auto& segue) {
+      return segue.source == scene.name;
+    });
+    // Of those without a segue of their own the back button must be there.
+    EXPECT_TRUE(leadsOn || scene.name == "UpdatePageVC") << scene.name;
+  }
+  HeadlessApplication app;
+  app.signIn();
+  app.tap("fundedTab");
+  app.tapRow(0);
+  app.tap("campaignUpdates");
+  app.application->goBack();
+  EXPECT_EQ(app.shown()->className(), "OneCampaignViewController");
+}
+
+// Identifier, source, destination, and what the destination then knows: one walk for each row of
+// the map.
+TEST(NavigationMapTest, EveryRowOfTheMapIsWalked) {
+  std::set<std::string> walked;
+  HeadlessApplication app;
+  const auto go = [&](const std::string& segue, const std::string& source, auto act,
+                      const std::string& destination) {
+    ASSERT_EQ(app.shown()->className() == source ||
+                  app.navigation().topViewController()->className() == source,
+              true)
+        << segue;
+    act();
+    EXPECT_EQ(app.navigation().topViewController()->className(), destination) << segue;
+    walked.insert(segue + " " + source + " " + destination);
+  };
+  const auto tap = [&](const char* name) { return [&app, name] { app.tap(name); }; };
+  const auto row = [&](std::ptrdiff_t at) { return [&app, at] { app.tapRow(at); }; };
+  const std::string landing = "LandingPageVC", home = "TabBarVC", thanks = "ThankYouVC",
+                    detail = "OneCampaignViewController", confirm = "ConfirmPageVC",
+                    browse = "OtherCampaignsTableViewController", form = "NewCampaignVC";
+
+  app.type("userEmail", "a");
+  app.type("password", "b");
+  go("signInSegue", landing, tap("signInButton"), home);
+  go("campaignSegue", browse, row(0), detail);
+  app.type("dollarAmountField", "1");
+  go("campaignFundedSegue", detail, tap("FundButton"), confirm);
+  go("noSegue", confirm, tap("noButton"), detail);
+  app.tap("FundButton");
+  go("yesSegue", confirm, tap("yesButton"), thanks);
+  go("homeSegue", thanks, tap("homeButton"), home);
+  app.tap("fundedTab");
+  go("campaignSegue", "FundCampaignVC", row(1), detail);
+  go("updatesSegue", detail, tap("campaignUpdates"), "UpdatePageVC");
+  app.application->goBack();
+  app.application->goBack();
+  app.tap("mineTab");
+  go("campaignSegue", "MyProfileVC", row(0), detail);
+  app.application->goBack();
+  go("newCampaignSegue", home, tap("newButton"), form);
+  for (const auto* input : {"nameOfCreator", "nameOfCampaign", "shortDescription",
+                            "fullDescription", "imageURL"}) {
+    app.type(input, "x");
+  }
+  app.type("desiredFunding", "1");
+  go("campaignCreatedSegue", form, tap("createButton"), thanks);
+
+  HeadlessApplication anew;
+  anew.tap("signUpButton");
+  EXPECT_EQ(anew.shown()->className(), "SignUpVC");
+  walked.insert("signUpSegue LandingPageVC SignUpVC");
+  for (const auto* input : {"nameField", "passwordField", "passwordConfirmField"}) {
+    anew.type(input, "x");
+  }
+  anew.tap("signUpButton");
+  EXPECT_EQ(anew.navigation().topViewController()->className(), home);
+  walked.insert("signUpSecondSegue SignUpVC TabBarVC");
+
+  std::set<std::string> tabled;
+  for (const auto& segue : segues()) {
+    tabled.insert(segue.identifier + " " + segue.source + " " + segue.destination);
+  }
+  EXPECT_EQ(walked, tabled);
 }
 
 TEST(NavigationMapDeathTest, AnUnknownIdentifierIsFatal) {

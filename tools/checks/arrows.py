@@ -5,7 +5,7 @@ import re
 BELOW_UIKIT = {"platform", "platform/foundation", "platform/dispatch", "platform/graphics"}
 TOOLKIT = BELOW_UIKIT | {"platform/uikit"}
 
-# A room, and the rooms it may include besides itself. The longest name that fits a file is its room.
+# A room, and the rooms it may include besides itself. The longest name that fits is a file's room.
 ARROWS = {
     "model": set(),
     **{room: BELOW_UIKIT for room in BELOW_UIKIT},
@@ -57,7 +57,7 @@ def homeless(project):
     return [
         path
         for path in project.files(".h", ".cpp", ".qml")
-        if room_of(path) is None and not path.startswith(FREE) and not path.startswith("interface/qml/")
+        if room_of(path) is None and not path.startswith((*FREE, "interface/qml/"))
     ]
 
 
@@ -66,7 +66,8 @@ def relative(project):
     return [
         f"{path}:{number} includes {target[1:]}"
         for path, number, target in includes(project)
-        if target[0] == '"' and not (project.top / target[1:]).exists() and not target.endswith(".moc")
+        if target[0] == '"' and not (project.top / target[1:]).exists()
+        and not target.endswith(".moc")
     ]
 
 

@@ -10,8 +10,7 @@ def lines(project, theme=False):
     for path in project.files(".qml"):
         if path == THEME and not theme:
             continue
-        text = re.sub(r"/\*.*?\*/", lambda found: "\n" * found.group().count("\n"), project.text(path), flags=re.S)
-        for number, line in enumerate(text.splitlines(), 1):
+        for number, line in enumerate(project.text(path).splitlines(), 1):
             yield path, number, re.sub(r"(^|\s)//.*", "", line)
 
 
@@ -24,11 +23,12 @@ def matching(project, pattern, theme=False):
 
 
 def words(project):
-    """A literal with a blank or letters beside a property that a user reads, or any that looks like a sentence."""
+    """A literal beside a property that a user reads, or one that looks like a sentence."""
     read = r'\b(text|title|placeholder|label|name|description)\s*:\s*[^/]*"[^"]*[A-Za-z][^"]*"'
     found = matching(project, read) + matching(project, r'"[^"/:]*[A-Za-z] [^"]*"|qsTr\s*\(')
     # objectName and font.family are for programs, not for readers.
-    return [line for line in dict.fromkeys(found) if not re.search(r"\b(objectName|family)\s*:", line)]
+    internal = re.compile(r"\b(objectName|family)\s*:")
+    return [line for line in dict.fromkeys(found) if not internal.search(line)]
 
 
 def blocks(text, kind):
@@ -54,14 +54,16 @@ def plain_text(project):
 def tokens(project):
     colour = r'"#[0-9A-Fa-f]{3,8}"|Qt\.(rgba|hsla|hsva|lighter|darker|tint)\s*\('
     named = r'\b\w*[cC]olor\s*:.*"(?!transparent")[a-z]+"'
-    size = r"\b(pixelSize|pointSize|duration|spacing|radius|weight)\s*:[^;}]*(?<![\w.])(?<!/ )[1-9]\d*"
+    # Half of something's own width is geometry, a number by itself is a token.
+    number = r"[^;}]*(?<![\w.])(?<!/ )[1-9]\d*"
+    size = r"\b(pixelSize|pointSize|duration|spacing|radius|weight)\s*:" + number
     return matching(project, f"{colour}|{named}|{size}")
 
 
 def heavy(project):
-    return matching(
-        project, r"import QtQuick\.(Controls|Layouts)|layer\.(effect|enabled)|ShaderEffect|MultiEffect|GraphicalEffects", True
-    )
+    imports = r"import QtQuick\.(Controls|Layouts)"
+    effects = r"layer\.(effect|enabled)|ShaderEffect|MultiEffect|GraphicalEffects"
+    return matching(project, f"{imports}|{effects}", theme=True)
 
 
 CHECKS = (

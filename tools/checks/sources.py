@@ -1,4 +1,4 @@
-"""C++ and QML as their own tools see them."""
+"""C++ as its own tools see it. QML is read by the build."""
 
 import concurrent.futures
 import os
@@ -7,8 +7,7 @@ import shutil
 import subprocess
 
 FORMAT = "clang-format-19"
-QMLLINT = "/usr/lib/qt6/bin/qmllint"
-KEYWORDS = {"if", "for", "while", "switch", "return", "sizeof", "decltype", "noexcept", "explicit", "requires"}
+KEYWORDS = {"if", "for", "while", "switch", "return", "sizeof", "decltype", "noexcept", "requires"}
 
 
 def told(command, top):
@@ -19,16 +18,18 @@ def told(command, top):
 
 def each(project, paths, command):
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
-        return [line for lines in pool.map(lambda path: told(command(path), project.top), paths) for line in lines]
+        answers = pool.map(lambda path: told(command(path), project.top), paths)
+        return [line for answer in answers for line in answer]
 
 
 def headers(project):
-    """A header that its own source includes first is proved by the build; the others are tried here."""
+    """The build proves a header that its own source includes first; the others are tried here."""
 
     def proved(path):
         source = path.removesuffix("h") + "cpp"
-        first = re.search(r'#include\s+["<]([^">]+)', project.text(source)) if source in project.all else None
-        return first and first.group(1) == path
+        if source not in project.all:
+            return False
+        return re.findall(r'#include\s+["<]([^">]+)', project.text(source))[0] == path
 
     far = ("platform/qt/", "tests/", "bench/")
     paths = [path for path in project.files(".h") if not path.startswith(far) and not proved(path)]
@@ -46,14 +47,13 @@ def formatted(project):
     told_of = each(
         project, project.files(".h", ".cpp"), lambda path: [FORMAT, "--dry-run", "--Werror", path]
     )
-    return sorted({line.split(":")[0] for line in told_of if "clang-formatted" in line} or set(told_of))
+    named = {line.split(":")[0] for line in told_of if "clang-formatted" in line}
+    return sorted(named or set(told_of))
 
 
-def skin_syntax(project):
-    """Only what cannot be read at all: it does not know the types that C++ registers, and merely warns."""
-    if not os.path.exists(QMLLINT):
-        return [f"{QMLLINT} is not installed"]
-    return each(project, project.files(".qml"), lambda path: [QMLLINT, "--bare", path])
+OPERATION = re.compile(
+    r"^\s+(?:[\w:<>,&*\s\[\]]+[\s&*])(\w+)\([^;{]*\)[^;{()]*[;{]", re.M
+)
 
 
 def operations(text):
@@ -62,7 +62,7 @@ def operations(text):
     for section in re.split(r"^\s*(?=public:|protected:|private:)", text, flags=re.M):
         if section.startswith(("protected:", "private:")):
             continue
-        for name in re.findall(r"^\s+(?:[\w:<>,&*\s\[\]]+[\s&*])(\w+)\([^;{]*\)[^;{()]*[;{]", section, flags=re.M):
+        for name in OPERATION.findall(section):
             if name not in KEYWORDS and name[0].islower() and not name.endswith("_"):
                 yield name
 
@@ -85,6 +85,5 @@ CHECKS = (
     ("headers stand alone", "include in the header what it uses", headers),
     ("headers are read once", "begin it with #pragma once", guards),
     ("C++ is formatted", f"{FORMAT} -i on the files named", formatted),
-    ("QML can be read", "see qmllint", skin_syntax),
     ("toolkit operations are used", "take the operation away, or use it", callers),
 )

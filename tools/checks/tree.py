@@ -1,4 +1,4 @@
-"""The tree itself: its files, their names and sizes, the pictures and the words that stay out of it."""
+"""The tree itself: its files, their names and sizes, the pictures, the words that stay out."""
 
 import collections
 import pathlib
@@ -18,11 +18,12 @@ class Project:
 
     def __init__(self, top):
         self.top = pathlib.Path(top)
-        listed = subprocess.run(
-            ["git", "-c", f"safe.directory={top}", "ls-files", "-z", "--cached", "--others", "--exclude-standard"],
-            cwd=top, check=True, capture_output=True, text=True,
-        ).stdout
-        self.all = sorted(path for path in set(listed.split("\0")) if path and (self.top / path).is_file())
+        # The tree may belong to another user than the one who checks it, as in a container.
+        git = ["git", "-c", f"safe.directory={top}", "-C", top]
+        tracked = ["ls-files", "-z", "--cached", "--others", "--exclude-standard"]
+        listed = subprocess.run([*git, *tracked], check=True, capture_output=True, text=True)
+        paths = set(listed.stdout.split("\0")) - {""}
+        self.all = sorted(path for path in paths if (self.top / path).is_file())
         self.texts = {}
 
     def files(self, *suffixes):
@@ -41,7 +42,11 @@ def unique_names(project):
     places = collections.defaultdict(list)
     for path in project.all:
         places[pathlib.Path(path).name].append(path)
-    return [" and ".join(paths) for name, paths in places.items() if len(paths) > 1 and name not in REPEATED]
+    return [
+        " and ".join(paths)
+        for name, paths in places.items()
+        if len(paths) > 1 and name not in REPEATED
+    ]
 
 
 def small_files(project):
@@ -50,7 +55,8 @@ def small_files(project):
         length = project.text(path).count("\n")
         if length > LIMITS[pathlib.Path(path).suffix] and path not in LONG:
             found.append(f"{path} has {length} lines")
-    return found + [f"{path} is allowed to be long, and is gone" for path in LONG if path not in project.all]
+    gone = [path for path in LONG if path not in project.all]
+    return found + [f"{path} is allowed to be long, and is gone" for path in gone]
 
 
 def pictures(project):
