@@ -20,18 +20,13 @@ namespace leafund {
 namespace {
 
 std::vector<SceneDescription> scenes() {
-  return {scene("LandingPageVC", landingScene),
-          scene("SignUpVC", signUpScene),
-          scene("TabBarVC", tabBarScene),
-          scene("OtherCampaignsTableViewController", browseScene),
-          scene("FundCampaignVC", fundedScene),
-          scene("MyProfileVC", mineScene),
-          scene("NewsFeedVC", newsFeedScene),
-          scene("OneCampaignViewController", campaignScene),
-          scene("ConfirmPageVC", confirmScene),
-          scene("ThankYouVC", thankYouScene),
-          scene("UpdatePageVC", updateScene),
-          scene("NewCampaignVC", newCampaignScene)};
+  return {
+      scene("LandingPageVC", landingScene), scene("SignUpVC", signUpScene),
+      scene("TabBarVC", tabBarScene),       scene("OtherCampaignsTableViewController", browseScene),
+      scene("FundCampaignVC", fundedScene), scene("MyProfileVC", mineScene),
+      scene("NewsFeedVC", newsFeedScene),   scene("OneCampaignViewController", campaignScene),
+      scene("ConfirmPageVC", confirmScene), scene("ThankYouVC", thankYouScene),
+      scene("UpdatePageVC", updateScene),   scene("NewCampaignVC", newCampaignScene)};
 }
 
 // The navigation map: a row a transition.

@@ -108,9 +108,7 @@ class Window:
             try:
                 place = self._place(node)
                 if place[2] > 0 and place[3] > 0 and 0 <= place[0] + place[2] // 2 < self.width:
-                    # Qt keeps a password input's name back, but not its description.
-                    name = node.get_name() or node.get_description() or ""
-                    found.append((name, node.get_role_name(), place))
+                    found.append((node.get_name() or "", node.get_role_name(), place))
                 children = [node.get_child_at_index(i) for i in range(node.get_child_count())]
             except GLib.Error:
                 continue  # it left while it was looked at

@@ -72,10 +72,15 @@ installMissing() {
     command -v sudo >/dev/null || fail "neither root nor sudo: please install ${missing[*]}"
     asRoot=(sudo)
   fi
-  "${asRoot[@]}" apt-get update -qq || fail "the lists of packages could not be read"
-  "${asRoot[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq \
-    --no-install-recommends -o Dpkg::Use-Pty=0 "${missing[@]}" >/dev/null ||
-    fail "the packages could not be installed"
+  local log=build/packages.log
+  mkdir -p build
+  {
+    "${asRoot[@]}" apt-get update &&
+      "${asRoot[@]}" env DEBIAN_FRONTEND=noninteractive \
+        apt-get install -y --no-install-recommends "${missing[@]}"
+  } >"$log" 2>&1 && return
+  tail -n 20 "$log"
+  fail "the packages could not be installed"
 }
 
 # Two clones on one machine do not meet: each build folder has a port of its own, from its path.

@@ -20,11 +20,11 @@ void campaignScene(Scene<OneCampaignViewController>& scene, OneCampaignViewContr
               {.placeholder = "Amount in dollars", .keyboard = UIKeyboardType::DecimalPad});
   scene.label(screen.errorLabel, "Error: Please Enter an Amount, for Example 25 or 12.50");
   auto& fund = scene.button(screen.FundButton, "Fund this campaign");
-  scene.on(fund, UIControlEvent::TouchUpInside, "ButtonClicked:",
-           &OneCampaignViewController::ButtonClicked);
+  scene.on(fund, UIControlEvent::TouchUpInside,
+           "ButtonClicked:", &OneCampaignViewController::ButtonClicked);
   auto& updates = scene.button(screen.campaignUpdates, "Read the update");
-  scene.on(updates, UIControlEvent::TouchUpInside, "campaignUpdatesClicked:",
-           &OneCampaignViewController::campaignUpdatesClicked);
+  scene.on(updates, UIControlEvent::TouchUpInside,
+           "campaignUpdatesClicked:", &OneCampaignViewController::campaignUpdatesClicked);
 
   scene.words("about", "About this campaign");
   scene.readingText(screen.campaignText);

@@ -22,8 +22,8 @@ void newCampaignScene(Scene<NewCampaignVC>& scene, NewCampaignVC& screen) {
   scene.textArea(screen.emailInvite, {.placeholder = "E-mail addresses of friends to invite",
                                       .keyboard = UIKeyboardType::EmailAddress});
   auto& create = scene.button(screen.createButton, "Create campaign");
-  scene.on(create, UIControlEvent::TouchUpInside, "createButtonClicked:",
-           &NewCampaignVC::createButtonClicked);
+  scene.on(create, UIControlEvent::TouchUpInside,
+           "createButtonClicked:", &NewCampaignVC::createButtonClicked);
 }
 
 }  // namespace leafund

@@ -14,11 +14,11 @@ namespace leafund {
 // longest run of combining marks.
 bool canonicallyEquivalent(std::string_view a, std::string_view b);
 
-// Whether a regular expression of the ICU dialect matches the WHOLE text; a trailing line feed counts
-// as part of it. Nothing for a pattern that is not UTF-8 or does not compile. False for a text that
-// is not UTF-8: reading it with replacement characters would answer for another text. False also
-// when matching gives up at its limit on backtracking storage (8 MB, reached for instance by a
-// pattern of nested repeats over a text of some megabytes).
+// Whether a regular expression of the ICU dialect matches the WHOLE text; a trailing line feed
+// counts as part of it. Nothing for a pattern that is not UTF-8 or does not compile. False for a
+// text that is not UTF-8: reading it with replacement characters would answer for another text.
+// False also when matching gives up at its limit on backtracking storage (8 MB, reached for
+// instance by a pattern of nested repeats over a text of some megabytes).
 std::optional<bool> matchesWholeText(std::string_view pattern, std::string_view text);
 
 }  // namespace leafund

@@ -11,13 +11,15 @@ using namespace std::string_view_literals;
 constexpr std::string_view signature = "\x89PNG\r\n\x1A\n"sv;
 constexpr std::uint8_t paletteColours = 3;
 
-// The CRC of ISO 3309, which PNG takes over: bit by bit, since the chunks before the pixels are short.
+// The CRC of ISO 3309, which PNG takes over: bit by bit, since the chunks before the pixels are
+// short.
 std::uint32_t checksumOf(std::string_view bytes) {
   constexpr std::uint32_t polynomial = 0xEDB88320;
   std::uint32_t checksum = 0xFFFFFFFF;
   for (const char byte : bytes) {
     checksum ^= static_cast<std::uint8_t>(byte);
-    for (int bit = 0; bit < 8; ++bit) checksum = (checksum >> 1) ^ (polynomial & (0U - (checksum & 1U)));
+    for (int bit = 0; bit < 8; ++bit)
+      checksum = (checksum >> 1) ^ (polynomial & (0U - (checksum & 1U)));
   }
   return ~checksum;
 }

@@ -18,6 +18,7 @@ int HeadlessHost::run(UIApplication& application) {
   application_ = &application;
   application.resize(size_);
   application.launch();
+  application.becomeActive();  // as a window does that comes to the front
   return 0;
 }
 
@@ -65,7 +66,8 @@ HeadlessHost::Fetch HeadlessHost::take(std::size_t position) {
 
 void HeadlessHost::completeWithoutDraining(std::size_t position, NSData body, int status) {
   auto fetch = take(position);
-  std::thread session([&] { fetch.completion(std::move(body), NSURLResponse{status}, std::nullopt); });
+  std::thread session(
+      [&] { fetch.completion(std::move(body), NSURLResponse{status}, std::nullopt); });
   session.join();
 }
 
@@ -76,9 +78,8 @@ void HeadlessHost::answer(std::size_t position, std::string body, int status) {
 
 void HeadlessHost::fail(std::size_t position) {
   auto fetch = take(position);
-  std::thread session([&] {
-    fetch.completion(nullptr, std::nullopt, NSError{"the host could not be reached"});
-  });
+  std::thread session(
+      [&] { fetch.completion(nullptr, std::nullopt, NSError{"the host could not be reached"}); });
   session.join();
   drainMainQueue();
 }

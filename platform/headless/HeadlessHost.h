@@ -14,8 +14,8 @@
 
 namespace leafund {
 
-// A host without a window, for speed and exactness. Nothing happens by itself: posted steps run when
-// the main queue is drained, and a fetch stays under way until it is answered, in any order.
+// A host without a window, for speed and exactness. Nothing happens by itself: posted steps run
+// when the main queue is drained, and a fetch stays under way until it is answered, in any order.
 class HeadlessHost final : public Host {
  public:
   explicit HeadlessHost(CGSize size = {390, 844}, double screenScale = 2);

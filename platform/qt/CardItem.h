@@ -1,8 +1,9 @@
 #pragma once
 
+#include <QtQmlIntegration/qqmlintegration.h>
+
 #include <QColor>
 #include <QPointer>
-#include <QtQmlIntegration/qqmlintegration.h>
 #include <vector>
 
 #include "platform/qt/ImageItem.h"

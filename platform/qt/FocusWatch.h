@@ -1,8 +1,9 @@
 #pragma once
 
+#include <QtQmlIntegration/qqmlintegration.h>
+
 #include <QPointer>
 #include <QQuickItem>
-#include <QtQmlIntegration/qqmlintegration.h>
 
 namespace leafund {
 

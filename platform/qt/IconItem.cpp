@@ -133,7 +133,8 @@ QImage IconItem::paint(QSize pixels, double) {
   painter.scale(pixels.width() / kGrid, pixels.height() / kGrid);
   const Sign sign = signOf(icon_);
   painter.fillPath(sign.filled, color_);
-  painter.strokePath(sign.stroked, QPen(color_, kStroke, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.strokePath(sign.stroked,
+                     QPen(color_, kStroke, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
   return image;
 }
 

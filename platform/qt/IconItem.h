@@ -1,7 +1,8 @@
 #pragma once
 
-#include <QColor>
 #include <QtQmlIntegration/qqmlintegration.h>
+
+#include <QColor>
 
 #include "platform/qt/ImageItem.h"
 

@@ -1,16 +1,16 @@
 #pragma once
 
+#include <QtQmlIntegration/qqmlintegration.h>
 #include <QColor>
 #include <QPointer>
-#include <QtQmlIntegration/qqmlintegration.h>
 
 #include "platform/qt/ImageItem.h"
 #include "platform/qt/ViewObject.h"
 
 namespace leafund {
 
-// The picture of an image view, cut and framed as its layer says, on a quiet ground where no picture
-// has come.
+// The picture of an image view, cut and framed as its layer says, on a quiet ground where no
+// picture has come.
 class PictureItem : public ImageItem {
   Q_OBJECT
   QML_ELEMENT

@@ -74,8 +74,8 @@ int QtHost::run(UIApplication& application) {
 }
 
 void QtHost::start(UIApplication& application) {
-  // On a phone-sized window the software renderer is on screen first and takes a third of the memory
-  // that a software OpenGL needs; it is also the only one that every machine has.
+  // On a phone-sized window the software renderer is on screen first and takes a third of the
+  // memory that a software OpenGL needs; it is also the only one that every machine has.
   if (QQuickWindow::sceneGraphBackend() != QLatin1String("software")) {
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
   }
@@ -88,7 +88,8 @@ void QtHost::start(UIApplication& application) {
                    [report = ActivityReport()](Qt::ApplicationState state) mutable {
                      report.reach(activityOf(state));
                    });
-  application.resize({static_cast<double>(window_->width()), static_cast<double>(window_->height())});
+  application.resize(
+      {static_cast<double>(window_->width()), static_cast<double>(window_->height())});
   application.launch();
   window_->show();
   window_->requestActivate();  // where no window manager does it, no key would arrive

@@ -1,8 +1,8 @@
 #pragma once
 
+#include <QtQmlIntegration/qqmlintegration.h>
 #include <QObject>
 #include <QVariantMap>
-#include <QtQmlIntegration/qqmlintegration.h>
 #include <memory>
 
 #include "platform/qt/ViewObject.h"

@@ -15,8 +15,7 @@ double between(double from, double to, double share) { return from + (to - from)
 
 }  // namespace
 
-SceneStage::SceneStage(QQmlEngine& engine, QQuickItem& glass)
-    : glass_(glass), loader_(engine) {
+SceneStage::SceneStage(QQmlEngine& engine, QQuickItem& glass) : glass_(glass), loader_(engine) {
   animation_.setStartValue(0.0);
   animation_.setEndValue(1.0);
   animation_.setEasingCurve(QEasingCurve::OutCubic);

@@ -1,9 +1,10 @@
 #pragma once
 
+#include <QtQmlIntegration/qqmlintegration.h>
+
 #include <QPointer>
 #include <QQmlComponent>
 #include <QQuickItem>
-#include <QtQmlIntegration/qqmlintegration.h>
 #include <vector>
 
 #include "platform/qt/ViewObject.h"
@@ -11,9 +12,9 @@
 namespace leafund {
 
 // The rows of a table: one item for each cell the table ever made, kept as long as the table. They
-// are stacked in the order of their rows, because the order of Tab and of screen readers follows the
-// stacking. A shown row's item is named after its identifier and row, such as "abc-3", a pooled one
-// has no name. The focus stays with the row when rows change cells.
+// are stacked in the order of their rows, because the order of Tab and of screen readers follows
+// the stacking. A shown row's item is named after its identifier and row, such as "abc-3", a pooled
+// one has no name. The focus stays with the row when rows change cells.
 class TableRows : public QQuickItem {
   Q_OBJECT
   QML_ELEMENT

@@ -45,7 +45,8 @@ void readInput(const UITextInput& input, ViewLook& look) {
 void readTab(const UITabBarItem& tab, ViewLook& look) {
   look.text = qtText(tab.title());
   look.selected = tab.selected();
-  if (const auto& color = tab.selectedTitleColor()) look.selectedTitleColor = qtColor(color->CGColor());
+  if (const auto& color = tab.selectedTitleColor())
+    look.selectedTitleColor = qtColor(color->CGColor());
 }
 
 void readControl(const UIControl& control, ViewLook& look) {

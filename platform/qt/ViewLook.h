@@ -12,8 +12,8 @@
 
 namespace leafund {
 
-// What a view shows, copied: a scene on its way out still draws when its views are gone. What a kind
-// of view does not have stays as it is here. Lengths in points.
+// What a view shows, copied: a scene on its way out still draws when its views are gone. What a
+// kind of view does not have stays as it is here. Lengths in points.
 struct ViewLook {
   QString name;
   QString accessibleName;

@@ -55,8 +55,8 @@ void ViewObject::refresh() {
 }
 
 // A row gathers a card a showing and keeps them all, each new one at the back. So those added since
-// the last time stand at the front of the list, and a refresh costs the same after a million. A look
-// that is drawn already is not drawn again.
+// the last time stand at the front of the list, and a refresh costs the same after a million. A
+// look that is drawn already is not drawn again.
 void ViewObject::takeNewCards(const UIView& view) {
   const auto& subviews = view.subviews();
   std::size_t added = subviews.size() - std::min(subviews.size(), knownSubviews_);

@@ -1,9 +1,9 @@
 #pragma once
 
+#include <QtQmlIntegration/qqmlintegration.h>
 #include <QColor>
 #include <QObject>
 #include <QVariantMap>
-#include <QtQmlIntegration/qqmlintegration.h>
 #include <memory>
 #include <vector>
 

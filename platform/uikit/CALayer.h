@@ -7,8 +7,8 @@
 
 namespace leafund {
 
-// How a view's rectangle is painted. Lengths in points; opacity from 0 to 1. No colour means nothing
-// is painted.
+// How a view's rectangle is painted. Lengths in points; opacity from 0 to 1. No colour means
+// nothing is painted.
 class CALayer {
  public:
   std::optional<CGColor> backgroundColor() const { return backgroundColor_; }

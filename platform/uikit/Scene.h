@@ -29,8 +29,8 @@ struct TabTraits {
   std::string sceneName;
 };
 
-// Says what a scene holds, in reading order: the views, every word, the outlets and the actions. How
-// it looks is the skin's. A view made for an outlet bears the outlet's name.
+// Says what a scene holds, in reading order: the views, every word, the outlets and the actions.
+// How it looks is the skin's. A view made for an outlet bears the outlet's name.
 class SceneBase {
  public:
   explicit SceneBase(UIViewController& controller) : controller_(controller) {}
@@ -44,7 +44,7 @@ class SceneBase {
   UIButton& button(std::string name, std::string title);
   UITextField& field(Outlet<UITextField>& outlet, FieldTraits traits);
   UITextView& textArea(Outlet<UITextView>& outlet, FieldTraits traits);  // to write in
-  UITextView& readingText(Outlet<UITextView>& outlet);                    // to read
+  UITextView& readingText(Outlet<UITextView>& outlet);                   // to read
   UIImageView& picture(Outlet<UIImageView>& outlet, UIViewContentMode mode);
   UIProgressView& progress(Outlet<UIProgressView>& outlet, std::string accessibilityLabel);
   // An outlet that no logic uses is wired to a view that nobody sees.
@@ -57,8 +57,8 @@ class SceneBase {
   void tabs(const std::vector<TabTraits>& tabs);
   // A button of the screen that holds the tabs, seen while the tab with that name is selected.
   UIButton& buttonOnTab(const std::string& tabName, std::string name, std::string title);
-  // A picture that comes with the program and belongs to the skin; the description is for readers who
-  // cannot see it.
+  // A picture that comes with the program and belongs to the skin; the description is for readers
+  // who cannot see it.
   UIImageView& illustration(std::string name, std::string description);
   // A control that starts a segue by itself.
   void segue(UIControl& control, std::string identifier);
@@ -111,9 +111,8 @@ class Scene final : public SceneBase {
 // One row of the storyboard's scenes: the class's name, and what describes its scene.
 template <class Controller>
 SceneDescription scene(std::string name, void (*describe)(Scene<Controller>&, Controller&)) {
-  return {std::move(name), []() -> std::shared_ptr<UIViewController> {
-            return std::make_shared<Controller>();
-          },
+  return {std::move(name),
+          []() -> std::shared_ptr<UIViewController> { return std::make_shared<Controller>(); },
           [describe](UIViewController& controller) {
             auto& screen = static_cast<Controller&>(controller);
             Scene<Controller> description(screen);

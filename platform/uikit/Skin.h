@@ -2,8 +2,8 @@
 
 namespace leafund {
 
-// What a host hangs on a view to show it. At most one a view. It hears of changes only at the end of
-// a turn, never in the middle of logic.
+// What a host hangs on a view to show it. At most one a view. It hears of changes only at the end
+// of a turn, never in the middle of logic.
 class Skin {
  public:
   Skin() = default;

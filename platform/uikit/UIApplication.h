@@ -44,11 +44,13 @@ class UIApplicationDelegate {
   virtual void applicationWillTerminate(UIApplication& application) = 0;
 };
 
-// The running application: it launches, and everything that comes from outside goes through its turn.
+// The running application: it launches, and everything that comes from outside goes through its
+// turn.
 //
 // A turn: logic runs to its end, then tables lay out, then the host shows the stack, then the skins
-// of changed views refresh; and all that again until nothing is left. What is raised meanwhile waits
-// for the next round, so no skin hears anything in the middle of logic. All on the main thread.
+// of changed views refresh; and all that again until nothing is left. What is raised meanwhile
+// waits for the next round, so no skin hears anything in the middle of logic. All on the main
+// thread.
 class UIApplication : public UIResponder {
  public:
   UIApplication(Host& host, const UIStoryboard& storyboard,
@@ -62,8 +64,8 @@ class UIApplication : public UIResponder {
   void launch(const std::optional<LaunchOptions>& options = std::nullopt);
   void turn(std::function<void()> work);
 
-  // What a user can do, each one turn. What is hidden, covered, out of sight or on its way out is not
-  // reached. A view that is gone (null) is passed over.
+  // What a user can do, each one turn. What is hidden, covered, out of sight or on its way out is
+  // not reached. A view that is gone (null) is passed over.
   void tap(const std::shared_ptr<UIView>& view);
   void beginEditing(const std::shared_ptr<UITextInput>& input);
   void edit(const std::shared_ptr<UITextInput>& input, std::string text);

@@ -49,9 +49,8 @@ void UIStoryboard::perform(const SegueDescription& description,
   const auto navigation = source->navigationController();
   if (!navigation) fatalError(source->className(), "performs a segue outside a navigation stack");
   const bool pushes = description.kind == SegueKind::Push;
-  auto destination = pushes
-                         ? instantiateViewControllerWithIdentifier(description.destination)
-                         : navigation->nearestBelow(*source, description.destination);
+  auto destination = pushes ? instantiateViewControllerWithIdentifier(description.destination)
+                            : navigation->nearestBelow(*source, description.destination);
   UIStoryboardSegue segue(description.identifier, source, destination);
   source->prepareForSegueSender(segue, sender);
   if (pushes) {

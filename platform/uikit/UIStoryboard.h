@@ -51,8 +51,8 @@ class UIStoryboardSegue {
   std::shared_ptr<UIViewController> destination_;
 };
 
-// The interface description as a whole: the scenes and the navigation map. Outlives every screen made
-// from it. A name that it does not hold is fatal.
+// The interface description as a whole: the scenes and the navigation map. Outlives every screen
+// made from it. A name that it does not hold is fatal.
 class UIStoryboard {
  public:
   UIStoryboard(std::string initialScene, std::vector<SceneDescription> scenes,

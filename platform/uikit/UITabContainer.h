@@ -69,8 +69,8 @@ class UITabBar : public UIView {
   std::optional<UIColor> tintColor_;
 };
 
-// The tabs of a screen: the bar, and above it the selected tab's screen. That screen is made when its
-// tab is first selected, and kept by the screen that holds the tabs.
+// The tabs of a screen: the bar, and above it the selected tab's screen. That screen is made when
+// its tab is first selected, and kept by the screen that holds the tabs.
 class UITabContainer : public UIView {
  public:
   explicit UITabContainer(UIViewController& owner);

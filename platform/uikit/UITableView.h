@@ -53,7 +53,9 @@ class UITableView : public UIScrollView {
   UITableView();
   ~UITableView() override;
 
-  void setDataSource(std::weak_ptr<UITableViewDataSource> source) { dataSource_ = std::move(source); }
+  void setDataSource(std::weak_ptr<UITableViewDataSource> source) {
+    dataSource_ = std::move(source);
+  }
   void setDelegate(std::weak_ptr<UITableViewDelegate> delegate) { delegate_ = std::move(delegate); }
 
   // Visible cells go back to the pool in row order before any is taken from it.

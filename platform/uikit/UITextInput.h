@@ -20,8 +20,8 @@ class UITextFieldDelegate {
   virtual bool textFieldShouldReturn(const std::shared_ptr<UITextField>& textField) = 0;
 };
 
-// What text fields and text views have in common: a text, never absent, that the user and the screen
-// write in turn. Text is UTF-8.
+// What text fields and text views have in common: a text, never absent, that the user and the
+// screen write in turn. Text is UTF-8.
 class UITextInput : public UIControl {
  public:
   const std::string& text() const { return text_; }
@@ -80,8 +80,8 @@ class UITextView : public UITextInput {
  public:
   bool editable() const override { return editable_; }
   void setEditable(bool editable) { editable_ = editable; }
-  // Scrolls so that the range is seen. Only the top is ever asked for, so the view remembers no more
-  // than that its next showing starts there.
+  // Scrolls so that the range is seen. Only the top is ever asked for, so the view remembers no
+  // more than that its next showing starts there.
   void scrollRangeToVisible(NSRange range);
   bool scrolledToTop() const { return scrolledToTop_; }
 

@@ -1,9 +1,9 @@
 #include "screens/accounts/SignUpVC.h"
 
 #include "model/Catalogue.h"
-#include "platform/foundation/Unicode.h"
 #include "platform/foundation/Diagnostics.h"
 #include "platform/foundation/NSPredicate.h"
+#include "platform/foundation/Unicode.h"
 #include "screens/InputMessage.h"
 
 namespace leafund {

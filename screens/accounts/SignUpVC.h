@@ -17,8 +17,8 @@ class SignUpVC : public UIViewController {
   Outlet<UIButton> signUpButton{this, "signUpButton"};
 
   void signUpClicked(const Sender& sender);
-  // Whether the whole text has the form of an e-mail address. The form offers it and does not use it:
-  // a name is free, and need not be an address.
+  // Whether the whole text has the form of an e-mail address. The form offers it and does not use
+  // it: a name is free, and need not be an address.
   bool isValidEmail(std::string_view text) const;
 };
 

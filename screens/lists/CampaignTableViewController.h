@@ -11,8 +11,8 @@ namespace leafund {
 
 class NSURL;
 
-// The one design of the three list screens: a campaign a row, read from the catalogue each time a row
-// is built. The screens differ in the three answers at the end.
+// The one design of the three list screens: a campaign a row, read from the catalogue each time a
+// row is built. The screens differ in the three answers at the end.
 class CampaignTableViewController : public UITableViewController {
  public:
   void viewDidLoad() override;

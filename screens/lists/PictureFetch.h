@@ -10,8 +10,8 @@
 
 namespace leafund {
 
-// What is done with a body on the main thread. It owns the screen, and the cell, that the picture is
-// for: both stay alive until it has run or the download has ended without a result.
+// What is done with a body on the main thread. It owns the screen, and the cell, that the picture
+// is for: both stay alive until it has run or the download has ended without a result.
 using ApplyPicture = std::function<void(const NSData& body)>;
 
 // The address as a URL; fatal when it is none. `screen` names who asked.

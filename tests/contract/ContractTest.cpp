@@ -21,6 +21,8 @@ std::shared_ptr<UIView> descendant(const UIView& root, std::string_view name) {
 ContractTest::ContractTest()
     : application(std::make_shared<UIApplication>(underTest->host(), storyboard, delegate)) {
   underTest->start(*application);
+  // A window takes a moment to come to the front.
+  EXPECT_TRUE(underTest->runUntil([this] { return !log.empty() && log.back() == "active"; }));
   settle();
 }
 

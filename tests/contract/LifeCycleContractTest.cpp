@@ -19,7 +19,8 @@ constexpr double kBar = UINavigationController::kBarHeight;
 
 TEST_F(LifeCycleContract, TheFirstScreenLoadsOnceThenAppearsOnceWithItsFrameSet) {
   EXPECT_THAT(stack(), ElementsAre("LandingPageVC"));
-  EXPECT_THAT(log, ElementsAre("LandingPageVC viewDidLoad", "LandingPageVC viewWillAppear"));
+  EXPECT_THAT(log,
+              ElementsAre("LandingPageVC viewDidLoad", "LandingPageVC viewWillAppear", "active"));
   EXPECT_GE(window().width, 320);
   EXPECT_GE(window().height, 568);
   EXPECT_THAT(life(shown()).framesAtAppearance,

@@ -20,7 +20,9 @@ class HeadlessDriver final : public Driver {
 
   std::string screen() override { return app_.shown()->className(); }
   std::string text(const std::string& name) override { return app_.text(name); }
-  bool seen(const std::string& name) override { return app_.application->reachable(*app_.view(name)); }
+  bool seen(const std::string& name) override {
+    return app_.application->reachable(*app_.view(name));
+  }
   std::vector<std::string> rows() override { return app_.rowTitles(); }
 
   bool pictureShown(const std::string& name) override {

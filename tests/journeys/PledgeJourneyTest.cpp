@@ -7,9 +7,9 @@
 namespace leafund {
 namespace {
 
+using testing::Contains;
 using testing::ElementsAre;
 using testing::Not;
-using testing::Contains;
 
 class PledgeJourneyTest : public testing::Test {
  protected:

@@ -158,13 +158,13 @@ TEST(NSURLSessionOnAProbeTest, WhatTheHandlerHoldsEndsOnTheMainThreadWhereAHostK
       .dataTaskWithRequestCompletionHandler(
           request(), [owner = std::make_shared<Owner>(endedOnMain)](auto, auto, auto) {})
       ->resume();
-  std::thread([&host] {
-    const CompletionHandler copy = host.transfers.at(0).second;
-    host.transfers.clear();
-    CompletionHandler{copy}(nullptr, std::nullopt, NSError{"refused"});
-  }).join();
+  CompletionHandler kept = host.transfers.at(0).second;
+  host.transfers.clear();
+  std::thread([&kept] { kept(nullptr, std::nullopt, NSError{"refused"}); }).join();
   EXPECT_THAT(endedOnMain, IsEmpty());
   for (const auto& step : std::exchange(host.steps, {})) step();
+  EXPECT_THAT(endedOnMain, ElementsAre(true));
+  std::thread([&kept] { kept = nullptr; }).join();
   EXPECT_THAT(endedOnMain, ElementsAre(true));
 }
 

@@ -51,7 +51,8 @@ TEST(UIApplicationMainTest, TheApplicationLivesOnAfterItReturned) {
   take(mainLog());
   EXPECT_EQ(start(host, NSStringFromClass<MainDelegate>()), 0);
   ASSERT_NE(UIApplication::current(), nullptr);
-  EXPECT_THAT(mainLog(), ElementsAre("launched", "Only viewDidLoad", "Only viewWillAppear"));
+  EXPECT_THAT(mainLog(),
+              ElementsAre("launched", "Only viewDidLoad", "Only viewWillAppear", "active"));
   UIApplication::current()->terminate();
   EXPECT_EQ(mainLog().back(), "ends");
 }

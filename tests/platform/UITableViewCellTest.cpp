@@ -18,6 +18,13 @@ TEST(UITableViewCellTest, ASubtitleCellHoldsAPictureATitleAndALineBelowInItsCont
               ElementsAre(cell.imageView(), cell.textLabel(), cell.detailTextLabel()));
 }
 
+TEST(UITableViewCellTest, ATextOnlyCellHoldsATitleAndALineBelow) {
+  const UITableViewCell cell(UITableViewCellStyle::TextOnly, "text");
+  EXPECT_EQ(cell.imageView(), nullptr);
+  EXPECT_THAT(cell.contentView()->subviews(),
+              ElementsAre(cell.textLabel(), cell.detailTextLabel()));
+}
+
 TEST(UITableViewCellTest, ABareCellHoldsItsContentViewAlone) {
   const UITableViewCell cell(UITableViewCellStyle::Bare, "bare");
   EXPECT_THAT(cell.subviews(), ElementsAre(cell.contentView()));

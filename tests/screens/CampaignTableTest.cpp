@@ -1,11 +1,10 @@
-#include "screens/lists/CampaignTableViewController.h"
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "platform/uikit/UITableViewCell.h"
 #include "screens/campaign/OneCampaignViewController.h"
 #include "screens/campaign/UpdatePageVC.h"
+#include "screens/lists/CampaignTableViewController.h"
 #include "tests/support/HeadlessApplication.h"
 #include "tests/support/Screens.h"
 
@@ -22,7 +21,9 @@ class CampaignTableTest : public testing::Test {
     screen = app.shownAs<CampaignTableViewController>();
     table = screen->tableView();
   }
-  std::shared_ptr<UITableViewCell> cell(std::ptrdiff_t row) { return table->visibleCells().at(row); }
+  std::shared_ptr<UITableViewCell> cell(std::ptrdiff_t row) {
+    return table->visibleCells().at(row);
+  }
 
   HeadlessApplication app;
   std::shared_ptr<CampaignTableViewController> screen;
@@ -192,9 +193,8 @@ TEST_F(CampaignTableDeathTest, ARowPastTheEndIsFatal) {
 
 TEST_F(CampaignTableDeathTest, ACellWithoutLabelsIsFatal) {
   open("browseTab");
-  table->registerPrototype("abc", [] {
-    return std::make_shared<UITableViewCell>(UITableViewCellStyle::Bare, "abc");
-  });
+  table->registerPrototype(
+      "abc", [] { return std::make_shared<UITableViewCell>(UITableViewCellStyle::Bare, "abc"); });
   EXPECT_DEATH(screen->tableViewCellForRowAtIndexPath(*table, {0, 0}),
                "OtherCampaignsTableViewController: the cell has no text label");
 }

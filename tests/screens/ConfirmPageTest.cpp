@@ -1,11 +1,10 @@
-#include "screens/campaign/ConfirmPageVC.h"
-
 #include <gtest/gtest.h>
 
 #include <limits>
 
 #include "model/Catalogue.h"
 #include "platform/headless/HeadlessHost.h"
+#include "screens/campaign/ConfirmPageVC.h"
 #include "screens/campaign/OneCampaignViewController.h"
 #include "screens/campaign/ThankYouVC.h"
 #include "tests/support/Screens.h"

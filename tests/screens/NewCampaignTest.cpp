@@ -1,5 +1,3 @@
-#include "screens/create/NewCampaignVC.h"
-
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -8,6 +6,7 @@
 #include "platform/uikit/UITapGestureRecognizer.h"
 #include "screens/campaign/ConfirmPageVC.h"
 #include "screens/campaign/ThankYouVC.h"
+#include "screens/create/NewCampaignVC.h"
 #include "tests/platform/CommaLocale.h"
 #include "tests/support/AmountTexts.h"
 #include "tests/support/HeadlessApplication.h"

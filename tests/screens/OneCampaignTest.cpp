@@ -1,5 +1,3 @@
-#include "screens/campaign/OneCampaignViewController.h"
-
 #include <gtest/gtest.h>
 
 #include <csignal>
@@ -9,6 +7,7 @@
 #include "model/Catalogue.h"
 #include "platform/headless/HeadlessHost.h"
 #include "screens/campaign/ConfirmPageVC.h"
+#include "screens/campaign/OneCampaignViewController.h"
 #include "screens/campaign/ThankYouVC.h"
 #include "screens/campaign/UpdatePageVC.h"
 #include "tests/support/Pictures.h"

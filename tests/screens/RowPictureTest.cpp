@@ -105,8 +105,7 @@ TEST_F(RowPictureTest, AReusedCellTakesTheEarlierRowsPicture) {
 
 TEST(RowPictureOwnerTest, ADownloadKeepsItsCellAndItsScreenUntilItEnds) {
   HeadlessHost host;
-  auto screen =
-      makeScreen<CampaignTableViewController>("OtherCampaignsTableViewController");
+  auto screen = makeScreen<CampaignTableViewController>("OtherCampaignsTableViewController");
   screen->view();
   auto cell = screen->tableViewCellForRowAtIndexPath(*screen->tableView(), {0, 0});
   const std::weak_ptr<UITableViewCell> watchedCell = std::exchange(cell, nullptr);

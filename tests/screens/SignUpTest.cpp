@@ -40,8 +40,8 @@ TEST_F(SignUpTest, AllInputsEmptyShowThreeMessagesInRedAndKeepTheUserName) {
   signUp("", "", "");
   expectTexts("Error: Please Enter a Name", "Error: Please Enter a Password",
               "Error: Please Re-enter Password");
-  for (const auto& field : {form->nameField.get(), form->passwordField.get(),
-                            form->passwordConfirmField.get()}) {
+  for (const auto& field :
+       {form->nameField.get(), form->passwordField.get(), form->passwordConfirmField.get()}) {
     EXPECT_EQ(field->textColor(), UIColor::redColor());
   }
   EXPECT_EQ(currentUserName(), "Quillon");

@@ -1,10 +1,9 @@
-#include "screens/campaign/UpdatePageVC.h"
-
 #include <gtest/gtest.h>
 
 #include "model/Catalogue.h"
 #include "model/PictureHost.h"
 #include "platform/headless/HeadlessHost.h"
+#include "screens/campaign/UpdatePageVC.h"
 #include "tests/support/Pictures.h"
 #include "tests/support/Screens.h"
 

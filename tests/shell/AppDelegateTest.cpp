@@ -1,9 +1,8 @@
-#include "shell/AppDelegate.h"
-
 #include <gtest/gtest.h>
 
 #include "model/Catalogue.h"
 #include "platform/uikit/UITabContainer.h"
+#include "shell/AppDelegate.h"
 #include "tests/support/HeadlessApplication.h"
 
 namespace leafund {
@@ -51,12 +50,11 @@ TEST(AppDelegateTest, TheUnselectedStateKeepsTheDefaultColour) {
 
 TEST(AppDelegateTest, TheAccentColourIsSetBeforeTheFirstScreenLoads) {
   HeadlessHost host;
-  const UIStoryboard storyboard("First",
-                                {{"First", [] { return std::make_shared<UIViewController>(); },
-                                  [](UIViewController&) {
-                                    EXPECT_EQ(UITabBar::appearance().tintColor(), kAccent);
-                                  }}},
-                                {});
+  const UIStoryboard storyboard(
+      "First",
+      {{"First", [] { return std::make_shared<UIViewController>(); },
+        [](UIViewController&) { EXPECT_EQ(UITabBar::appearance().tintColor(), kAccent); }}},
+      {});
   EXPECT_EQ(UITabBar::appearance().tintColor(), std::nullopt);
   HeadlessApplication app(storyboard);
   EXPECT_NE(app.shown()->viewIfLoaded(), nullptr);

@@ -150,9 +150,8 @@ TEST(NavigationMapTest, NoSceneIsADeadEnd) {
   for (const auto& scene : mainStoryboard().scenes()) {
     if (scene.name == "NewsFeedVC" || scene.name == "TabBarVC") continue;  // the tab bar leads on
     const auto map = segues();
-    const bool leadsOn = std::any_of(map.begin(), map.end(), [&](const auto& segue) {
-      return segue.source == scene.name;
-    });
+    const bool leadsOn = std::any_of(map.begin(), map.end(),
+                                     [&](const auto& segue) { return segue.source == scene.name; });
     // Of those without a segue of their own the back button must be there.
     EXPECT_TRUE(leadsOn || scene.name == "UpdatePageVC") << scene.name;
   }
@@ -205,8 +204,8 @@ TEST(NavigationMapTest, EveryRowOfTheMapIsWalked) {
   go("campaignSegue", "MyProfileVC", row(0), detail);
   app.application->goBack();
   go("newCampaignSegue", home, tap("newButton"), form);
-  for (const auto* input : {"nameOfCreator", "nameOfCampaign", "shortDescription",
-                            "fullDescription", "imageURL"}) {
+  for (const auto* input :
+       {"nameOfCreator", "nameOfCampaign", "shortDescription", "fullDescription", "imageURL"}) {
     app.type(input, "x");
   }
   app.type("desiredFunding", "1");

@@ -45,10 +45,9 @@ std::vector<std::string> wiresOf(const std::string& sceneName) {
 TEST(WiringTest, EveryActionOfAScreenIsRunBySomeControl) {
   HeadlessHost host;
   EXPECT_THAT(wiresOf("LandingPageVC"),
-              UnorderedElementsAre("userEmail entered fixThingAction:",
-                                   "password entered fixOtherThingAction:",
-                                   "signInButton tapped signInClicked:",
-                                   "signUpButton tapped signUpClicked:"));
+              UnorderedElementsAre(
+                  "userEmail entered fixThingAction:", "password entered fixOtherThingAction:",
+                  "signInButton tapped signInClicked:", "signUpButton tapped signUpClicked:"));
   EXPECT_THAT(wiresOf("SignUpVC"), UnorderedElementsAre("signUpButton tapped signUpClicked:"));
   EXPECT_THAT(wiresOf("ThankYouVC"), UnorderedElementsAre("homeButton tapped homeButtonClicked:"));
   EXPECT_THAT(wiresOf("NewCampaignVC"),
@@ -56,8 +55,8 @@ TEST(WiringTest, EveryActionOfAScreenIsRunBySomeControl) {
   EXPECT_THAT(wiresOf("OneCampaignViewController"),
               UnorderedElementsAre("FundButton tapped ButtonClicked:",
                                    "campaignUpdates tapped campaignUpdatesClicked:"));
-  EXPECT_THAT(wiresOf("ConfirmPageVC"), UnorderedElementsAre("yesButton tapped yesClicked:",
-                                                             "noButton tapped noClicked:"));
+  EXPECT_THAT(wiresOf("ConfirmPageVC"),
+              UnorderedElementsAre("yesButton tapped yesClicked:", "noButton tapped noClicked:"));
   EXPECT_THAT(wiresOf("TabBarVC"), UnorderedElementsAre("newButton tapped newCampaignSegue"));
 }
 

@@ -52,8 +52,6 @@ class QtHostUnderTest final : public HostUnderTest {
 
 }  // namespace
 
-std::unique_ptr<HostUnderTest> HostUnderTest::make() {
-  return std::make_unique<QtHostUnderTest>();
-}
+std::unique_ptr<HostUnderTest> HostUnderTest::make() { return std::make_unique<QtHostUnderTest>(); }
 
 }  // namespace leafund
