@@ -1,4 +1,4 @@
-#!/usr/bin/python3
+#!/usr/bin/python3 -B
 """pledge_road.py PROCESS FOLDER: walks through the app that runs as PROCESS on $DISPLAY.
 
 Every control is found by the words a user reads, so a change of layout breaks nothing here, and a

@@ -42,9 +42,12 @@ Rectangle {
             width: parent.width
             spacing: Theme.half
             visible: funds.views.currentFund.visible || funds.views.desiredFund.visible
+            // A sum wider than the card goes on in the next line.
             Words {
                 id: raised
                 view: funds.views.currentFund
+                width: Math.min(implicitWidth, parent.width)
+                wrapMode: Text.WrapAnywhere
                 color: Theme.accentDeep
                 font { pointSize: Theme.lead; weight: Font.Bold }
             }
@@ -56,7 +59,9 @@ Rectangle {
             }
             Words {
                 view: funds.views.desiredFund
-                height: raised.height
+                width: Math.min(implicitWidth, parent.width)
+                height: Math.max(raised.height, implicitHeight)
+                wrapMode: Text.WrapAnywhere
                 verticalAlignment: Text.AlignVCenter
                 font.weight: Font.DemiBold
             }

@@ -24,8 +24,9 @@ FocusScope {
     onFocusedChanged: {
         if (!focused || focused.parent !== rows)
             return;
-        const above = focused.y - Theme.peek - flickable.contentY;
-        const below = focused.y + focused.height + Theme.peek - flickable.contentY - flickable.height;
+        const top = focused.y - flickable.contentY;
+        const above = top - Theme.peek;
+        const below = top + focused.height + Theme.peek - flickable.height;
         scrollBy(above < 0 ? above : Math.max(0, below));
     }
 

@@ -40,7 +40,8 @@ Pressable {
     }
 
     Column {
-        anchors { left: picture.right; leftMargin: Theme.gap; right: parent.right; rightMargin: row.inset }
+        anchors { left: picture.right; leftMargin: Theme.gap }
+        anchors { right: parent.right; rightMargin: row.inset }
         anchors { verticalCenter: parent.verticalCenter; verticalCenterOffset: Theme.cardOffset }
         spacing: Theme.half
 

@@ -7,11 +7,16 @@ Item {
 
     readonly property real unit: Math.min(width, height) / 10
     readonly property var dots: [
-        { x: -6, y: -2.6, size: 0.9, color: Theme.sun }, { x: -4.2, y: -4.2, size: 0.6, color: Theme.clay },
-        { x: 4.6, y: -4, size: 0.8, color: Theme.sun }, { x: 6, y: -1.6, size: 0.6, color: Theme.sky },
-        { x: -5.4, y: 2.6, size: 0.7, color: Theme.sky }, { x: 5, y: 3, size: 0.9, color: Theme.clay },
-        { x: 4.8, y: 0.6, size: 0.4, color: Theme.accent }, { x: -4.8, y: -0.4, size: 0.4, color: Theme.accent },
-        { x: -3.4, y: 4.4, size: 0.5, color: Theme.sun }, { x: 3.4, y: 4.4, size: 0.5, color: Theme.accent }
+        { x: -6, y: -2.6, size: 0.9, color: Theme.sun },
+        { x: -4.2, y: -4.2, size: 0.6, color: Theme.clay },
+        { x: 4.6, y: -4, size: 0.8, color: Theme.sun },
+        { x: 6, y: -1.6, size: 0.6, color: Theme.sky },
+        { x: -5.4, y: 2.6, size: 0.7, color: Theme.sky },
+        { x: 5, y: 3, size: 0.9, color: Theme.clay },
+        { x: 4.8, y: 0.6, size: 0.4, color: Theme.accent },
+        { x: -4.8, y: -0.4, size: 0.4, color: Theme.accent },
+        { x: -3.4, y: 4.4, size: 0.5, color: Theme.sun },
+        { x: 3.4, y: 4.4, size: 0.5, color: Theme.accent }
     ]
 
     NumberAnimation {

@@ -9,12 +9,11 @@ Rectangle {
     required property ViewObject view
     required property Item input
     default property alias content: place.data
-    readonly property bool userIsIn: watch.target !== null && input.activeFocus
-
-    signal userEntered
+    readonly property bool userIsIn: input.activeFocus
 
     visible: view.visible
-    implicitHeight: Math.max(Theme.target, caption.height + input.height + 2 * Theme.unit + Theme.half)
+    implicitHeight: Math.max(Theme.target,
+                             caption.height + input.height + 2 * Theme.unit + Theme.half)
     radius: Theme.radius
     color: Theme.card
     border {
@@ -57,7 +56,8 @@ Rectangle {
 
     Item {
         id: place
-        anchors { left: parent.left; right: parent.right; top: caption.bottom; bottom: parent.bottom }
+        anchors { left: parent.left; right: parent.right }
+        anchors { top: caption.bottom; bottom: parent.bottom }
         anchors { leftMargin: Theme.gap; rightMargin: Theme.gap }
         anchors { topMargin: Theme.half; bottomMargin: Theme.unit }
     }

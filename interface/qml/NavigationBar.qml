@@ -47,7 +47,8 @@ Rectangle {
 
     Row {
         id: trailing
-        anchors { right: parent.right; rightMargin: Theme.unit; verticalCenter: parent.verticalCenter }
+        anchors { right: parent.right; rightMargin: Theme.unit }
+        anchors.verticalCenter: parent.verticalCenter
     }
 
     Rectangle {

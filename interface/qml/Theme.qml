@@ -1,11 +1,11 @@
 pragma Singleton
 import QtQuick
 
-// Every colour, size and duration of the interface. Lengths in points on a grid of 8; text sizes in
-// typographic points, so that they follow the font resolution of the system.
+// Every colour, size and duration of the interface. Lengths in points on a grid of 8; text sizes
+// in typographic points, so that they follow the font resolution of the system.
 QtObject {
-    // Body text reaches 4.5:1 on every ground. The accent and the toolkit's red do not: they are for
-    // icons, lines and text of the size `lead` in bold.
+    // Body text reaches 4.5:1 on every ground. The accent and the toolkit's red do not: they are
+    // for icons, lines and text of the size `lead` in bold.
     readonly property color ground: "#f3f7ef"
     readonly property color card: "#ffffff"
     readonly property color ink: "#1f2a19"
@@ -54,5 +54,4 @@ QtObject {
 
     readonly property int slideDuration: 200
     readonly property int fillDuration: 250
-    readonly property int fadeDuration: 150
 }

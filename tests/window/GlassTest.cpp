@@ -2,9 +2,11 @@
 
 #include <QQuickItem>
 #include <QTest>
+#include <limits>
 #include <map>
 
 #include "model/Catalogue.h"
+#include "platform/foundation/AmountText.h"
 #include "platform/qt/ViewObject.h"
 #include "platform/uikit/UILabel.h"
 #include "platform/uikit/UITabContainer.h"
@@ -159,7 +161,7 @@ TEST_F(GlassTest, AWindowThatComesToTheFrontIsNotAUserEnteringAnInput) {
   EXPECT_EQ(glassText("userEmail"), "Error: Please Enter a Name");
 }
 
-TEST_F(GlassTest, AHiddenBackButtonRefusesBarKeyAndGesture) {
+TEST_F(GlassTest, AHiddenBackButtonRefusesBarAndKeys) {
   signIn();
   EXPECT_FALSE(app.require("backButton").isVisible());
   app.press(Qt::Key_Escape);
@@ -217,6 +219,22 @@ TEST_F(GlassTest, ASelectedTabIsDrawnInTheAccentColourAndTheOthersAreNot) {
   };
   EXPECT_GT(colourOf("browseTab"), 20);
   EXPECT_EQ(colourOf("newsTab"), 0);
+}
+
+TEST_F(GlassTest, OddGoalsAreShownWithoutDamage) {
+  constexpr float kGoals[] = {0, -5, std::numeric_limits<float>::quiet_NaN(),
+                              std::numeric_limits<float>::infinity(), 3.4e38F};
+  signIn();
+  for (const float goal : kGoals) {
+    otherCampaigns()[0]->setTotalFunding(goal);
+    click("abc-0");
+    EXPECT_EQ(glassText("desiredFund").toStdString(), dollarText(goal));
+    EXPECT_EQ(glassText("currentFund"), "$120.00");
+    const auto& fund = app.require("desiredFund");
+    EXPECT_LE(fund.mapToScene({fund.width(), 0}).x(), app.window().width()) << goal;
+    app.press(Qt::Key_Escape);
+    app.settle();
+  }
 }
 
 TEST_F(GlassTest, RowsStandOnTheGlassInTheirOrder) {
