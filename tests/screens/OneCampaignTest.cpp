@@ -1,39 +1,15 @@
 #include <gtest/gtest.h>
 
-#include <csignal>
-#include <cstdio>
 #include <limits>
 
-#include "model/Catalogue.h"
-#include "platform/headless/HeadlessHost.h"
 #include "screens/campaign/ConfirmPageVC.h"
 #include "screens/campaign/OneCampaignViewController.h"
 #include "screens/campaign/ThankYouVC.h"
 #include "screens/campaign/UpdatePageVC.h"
-#include "tests/support/Pictures.h"
-#include "tests/support/Screens.h"
+#include "tests/screens/OneCampaignFixture.h"
 
 namespace leafund {
 namespace {
-
-class OneCampaignTest : public testing::Test {
- protected:
-  std::shared_ptr<CampaignClass> open(const std::string& listName, std::ptrdiff_t position) {
-    detail->campaignSendingYou = listName;
-    detail->campaignNum = position;
-    detail->view();
-    return detail->campaign;
-  }
-  std::shared_ptr<CampaignClass> openWith(float goal, float raised) {
-    auto& campaign = *otherCampaigns()[0];
-    campaign.setTotalFunding(goal);
-    campaign.setCurrFunding(raised);
-    return open("otherCampaigns", 0);
-  }
-
-  HeadlessHost host;
-  RecordedScreen<OneCampaignViewController> detail{"OneCampaignViewController"};
-};
 
 TEST_F(OneCampaignTest, ShowsTheCampaignOfTheListAndPosition) {
   testing::internal::CaptureStdout();
@@ -207,60 +183,6 @@ TEST_F(OneCampaignTest, TheUpdatesButtonPerformsUpdatesSegueWithTheScreenAsSende
   detail->campaignUpdates->sendActionsForControlEvents(UIControlEvent::TouchUpInside);
   EXPECT_EQ(detail->segues, std::vector<std::string>{"updatesSegue"});
   EXPECT_EQ(detail->lastSender, detail.screen);
-}
-
-using OneCampaignDeathTest = OneCampaignTest;
-
-TEST_F(OneCampaignDeathTest, APositionEqualToTheListsCountIsFatalAndNotClamped) {
-  EXPECT_DEATH(open("otherCampaigns", 7),
-               "Leafund stopped: OneCampaignViewController: position 7 is outside a list of 7");
-  EXPECT_DEATH(open("campaignsIFunded", 3), "position 3 is outside a list of 3");
-  EXPECT_DEATH(open("myUnfundedCampaigns", 2), "position 2 is outside a list of 2");
-}
-
-TEST_F(OneCampaignDeathTest, ANegativePositionIsFatal) {
-  EXPECT_DEATH(open("otherCampaigns", -1), "position -1 is outside a list of 7");
-}
-
-TEST_F(OneCampaignDeathTest, AListNameWithoutAPositionIsFatal) {
-  detail->campaignSendingYou = "otherCampaigns";
-  EXPECT_DEATH(detail->view(), "OneCampaignViewController: no campaign position was given");
-}
-
-// Told by the dying process: how far the screen had come.
-OneCampaignViewController* dying = nullptr;
-void tellLastWords(int) {
-  const auto words = dying->labelAboveSlider->text() + " " +
-                     std::to_string(dying->slider->animatedFrom()) + " " +
-                     (dying->campaignUpdates->hidden() ? "hidden" : "shown") + "\n";
-  std::fputs(words.c_str(), stderr);
-}
-
-TEST_F(OneCampaignDeathTest, WithoutACampaignTheFundedTestPassesAndOnlyTheSecondProgressIsFatal) {
-  EXPECT_DEATH(
-      {
-        dying = detail.screen.get();
-        std::signal(SIGABRT, tellLastWords);
-        detail->view();
-      },
-      "OneCampaignViewController: there is no campaign to show\nFunded! 0.000000 shown");
-}
-
-TEST_F(OneCampaignDeathTest, AnAddressThatIsNoUrlIsFatal) {
-  otherCampaigns()[0]->setPhoto("Error: Please Enter a URL");
-  EXPECT_DEATH(open("otherCampaigns", 0),
-               "OneCampaignViewController: not a URL: Error: Please Enter a URL");
-  otherCampaigns()[0]->setPhoto("");
-  EXPECT_DEATH(open("otherCampaigns", 0), "OneCampaignViewController: not a URL: ");
-}
-
-TEST_F(OneCampaignDeathTest, AnAbsentOutletIsFatalAndNamed) {
-  open("otherCampaigns", 0);
-  detail->releaseView();
-  EXPECT_DEATH(detail->ButtonClicked(nullptr),
-               "OneCampaignViewController: the outlet dollarAmountField is absent");
-  EXPECT_DEATH(host.answer(0, pictureBody(8, 8)),
-               "OneCampaignViewController: the outlet campaignImage is absent");
 }
 
 }  // namespace

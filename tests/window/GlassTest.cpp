@@ -11,7 +11,7 @@
 #include "platform/uikit/UILabel.h"
 #include "platform/uikit/UITabContainer.h"
 #include "platform/uikit/UITableView.h"
-#include "tests/window/WindowApplication.h"
+#include "tests/window/GlassFixture.h"
 
 namespace leafund {
 namespace {
@@ -47,29 +47,6 @@ void expectGlassEqualsToolkit(WindowApplication& app) {
     }
   }
 }
-
-class GlassTest : public testing::Test {
- protected:
-  void click(const std::string& name) {
-    app.click(app.require(name));
-    app.settle();
-  }
-  void type(const std::string& name, const std::string& text) {
-    app.click(app.require(name));
-    app.typeKeys(text);
-    app.settle();
-  }
-  void signIn() {
-    type("userEmail", "wren@example.org");
-    type("password", "secret");
-    click("signInButton");
-  }
-  QString glassText(const std::string& name) {
-    return app.require(name).property("text").toString();
-  }
-
-  WindowApplication app;
-};
 
 TEST_F(GlassTest, EveryNamedViewOfEverySceneHasExactlyOneItemThatAgreesWithIt) {
   expectGlassEqualsToolkit(app);
@@ -111,54 +88,6 @@ TEST_F(GlassTest, TheWindowStartsAtThePhonesNaturalSizeAndTheToolkitFollowsItsSi
   EXPECT_EQ(app.shown()->view()->frame(), (CGRect{0, 0, 390, 844}));
   app.window().resize(568, 400);
   EXPECT_TRUE(app.waitUntil([&] { return app.shown()->view()->frame().width == 568; }));
-}
-
-TEST_F(GlassTest, APasswordIsMaskedOnTheGlassAndItsMessageReadInClear) {
-  type("password", "secret");
-  EXPECT_EQ(app.require("password").property("displayText").toString(), QString(6, QChar(0x25CF)));
-  EXPECT_EQ(glassText("password"), "secret");
-  QTest::keyClick(&app.window(), Qt::Key_A, Qt::ControlModifier);
-  app.press(Qt::Key_Delete);
-  click("signInButton");
-  EXPECT_EQ(app.require("password").property("displayText").toString(),
-            "Error: Please Enter a Password");
-  EXPECT_EQ(app.require("password").property("color").value<QColor>(), QColor(Qt::red));
-}
-
-TEST_F(GlassTest, EnteringAnInputThatShowsAMessageClearsItAndTypedTextStays) {
-  click("signInButton");
-  EXPECT_EQ(glassText("userEmail"), "Error: Please Enter a Name");
-  type("userEmail", "wren");
-  EXPECT_EQ(glassText("userEmail"), "wren");
-  click("password");
-  click("userEmail");
-  EXPECT_EQ(glassText("userEmail"), "wren");
-}
-
-TEST_F(GlassTest, EnteringTheFormsInputsSelectsAMessageSoThatTypingReplacesIt) {
-  click("signUpButton");
-  click("signUpButton");
-  EXPECT_EQ(glassText("nameField"), "Error: Please Enter a Name");
-  type("nameField", "Wren");
-  EXPECT_EQ(glassText("nameField"), "Wren");
-  EXPECT_EQ(app.require("nameField").property("color").value<QColor>(), QColor(Qt::red));
-}
-
-TEST_F(GlassTest, TypingInTheMiddleKeepsTheCursorThere) {
-  type("userEmail", "ac");
-  app.press(Qt::Key_Left);
-  app.typeKeys("b");
-  app.settle();
-  EXPECT_EQ(glassText("userEmail"), "abc");
-  EXPECT_EQ(app.require("userEmail").property("cursorPosition").toInt(), 2);
-}
-
-TEST_F(GlassTest, AWindowThatComesToTheFrontIsNotAUserEnteringAnInput) {
-  click("signInButton");
-  auto& input = app.require("userEmail");
-  input.forceActiveFocus(Qt::ActiveWindowFocusReason);
-  app.settle();
-  EXPECT_EQ(glassText("userEmail"), "Error: Please Enter a Name");
 }
 
 TEST_F(GlassTest, AHiddenBackButtonRefusesBarAndKeys) {

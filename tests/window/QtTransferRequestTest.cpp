@@ -1,0 +1,113 @@
+#include <QLocale>
+
+#include "tests/window/TransferFixture.h"
+
+namespace leafund {
+namespace {
+
+// What is sent.
+
+TEST_F(QtTransferTest, AFetchIsOneGet) {
+  answered(answers::ok("bytes"));
+
+  ASSERT_EQ(server_.requests().size(), 1U);
+  EXPECT_EQ(server_.requests()[0].method, "GET");
+  EXPECT_EQ(server_.requests()[0].path, "/picture");
+}
+
+TEST_F(QtTransferTest, TheUserAgentIsTheSameEverywhere) {
+  EXPECT_EQ(sentHeaders().at("user-agent"), "Leafund");
+}
+
+TEST_F(QtTransferTest, BodiesAreAskedForAsTheyAre) {
+  EXPECT_EQ(sentHeaders().at("accept-encoding"), "identity");
+}
+
+TEST_F(QtTransferTest, TheUsersLanguageIsNotTold) {
+  QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+  EXPECT_EQ(sentHeaders().at("accept-language"), "*");
+}
+
+TEST_F(QtTransferTest, NothingElseIsSent) {
+  auto headers = sentHeaders();
+  for (const char* known :
+       {"host", "connection", "user-agent", "accept-encoding", "accept-language"}) {
+    EXPECT_EQ(headers.erase(known), 1U) << known;
+  }
+  for (const auto& [name, value] : headers) ADD_FAILURE() << name << ": " << value;
+}
+
+TEST_F(QtTransferTest, ACookieIsNeitherKeptNorSent) {
+  QtTransfer transfer;
+  const std::string url =
+      server_.serve("/picture", answers::status(200, "bytes", "Set-Cookie: who=you; Path=/\r\n"));
+  fetched(transfer, url);
+  fetched(transfer, url);
+
+  ASSERT_EQ(server_.requests().size(), 2U);
+  EXPECT_FALSE(server_.requests()[1].headers.contains("cookie"));
+}
+
+TEST_F(QtTransferTest, APictureIsFetchedAfreshEachTime) {
+  QtTransfer transfer;
+  const std::string url = server_.serve(
+      "/picture",
+      answers::status(200, "bytes", "Cache-Control: max-age=3600\r\nETag: \"one\"\r\n"));
+  fetched(transfer, url);
+  EXPECT_TRUE(fetched(transfer, url).isResponse(200, "bytes"));
+
+  ASSERT_EQ(server_.requests().size(), 2U);
+  EXPECT_FALSE(server_.requests()[1].headers.contains("if-none-match"));
+}
+
+TEST_F(QtTransferTest, AHostIsAskedOverAtMostSixConnections) {
+  QtTransfer transfer;
+  server_.serve("/picture", answers::ok("bytes"));
+  std::vector<std::future<Outcome>> fetches;
+  for (int i = 0; i < 50; ++i) fetches.push_back(started(transfer, server_.address("/picture")));
+
+  for (auto& fetch : fetches) EXPECT_TRUE(outcomeOf(std::move(fetch)).isResponse(200, "bytes"));
+  EXPECT_LE(server_.mostConnections(), 6);
+}
+
+// Which addresses are fetched.
+
+TEST_F(QtTransferTest, OnlyWholeWebAddressesAreFetched) {
+  QtTransfer transfer;
+  for (const char* url :
+       {"", "foo", "/etc/passwd", "//127.0.0.1/x", "file:///etc/passwd", "ftp://127.0.0.1/x",
+        "data:image/gif;base64,R0lGODlhAQABAAAAACw=", "qrc:/x", "http:", "http://", "http:///x",
+        "https:x", "http://127.0.0.1:99999/", "http://a b/", "http://127.0.0.1/%zz"}) {
+    EXPECT_TRUE(fetched(transfer, url).isError()) << url;
+  }
+}
+
+TEST_F(QtTransferTest, TheSchemeMayBeWrittenInCapitals) {
+  server_.serve("/picture", answers::ok("bytes"));
+  const std::string url = "HTTP" + server_.address("/picture").substr(4);
+  QtTransfer transfer;
+
+  EXPECT_TRUE(fetched(transfer, url).isResponse(200, "bytes"));
+}
+
+TEST_F(QtTransferTest, AHostThatRefusesTheConnectionIsAnError) {
+  std::string url;
+  {
+    const PictureServer closed;
+    url = closed.address("/picture");
+  }
+  QtTransfer transfer;
+
+  EXPECT_TRUE(fetched(transfer, url).isError());
+}
+
+TEST_F(QtTransferTest, AServerThatDoesNotSpeakTlsIsAnErrorUnderHttps) {
+  const std::string url =
+      "https" + server_.serve("/picture", answers::ok("bytes")).substr(std::string("http").size());
+  QtTransfer transfer({.idle = 2s});
+
+  EXPECT_TRUE(fetched(transfer, url).isError());
+}
+
+}  // namespace
+}  // namespace leafund
