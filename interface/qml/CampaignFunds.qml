@@ -38,11 +38,13 @@ Rectangle {
             view: funds.views.slider
             width: parent.width
         }
-        Flow {
+        // Raised on the left, the goal at the end of the bar, or below where they are too wide. A sum
+        // wider than the card goes on in the next line.
+        Item {
+            readonly property bool stacked: raised.width + goal.width + Theme.gap > width
             width: parent.width
-            spacing: Theme.half
+            height: stacked ? goal.y + goal.height : raised.height
             visible: funds.views.currentFund.visible || funds.views.desiredFund.visible
-            // A sum wider than the card goes on in the next line.
             Words {
                 id: raised
                 view: funds.views.currentFund
@@ -52,17 +54,13 @@ Rectangle {
                 font { pointSize: Theme.lead; weight: Font.Bold }
             }
             Words {
-                view: funds.views.ofGoal
-                height: raised.height
-                verticalAlignment: Text.AlignVCenter
-                color: Theme.quiet
-            }
-            Words {
+                id: goal
                 view: funds.views.desiredFund
+                anchors.right: parent.right
+                y: parent.stacked ? raised.height : (raised.height - height) / 2
                 width: Math.min(implicitWidth, parent.width)
-                height: Math.max(raised.height, implicitHeight)
                 wrapMode: Text.WrapAnywhere
-                verticalAlignment: Text.AlignVCenter
+                horizontalAlignment: Text.AlignRight
                 font.weight: Font.DemiBold
             }
         }

@@ -5,6 +5,7 @@ Page {
     id: page
 
     ScrollPane {
+        scene: page.scene
         centred: true
 
         IconItem {

@@ -23,7 +23,12 @@ Rectangle {
 
     // The toolkit ended the editing: the glass follows.
     readonly property bool editing: view.editing
-    onEditingChanged: if (!editing) input.focus = false
+    onEditingChanged: {
+        if (editing)
+            return;
+        watch.leave();
+        input.focus = false;
+    }
 
     FocusWatch {
         id: watch

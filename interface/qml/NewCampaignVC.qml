@@ -5,6 +5,7 @@ Page {
     id: page
 
     ScrollPane {
+        scene: page.scene
         TextEntry {
             view: page.views.nameOfCreator
             width: parent.width

@@ -11,6 +11,7 @@ FocusScope {
     height: scene.root.height
 
     ScrollPane {
+        scene: page.scene
         activeFocusOnTab: true
 
         Story {

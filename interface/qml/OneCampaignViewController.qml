@@ -5,6 +5,7 @@ Page {
     id: page
 
     ScrollPane {
+        scene: page.scene
         Picture {
             view: page.views.campaignImage
             description: page.views.campaignTitle.text

@@ -17,9 +17,12 @@ Item {
         pressed();
     }
 
-    Keys.onReturnPressed: pressed()
-    Keys.onEnterPressed: pressed()
-    Keys.onSpacePressed: pressed()
+    // A key that is held down presses once.
+    Keys.onPressed: event => {
+        event.accepted = [Qt.Key_Return, Qt.Key_Enter, Qt.Key_Space].includes(event.key);
+        if (event.accepted && !event.isAutoRepeat)
+            pressed();
+    }
 
     Accessible.role: Accessible.Button
     Accessible.focusable: true

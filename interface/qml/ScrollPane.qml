@@ -6,6 +6,7 @@ import Leafund
 Item {
     id: pane
 
+    required property SceneObject scene
     default property alias content: column.data
     property bool centred: false
     property alias spacing: column.spacing
@@ -57,6 +58,13 @@ Item {
         interactive: contentHeight > height
         clip: true
         onContentHeightChanged: Qt.callLater(pane.reveal)
+
+        // A tap beside the controls, which the pane would keep to itself where it scrolls.
+        MouseArea {
+            width: flickable.width
+            height: flickable.contentHeight
+            onClicked: pane.scene.root.tap()
+        }
 
         Column {
             id: column

@@ -5,6 +5,7 @@ Page {
     id: page
 
     ScrollPane {
+        scene: page.scene
         Words {
             view: page.views.welcome
             width: parent.width

@@ -28,7 +28,8 @@ EntryBox {
         selectionColor: Theme.accentDeep
         selectedTextColor: Theme.accentInk
 
-        // What the toolkit wrote comes back equal and is no edit.
+        // What the toolkit wrote comes back equal and is no edit. A no-break space arrives as a plain
+        // one: the editor gives out its text no other way.
         onTextChanged: if (text !== area.view.text) area.view.edit(text)
 
         // Tab leads on, as everywhere.

@@ -9,6 +9,9 @@ EntryBox {
 
     TextInput {
         id: field
+        // The first characters of a password over a message, before they are committed.
+        readonly property bool composing: entry.view.secure && preeditText !== ""
+
         objectName: entry.view.name
         width: parent.width
         activeFocusOnTab: true
@@ -16,7 +19,7 @@ EntryBox {
         text: entry.view.text
         color: entry.view.textColor
         font { pointSize: Theme.lead; weight: entry.view.coloured ? Font.Bold : Font.Normal }
-        echoMode: entry.view.masked ? TextInput.Password : TextInput.Normal
+        echoMode: entry.view.masked || composing ? TextInput.Password : TextInput.Normal
         inputMethodHints: entry.view.inputHints
         wrapMode: entry.view.coloured ? TextInput.Wrap : TextInput.NoWrap
         maximumLength: 0x7fffffff

@@ -42,6 +42,8 @@ QtObject {
     readonly property real mark: 88
     readonly property real portrait: 130
     readonly property real storyShape: 0.6
+    // As the pictures are drawn: nothing of an infographic is cut off.
+    readonly property real pictureShape: 0.75
     readonly property real bar: 12
     readonly property real column: 560
     readonly property real areaLines: 3

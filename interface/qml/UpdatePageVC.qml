@@ -5,6 +5,7 @@ Page {
     id: page
 
     ScrollPane {
+        scene: page.scene
         activeFocusOnTab: true
 
         Column {
@@ -26,7 +27,7 @@ Page {
             view: page.views.updateOneImage
             description: page.views.test.text
             width: parent.width
-            height: width * Theme.storyShape
+            height: width * Theme.pictureShape
         }
         ReadingText {
             view: page.views.updateOneText

@@ -13,7 +13,6 @@ void campaignScene(Scene<OneCampaignViewController>& scene, OneCampaignViewContr
   scene.label(screen.labelAboveSlider, "Raised so far");
   scene.progress(screen.slider, "Share of the goal raised");
   scene.label(screen.currentFund);
-  scene.words("ofGoal", "of");
   scene.label(screen.desiredFund);
 
   scene.field(screen.dollarAmountField,

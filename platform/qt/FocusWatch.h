@@ -24,6 +24,9 @@ class FocusWatch : public QObject {
   void setTarget(QQuickItem* target);
   bool ring() const { return ring_; }
 
+  // Whatever comes next is a new entering: the editing was ended while the window was put aside.
+  Q_INVOKABLE void leave() { inside_ = false; }
+
   bool eventFilter(QObject* object, QEvent* event) override;
 
  signals:

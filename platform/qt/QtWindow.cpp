@@ -32,8 +32,9 @@ void QtWindow::keyPressEvent(QKeyEvent* event) {
   // Without an item in focus nobody has refused the event.
   const bool taken = activeFocusItem() != nullptr && event->isAccepted();
   if (taken || (event->key() != Qt::Key_Escape && event->key() != Qt::Key_Back)) return;
-  if (auto* application = UIApplication::current()) application->goBack();
   event->accept();
+  if (event->isAutoRepeat()) return;  // a key that is held down leaves one screen
+  if (auto* application = UIApplication::current()) application->goBack();
 }
 
 }  // namespace leafund

@@ -120,13 +120,17 @@ void UIApplication::tap(const std::shared_ptr<UIView>& view) {
 }
 
 void UIApplication::tapReached(const std::shared_ptr<UIView>& view) {
-  // The finger leaves the input it was in, as on a phone whose keyboard goes away.
-  if (const auto input = firstResponder(); input && input != view) input->resignFirstResponder();
-  if (const auto control = std::dynamic_pointer_cast<UIControl>(view)) {
+  const auto control = std::dynamic_pointer_cast<UIControl>(view);
+  const auto cell = std::dynamic_pointer_cast<UITableViewCell>(view);
+  const auto input = firstResponder();
+  // The finger leaves the input it was in for another control, as on a phone whose keyboard goes
+  // away. What a tap beside the controls does is for the screen's recognisers to say.
+  if (input && input != view && (control || cell)) input->resignFirstResponder();
+  if (control) {
     control->sendActionsForControlEvents(UIControlEvent::TouchUpInside);
     return;
   }
-  if (const auto cell = std::dynamic_pointer_cast<UITableViewCell>(view)) {
+  if (cell) {
     controllerOf(*cell)->performSegueWithIdentifierSender(cell->segueIdentifier(), cell);
     return;
   }
@@ -183,6 +187,7 @@ void UIApplication::resize(CGSize size) {
 
 void UIApplication::goBack() {
   turn([this] {
+    if (!navigation_->canGoBack(*navigation_->topViewController())) return;
     if (const auto input = firstResponder()) input->resignFirstResponder();
     navigation_->goBack();
   });

@@ -16,8 +16,9 @@ UITableViewCell::UITableViewCell(UITableViewCellStyle style, std::string reuseId
     contentView_->addSubview(imageView_);
   }
   textLabel_ = std::make_shared<UILabel>();
-  detailTextLabel_ = std::make_shared<UILabel>();
   contentView_->addSubview(textLabel_);
+  if (style == UITableViewCellStyle::TitleOnly) return;
+  detailTextLabel_ = std::make_shared<UILabel>();
   contentView_->addSubview(detailTextLabel_);
 }
 

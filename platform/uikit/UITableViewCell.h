@@ -9,9 +9,10 @@
 namespace leafund {
 
 enum class UITableViewCellStyle {
-  Bare,      // nothing but the content view
-  TextOnly,  // a title and a line below it
-  Subtitle   // a picture, a title and a line below it
+  Bare,       // nothing but the content view
+  TitleOnly,  // a title
+  TextOnly,   // a title and a line below it
+  Subtitle    // a picture, a title and a line below it
 };
 
 // One row. Tapping it starts the segue that the prototype names, with the cell as sender.

@@ -21,7 +21,6 @@ struct SceneDescription;
 // What the navigation bar shows for one screen.
 class UINavigationItem {
  public:
-  explicit UINavigationItem(UIViewController& owner) : owner_(owner) {}
   // Empty: the screen does without a bar.
   const std::string& title() const { return title_; }
   void setTitle(std::string title);
@@ -30,7 +29,6 @@ class UINavigationItem {
   void setHidesBackButton(bool hides);
 
  private:
-  UIViewController& owner_;
   std::string title_;
   bool hidesBackButton_ = false;
 };
@@ -97,7 +95,7 @@ class UIViewController : public UIResponder {
   std::weak_ptr<UITabContainer> tabContainer_;
   std::vector<OutletBase*> outlets_;
   std::shared_ptr<UIView> view_;
-  UINavigationItem navigationItem_{*this};
+  UINavigationItem navigationItem_;
 };
 
 }  // namespace leafund

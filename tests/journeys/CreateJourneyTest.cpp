@@ -39,7 +39,6 @@ TEST_F(CreateJourneyTest, ARefusedFormTellsWhatIsMissing) {
   EXPECT_EQ(app->text("nameOfCampaign"), "Error: Please Enter a Campaign Name");
   EXPECT_EQ(app->text("desiredFunding"), "lots");
   EXPECT_TRUE(app->seen("moneyErrorField"));
-  // Typing replaces the messages.
   fillNewCampaign(*app, app->pictureAddress("fly-less.jpg"));
   app->tap("createButton");
   EXPECT_EQ(app->screen(), "ThankYouVC");

@@ -5,6 +5,8 @@
 #include "screens/campaign/OneCampaignViewController.h"
 #include "screens/campaign/UpdatePageVC.h"
 #include "screens/lists/CampaignTableViewController.h"
+#include "screens/lists/FundCampaignVC.h"
+#include "screens/lists/MyProfileVC.h"
 #include "tests/support/HeadlessApplication.h"
 #include "tests/support/Screens.h"
 
@@ -121,6 +123,16 @@ TEST_F(CampaignTableTest, ACellShownFiveTimesCarriesFiveCardsBehindItsContent) {
   EXPECT_EQ(subviews[5], shown->imageView());
 }
 
+TEST_F(CampaignTableTest, ACardIsAsWideAsTheScreenWhenItsRowWasShown) {
+  open("fundedTab");
+  app.application->resize({568, 844});
+  app.tap("newsTab");
+  app.tap("fundedTab");
+  const auto& subviews = cell(0)->contentView()->subviews();
+  EXPECT_EQ(subviews[0]->frame(), (CGRect{0, 10, 568, 145}));
+  EXPECT_EQ(subviews[1]->frame(), (CGRect{0, 10, 390, 145}));
+}
+
 TEST_F(CampaignTableTest, NoListScreenEverShowsABackButton) {
   for (const auto* name : {"OtherCampaignsTableViewController", "MyProfileVC", "FundCampaignVC"}) {
     const auto list = makeScreen<CampaignTableViewController>(name);
@@ -177,10 +189,12 @@ TEST_F(CampaignTableTest, AnotherDestinationReceivesNothing) {
 }
 
 TEST_F(CampaignTableTest, TheUnreadOutletHoldsTheScreensOwnTable) {
-  for (const auto* name : {"MyProfileVC", "FundCampaignVC"}) {
-    const auto list = makeScreen<CampaignTableViewController>(name);
-    EXPECT_NE(list->view(), nullptr);  // an outlet left open would have been fatal
-  }
+  const auto mine = makeScreen<MyProfileVC>("MyProfileVC");
+  mine->view();
+  EXPECT_EQ(mine->fundedTable.get(), mine->tableView());
+  const auto funded = makeScreen<FundCampaignVC>("FundCampaignVC");
+  funded->view();
+  EXPECT_EQ(funded->fundedTable.get(), funded->tableView());
 }
 
 using CampaignTableDeathTest = CampaignTableTest;
@@ -197,6 +211,11 @@ TEST_F(CampaignTableDeathTest, ACellWithoutLabelsIsFatal) {
       "abc", [] { return std::make_shared<UITableViewCell>(UITableViewCellStyle::Bare, "abc"); });
   EXPECT_DEATH(screen->tableViewCellForRowAtIndexPath(*table, {0, 0}),
                "OtherCampaignsTableViewController: the cell has no text label");
+  table->registerPrototype("abc", [] {
+    return std::make_shared<UITableViewCell>(UITableViewCellStyle::TitleOnly, "abc");
+  });
+  EXPECT_DEATH(screen->tableViewCellForRowAtIndexPath(*table, {0, 0}),
+               "OtherCampaignsTableViewController: the cell has no detail text label");
 }
 
 TEST_F(CampaignTableDeathTest, AnAddressThatIsNoUrlIsFatal) {
@@ -223,6 +242,9 @@ TEST_F(CampaignTableDeathTest, ASegueWhoseSenderIsNoRowOfTheTableIsFatalWhatever
   EXPECT_DEATH(screen->prepareForSegueSender(segue, screen), "the segue's sender is not a row");
   const auto foreign = std::make_shared<UITableViewCell>(UITableViewCellStyle::Subtitle, "abc");
   EXPECT_DEATH(screen->prepareForSegueSender(segue, foreign), "a row of another table");
+  const auto pooled = cell(3);
+  app.application->resize({390, 400});
+  EXPECT_DEATH(screen->prepareForSegueSender(segue, pooled), "a row of another table");
 }
 
 }  // namespace

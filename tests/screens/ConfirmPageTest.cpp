@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <limits>
 
@@ -77,7 +78,7 @@ TEST_F(ConfirmPageTest, TheLastCampaignLeavesTheOthersInOrder) {
   EXPECT_EQ(otherCampaigns(), before);
 }
 
-TEST_F(ConfirmPageTest, DecliningChangesNothingAndPerformsNoSegue) {
+TEST_F(ConfirmPageTest, DecliningChangesNothingAndPerformsItsSegue) {
   confirm(60);
   const auto others = otherCampaigns();
   const auto funded = campaignsIFunded();
@@ -110,6 +111,17 @@ TEST_F(ConfirmPageTest, ACampaignThatIsFundedAlreadyIsInsertedAgain) {
   yes();
   EXPECT_EQ(campaignsIFunded().front(), campaign);
   EXPECT_EQ(campaignsIFunded().back(), campaign);
+}
+
+TEST_F(ConfirmPageTest, ThePledgeIsBookedBeforeTheSegue) {
+  confirm(60);
+  bool booked = false;
+  page->onSegue = [&] {
+    booked = campaign->currFunding() == 100.0F && otherCampaigns().size() == 6U &&
+             campaignsIFunded()[0] == campaign;
+  };
+  yes();
+  EXPECT_TRUE(booked);
 }
 
 TEST_F(ConfirmPageTest, EveryPressOfYesBooksAgain) {
@@ -149,6 +161,11 @@ using ConfirmPageDeathTest = ConfirmPageTest;
 
 TEST_F(ConfirmPageDeathTest, AnAbsentPositionIsFatalOnLoading) {
   EXPECT_DEATH(page->view(), "Leafund stopped: ConfirmPageVC: no campaign position was given");
+  const auto told = [&] {
+    dup2(STDERR_FILENO, STDOUT_FILENO);  // what was printed, in the order in which it came
+    page->view();
+  };
+  EXPECT_DEATH(told(), "nil\nLeafund stopped");
 }
 
 TEST_F(ConfirmPageDeathTest, APositionOutsideTheBrowseListIsFatalOnLoading) {

@@ -147,6 +147,14 @@ TEST_F(NewCampaignTest, ACreatedCampaignIsTheFirstOfTheUsersDated4DecAndWithoutP
   EXPECT_EQ(form->lastSender, form.screen);
 }
 
+TEST_F(NewCampaignTest, TheCampaignIsInsertedBeforeTheSegue) {
+  std::size_t count = 0;
+  form->onSegue = [&] { count = myUnfundedCampaigns().size(); };
+  fill();
+  press();
+  EXPECT_EQ(count, 3U);
+}
+
 TEST_F(NewCampaignTest, TheInputsAreNotClearedByCreating) {
   fill();
   press();

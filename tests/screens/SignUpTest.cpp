@@ -59,6 +59,9 @@ TEST_F(SignUpTest, DifferentPasswordsMarkOnlyTheConfirmation) {
 TEST_F(SignUpTest, AnEmptyPasswordAndAFilledConfirmationMarkBothAsMissingAndDifferent) {
   signUp("Wren", "", "abc");
   expectTexts("Wren", "Error: Please Enter a Password", "Error: Passwords Do Not Match");
+  EXPECT_EQ(form->passwordField->textColor(), UIColor::redColor());
+  EXPECT_EQ(form->passwordConfirmField->textColor(), UIColor::redColor());
+  EXPECT_EQ(form->nameField->textColor(), UIColor::blackColor());
 }
 
 TEST_F(SignUpTest, AnEmptyConfirmationSkipsTheAgreementCheck) {
@@ -71,6 +74,13 @@ TEST_F(SignUpTest, AFilledNameWithEqualPasswordsStoresTheNameAndMovesOn) {
   EXPECT_EQ(currentUserName(), "Wren");
   EXPECT_EQ(form->segues, Segues{"signUpSecondSegue"});
   EXPECT_EQ(form->lastSender, form.screen);
+}
+
+TEST_F(SignUpTest, TheNameIsStoredBeforeTheSegue) {
+  std::string stored;
+  form->onSegue = [&] { stored = currentUserName(); };
+  signUp("Wren", "x", "x");
+  EXPECT_EQ(stored, "Wren");
 }
 
 TEST_F(SignUpTest, ANameThatIsNoEmailAddressIsAccepted) {

@@ -65,6 +65,7 @@ TEST(AppDelegateTest, GoingToTheBackgroundAndBackChangesNothing) {
   app.signIn();
   const auto titles = app.rowTitles();
   const auto others = otherCampaigns();
+  const auto funded = campaignsIFunded();
   const auto showings = app.host.showings();
   testing::internal::CaptureStdout();
   app.application->resignActive();
@@ -74,15 +75,35 @@ TEST(AppDelegateTest, GoingToTheBackgroundAndBackChangesNothing) {
   EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
   EXPECT_EQ(app.rowTitles(), titles);
   EXPECT_EQ(otherCampaigns(), others);
+  EXPECT_EQ(campaignsIFunded(), funded);
+  EXPECT_EQ(currentUserName(), "Quillon");
   EXPECT_EQ(app.host.showings(), showings);
 }
 
-TEST(AppDelegateTest, TerminatingSavesNothing) {
+TEST(AppDelegateTest, TerminatingPrintsNothingAndChangesNoList) {
   HeadlessApplication app;
   testing::internal::CaptureStdout();
   app.application->terminate();
   EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
   EXPECT_EQ(otherCampaigns().size(), 7U);
+}
+
+TEST(AppDelegateTest, AWholePledgeRoadTouchesNoCampaignOfTheUser) {
+  HeadlessApplication app;
+  app.signIn();
+  app.tapRow(0);
+  app.type("dollarAmountField", "80");
+  app.tap("FundButton");
+  app.tap("yesButton");
+  app.tap("homeButton");
+  app.tap("fundedTab");
+  app.tapRow(0);
+  app.tap("campaignUpdates");
+  app.application->goBack();
+  app.application->goBack();
+  app.tap("newsTab");
+  currentUserName() = "Zelda";
+  EXPECT_EQ(myUnfundedCampaigns()[0]->creator(), "Zelda");
 }
 
 TEST(AppDelegateTest, LaunchingTouchesNoCampaignOfTheUser) {

@@ -77,9 +77,9 @@ TEST(TabBarTest, ComingBackFromADetailScreenIsOneAppearanceOfTheVisibleTab) {
 TEST(TabBarTest, SelectedTitlesTakeTheAccentColour) {
   HeadlessApplication app;
   app.signIn();
-  EXPECT_NE(app.viewAs<UITabBarItem>("newsTab")->selectedTitleColor(), std::nullopt);
-  EXPECT_EQ(app.viewAs<UITabBarItem>("newsTab")->selectedTitleColor(),
-            UITabBarItem::appearance().selectedTitleColor());
+  const auto accent = UIColor::initWithRedGreenBlueAlpha(83.0 / 255, 134.0 / 255, 47.0 / 255, 1.0);
+  EXPECT_EQ(app.viewAs<UITabBarItem>("newsTab")->selectedTitleColor(), accent);
+  EXPECT_EQ(app.viewAs<UITabBar>("tabBar")->tintColor(), accent);
 }
 
 TEST(TabBarTest, TheNewButtonIsSeenOnTheMineTabAlone) {
@@ -100,6 +100,8 @@ TEST(TabBarTest, LoadingAgainRepeatsTheSameAndChangesNoData) {
   const auto home = app.navigation().topViewController();
   const auto news = app.shown();
   const auto others = otherCampaigns();
+  const auto funded = campaignsIFunded();
+  home->navigationItem().setHidesBackButton(false);
   home->releaseView();
   news->releaseView();
   home->view();
@@ -107,6 +109,8 @@ TEST(TabBarTest, LoadingAgainRepeatsTheSameAndChangesNoData) {
   EXPECT_TRUE(home->navigationItem().hidesBackButton());
   EXPECT_THAT(tabTitles(app), ElementsAre("Browse", "Funded", "Mine", "News"));
   EXPECT_EQ(otherCampaigns(), others);
+  EXPECT_EQ(campaignsIFunded(), funded);
+  EXPECT_EQ(currentUserName(), "Quillon");
 }
 
 TEST(TabBarTest, AMemoryWarningChangesNothing) {

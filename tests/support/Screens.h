@@ -22,11 +22,13 @@ class Recording : public Screen {
  public:
   std::vector<std::string> segues;
   Sender lastSender;
+  std::function<void()> onSegue = [] {};  // what stands at that moment
 
   void performSegueWithIdentifierSender(std::string_view identifier,
                                         const Sender& sender) override {
     segues.emplace_back(identifier);
     lastSender = sender;
+    onSegue();
   }
 };
 

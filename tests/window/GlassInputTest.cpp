@@ -47,12 +47,80 @@ TEST_F(GlassInputTest, TypingInTheMiddleKeepsTheCursorThere) {
   EXPECT_EQ(app.require("userEmail").property("cursorPosition").toInt(), 2);
 }
 
-TEST_F(GlassInputTest, AWindowThatComesToTheFrontIsNotAUserEnteringAnInput) {
+TEST_F(GlassInputTest, AFocusThatTheWindowGivesBackIsNotAUserEnteringAnInput) {
   click("signInButton");
   auto& input = app.require("userEmail");
   input.forceActiveFocus(Qt::ActiveWindowFocusReason);
   app.settle();
   EXPECT_EQ(glassText("userEmail"), "Error: Please Enter a Name");
+}
+
+TEST_F(GlassInputTest, ReturnLeavesAFieldOfTheFormAndMakesANewLineInATextView) {
+  signIn();
+  click("mineTab");
+  click("newButton");
+  type("nameOfCreator", "Wren");
+  app.press(Qt::Key_Return);
+  EXPECT_FALSE(app.require("nameOfCreator").hasActiveFocus());
+  type("shortDescription", "a");
+  app.press(Qt::Key_Return);
+  app.typeKeys("b");
+  EXPECT_EQ(glassText("shortDescription"), "a\nb");
+  EXPECT_EQ(app.shown()->className(), "NewCampaignVC");
+}
+
+TEST_F(GlassInputTest, ReturnNeverSubmits) {
+  type("userEmail", "a");
+  type("password", "b");
+  app.press(Qt::Key_Return);
+  EXPECT_EQ(app.shown()->className(), "LandingPageVC");
+}
+
+TEST_F(GlassInputTest, ATapBesideTheFormsInputsEndsEditing) {
+  signIn();
+  click("mineTab");
+  click("newButton");
+  click("nameOfCampaign");
+  ASSERT_NE(app.application->firstResponder(), nullptr);
+  QTest::mouseClick(&app.window(), Qt::LeftButton, {}, QPoint(8, 400));
+  EXPECT_EQ(app.application->firstResponder(), nullptr);
+  EXPECT_FALSE(app.require("nameOfCampaign").hasActiveFocus());
+}
+
+TEST_F(GlassInputTest, AKeyThatIsHeldDownPressesOnce) {
+  click("signInButton");
+  EXPECT_EQ(app.shown()->className(), "LandingPageVC");
+  QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
+  QCoreApplication::sendEvent(&app.window(), &repeated);
+  app.settle();
+  EXPECT_EQ(app.shown()->className(), "LandingPageVC");
+  app.press(Qt::Key_Return);  // pressed anew, it signs in with the messages
+  app.settle();
+  EXPECT_NE(app.shown()->className(), "LandingPageVC");
+}
+
+TEST_F(GlassInputTest, AMessageIsClearedAlsoAfterTheWindowWasPutAside) {
+  click("userEmail");
+  app.window().contentItem()->setFocus(false, Qt::ActiveWindowFocusReason);
+  app.application->tap(app.shown()->view()->subviews()[4]);  // pressed by other means
+  app.settle();
+  EXPECT_EQ(glassText("userEmail"), "Error: Please Enter a Name");
+  app.window().contentItem()->setFocus(true, Qt::ActiveWindowFocusReason);
+  click("userEmail");
+  EXPECT_EQ(glassText("userEmail"), "");
+}
+
+TEST_F(GlassInputTest, CompositionSurvivesARefresh) {
+  type("userEmail", "ab");
+  QInputMethodEvent composing("\u00e9", {});
+  QCoreApplication::sendEvent(&app.require("userEmail"), &composing);
+  app.application->turn([] {});
+  EXPECT_EQ(app.require("userEmail").property("preeditText").toString(), "\u00e9");
+  EXPECT_EQ(glassText("userEmail"), "ab");
+  QInputMethodEvent committing;
+  committing.setCommitString("\u00e9");
+  QCoreApplication::sendEvent(&app.require("userEmail"), &committing);
+  EXPECT_EQ(glassText("userEmail"), "ab\u00e9");
 }
 
 }  // namespace
