@@ -85,12 +85,17 @@ TEST_F(MainQueueContract, AStepPostedByAStepComesBehindThoseThatWait) {
 }
 
 TEST_F(MainQueueContract, WhatAStepHoldsIsLetGoOnTheMainThreadWhenItHasRun) {
-  auto held = std::make_shared<int>(1);
+  std::thread::id endedOn;
+  std::shared_ptr<int> held(new int(1), [&endedOn](int* value) {
+    endedOn = std::this_thread::get_id();
+    delete value;
+  });
   const std::weak_ptr<int> watch = held;
   std::thread([&held] { post([kept = std::move(held)] {}); }).join();
   EXPECT_FALSE(watch.expired());
   settle();
   EXPECT_TRUE(underTest->runUntil([&] { return watch.expired(); }));
+  EXPECT_EQ(endedOn, std::this_thread::get_id());
 }
 
 }  // namespace

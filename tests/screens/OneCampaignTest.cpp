@@ -77,6 +77,13 @@ TEST_F(OneCampaignTest, AGoalOfZeroWithNothingRaisedCountsAsFunded) {
   EXPECT_EQ(detail->desiredFund->text(), "$0.00");
 }
 
+TEST_F(OneCampaignTest, SumsThatAreNotANumberAreNotEqualAndSoNotFunded) {
+  constexpr float kNotANumber = std::numeric_limits<float>::quiet_NaN();
+  openWith(kNotANumber, kNotANumber);
+  EXPECT_EQ(detail->labelAboveSlider->text(), "Raised so far");
+  EXPECT_FALSE(detail->slider->hidden());
+}
+
 TEST_F(OneCampaignTest, EveryGoalIsWrittenOut) {
   const std::pair<float, const char*> goals[] = {
       {0.0F, "$0.00"},

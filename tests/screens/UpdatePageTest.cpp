@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <csignal>
+#include <cstdio>
+
 #include "model/Catalogue.h"
 #include "model/PictureHost.h"
 #include "platform/headless/HeadlessHost.h"
@@ -88,6 +91,23 @@ using UpdatePageDeathTest = UpdatePageTest;
 
 TEST_F(UpdatePageDeathTest, APositionEqualToTheListsLengthIsFatal) {
   EXPECT_DEATH(open("campaignsIFunded", 3), "UpdatePageVC: position 3 is outside a list of 3");
+}
+
+// Told by the dying process.
+UpdatePageVC* dying = nullptr;
+void tellTexts(int) {
+  const auto texts = "<" + dying->test->text() + dying->updateOneText->text() + ">\n";
+  std::fputs(texts.c_str(), stderr);
+}
+
+TEST_F(UpdatePageDeathTest, AFatalPositionLeavesNoPartialDisplay) {
+  EXPECT_DEATH(
+      {
+        dying = page.get();
+        std::signal(SIGABRT, tellTexts);
+        open("campaignsIFunded", 3);
+      },
+      "position 3 is outside a list of 3\n<>");
 }
 
 TEST_F(UpdatePageDeathTest, AnAbsentPositionIsFatal) {
