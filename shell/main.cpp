@@ -3,8 +3,9 @@
 #include "shell/Storyboard.h"
 
 int main(int argc, char** argv) {
-  // Not on this function's stack: a host may return from its loop and live on.
-  static leafund::QtHost host(argc, argv);
+  // Not on this function's stack: a host may return from its loop and live on. Never freed: where
+  // the display goes away, the process exits from within the host's loop.
+  static auto& host = *new leafund::QtHost(argc, argv);
   return leafund::UIApplicationMain(argc, argv, std::nullopt,
                                     leafund::NSStringFromClass<leafund::AppDelegate>(), host,
                                     leafund::mainStoryboard());

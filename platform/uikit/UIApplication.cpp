@@ -234,8 +234,8 @@ int UIApplicationMain(int, char**, std::optional<std::string>, std::string_view 
     fatalError("UIApplicationMain", "no class is named " + std::string(delegateClassName));
   }
   setCurrentHost(&host);
-  // Lives as long as the process: a host may return from run() and go on.
-  static std::shared_ptr<UIApplication> application;
+  // Never freed: a host may return from run() and go on, or leave by exit() from within.
+  static auto& application = *new std::shared_ptr<UIApplication>;
   application = std::make_shared<UIApplication>(host, storyboard, make->second());
   return host.run(*application);
 }
