@@ -50,6 +50,12 @@ struct RecordedScreen {
       : storyboard(storyboardWith(sceneName, [] { return std::make_shared<Recording<Screen>>(); })),
         screen(std::static_pointer_cast<Recording<Screen>>(
             storyboard.instantiateViewControllerWithIdentifier(sceneName))) {}
+  RecordedScreen(const RecordedScreen&) = delete;
+  RecordedScreen& operator=(const RecordedScreen&) = delete;
+  // A screen that sent a segue names itself, and would keep itself alive.
+  ~RecordedScreen() {
+    if (screen) screen->lastSender = nullptr;
+  }
   Recording<Screen>* operator->() const { return screen.get(); }
 
   UIStoryboard storyboard;
