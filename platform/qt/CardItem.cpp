@@ -37,25 +37,9 @@ void paintCard(QPainter& painter, const CardLook& card, double rowWidth) {
 
 }  // namespace
 
-void CardItem::setView(ViewObject* view) {
-  if (view == view_) return;
-  if (view_) disconnect(view_, nullptr, this, nullptr);
-  view_ = view;
-  if (view_) connect(view_, &ViewObject::changed, this, &CardItem::catchUp);
-  emit viewChanged();
-  if (view_) catchUp();
-}
-
-void CardItem::setGround(const QColor& ground) {
-  if (ground == ground_) return;
-  ground_ = ground;
-  emit groundChanged();
-  repaint();
-}
-
 void CardItem::catchUp() {
   std::vector<CardLook> looks;
-  for (auto card : view_->cards()) {
+  for (auto card : view()->cards()) {
     card.frame.width = 0;
     if (std::find(looks.begin(), looks.end(), card) == looks.end()) looks.push_back(card);
   }
@@ -66,7 +50,7 @@ void CardItem::catchUp() {
 
 QImage CardItem::paint(QSize pixels, double scale) {
   QImage image(pixels, QImage::Format_RGB32);
-  image.fill(ground_);
+  image.fill(ground());
   QPainter painter(&image);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);

@@ -8,25 +8,8 @@
 
 namespace leafund {
 
-void PictureItem::setView(ViewObject* view) {
-  if (view == view_) return;
-  if (view_) disconnect(view_, nullptr, this, nullptr);
-  view_ = view;
-  if (view_) connect(view_, &ViewObject::changed, this, &PictureItem::catchUp);
-  emit viewChanged();
-  if (view_) catchUp();
-}
-
-void PictureItem::setGround(const QColor& ground) {
-  if (ground == ground_) return;
-  ground_ = ground;
-  emit groundChanged();
-  repaint();
-}
-
-// A row's view is refreshed at every scroll step, its picture is another one only now and then.
 void PictureItem::catchUp() {
-  const auto& look = view_->look();
+  const auto& look = view()->look();
   if (look.image == image_ && look.layer == layer_) return;
   image_ = look.image;
   layer_ = look.layer;
@@ -44,8 +27,8 @@ QImage PictureItem::paint(QSize pixels, double scale) {
   QPainter painter(&result);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
-  painter.fillPath(shape, ground_);
-  const auto mode = view_ ? view_->look().contentMode : UIViewContentMode::ScaleToFill;
+  painter.fillPath(shape, ground());
+  const auto mode = view() ? view()->look().contentMode : UIViewContentMode::ScaleToFill;
   const QImage picture = image_ ? picturePixels(*image_, pixels, mode) : QImage();
   // As a brush: a clipped picture would have hard edges.
   if (!picture.isNull()) painter.fillPath(shape, QBrush(picture));
