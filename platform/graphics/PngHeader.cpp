@@ -99,7 +99,7 @@ bool isPalette(const Chunk& chunk) {
 // understood: colours given by number cannot be drawn without it.
 bool pixelsBegin(ByteReader& bytes, bool needsPalette) {
   constexpr std::uint32_t longestChunk = 0x7FFFFFFF;
-  while (bytes.good()) {
+  for (;;) {
     const std::uint32_t length = bytes.big32();
     if (length > longestChunk) return false;
     if (ByteReader{bytes}.take(4) == "IDAT") {
@@ -111,7 +111,6 @@ bool pixelsBegin(ByteReader& bytes, bool needsPalette) {
     if (!chunk.intact() || !isPalette(chunk)) return false;
     needsPalette = false;
   }
-  return false;
 }
 
 }  // namespace

@@ -2,9 +2,11 @@
 
 #include <QBuffer>
 #include <QImageReader>
+#include <QLoggingCategory>
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
+#include <mutex>
 
 #include "platform/graphics/PictureHeader.h"
 
@@ -50,6 +52,11 @@ QSize ownPixels(const UIImage& image) {
 // The format is named and not guessed by the reader, whose plug-ins may know formats that read
 // other files.
 QImage decoded(const std::string& body, PictureHeader::Format format, QSize size) {
+  // A damaged picture is passed over without a word, and its decoder would warn of it.
+  static std::once_flag silenced;
+  std::call_once(silenced, [] {
+    QLoggingCategory::setFilterRules(QStringLiteral("qt.gui.imageio*.warning=false"));
+  });
   auto bytes = QByteArray::fromRawData(body.data(), static_cast<qsizetype>(body.size()));
   QBuffer buffer(&bytes);
   QImageReader reader(&buffer, readerName(format));

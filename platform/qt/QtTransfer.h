@@ -15,8 +15,8 @@ namespace leafund {
 // thread is started by the first fetch.
 //
 // To be made and destroyed on the main thread. What is still under way is then given up, at once:
-// its completion is not called any more and is destroyed there, on the main thread, once the thread
-// of the fetches has ended, because it may own screens. Nothing may be started by then.
+// its completion is not called any more and is destroyed there, on the main thread, because it may
+// own screens. Nothing may be started by then.
 //
 // A body that does not arrive whole is an error, with one exception: a chunked one, whose
 // connection ends between or within two chunks, now and then passes for whole. Only Qt sees the
@@ -47,7 +47,7 @@ class QtTransfer {
   class Session;
 
   Limits limits_;
-  QThread thread_;
+  std::unique_ptr<QThread> thread_;
   std::unique_ptr<Session> session_;  // Null until the first fetch; lives on the thread.
 };
 

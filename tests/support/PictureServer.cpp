@@ -1,6 +1,10 @@
 #include "tests/support/PictureServer.h"
 
 #include <QEventLoop>
+#include <QSslCertificate>
+#include <QSslConfiguration>
+#include <QSslKey>
+#include <QSslServer>
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <algorithm>
@@ -11,6 +15,7 @@
 #include <utility>
 
 #include "tests/support/PictureAnswers.h"
+#include "tests/support/PictureServerCertificate.h"
 
 namespace leafund {
 
@@ -43,9 +48,19 @@ PictureServer::Request parsedHead(const std::string& head) {
   return request;
 }
 
+std::unique_ptr<QTcpServer> makeServer(PictureServer::Speaks speaks) {
+  if (speaks == PictureServer::Speaks::Plain) return std::make_unique<QTcpServer>();
+  QSslConfiguration identity = QSslConfiguration::defaultConfiguration();
+  identity.setLocalCertificate(QSslCertificate(unvouchedCertificate));
+  identity.setPrivateKey(QSslKey(unvouchedKey, QSsl::Ec));
+  auto server = std::make_unique<QSslServer>();
+  server->setSslConfiguration(identity);
+  return server;
+}
+
 }  // namespace
 
-PictureServer::PictureServer() {
+PictureServer::PictureServer(Speaks speaks) : speaks_(speaks) {
   std::promise<int> port;
   auto listening = port.get_future();
   thread_.reset(QThread::create(
@@ -63,7 +78,8 @@ PictureServer::~PictureServer() {
 }
 
 std::string PictureServer::baseAddress() const {
-  return "http://127.0.0.1:" + std::to_string(port_);
+  const char* scheme = speaks_ == Speaks::Tls ? "https" : "http";
+  return scheme + ("://127.0.0.1:" + std::to_string(port_));
 }
 
 std::string PictureServer::serve(const std::string& path, Answer answer) {
@@ -104,12 +120,12 @@ bool PictureServer::waitForConnections(int count) const {
   return changed_.wait_for(lock, generously, [&] { return connections_ == count; });
 }
 
-void PictureServer::listenAndServe(std::function<void(int port)> listening) {
-  QTcpServer server;
-  QObject::connect(&server, &QTcpServer::newConnection, &server, [&] {
-    while (QTcpSocket* client = server.nextPendingConnection()) accept(*client);
+void PictureServer::listenAndServe(const std::function<void(int port)>& listening) {
+  const auto server = makeServer(speaks_);
+  QObject::connect(server.get(), &QTcpServer::pendingConnectionAvailable, server.get(), [&] {
+    while (QTcpSocket* client = server->nextPendingConnection()) accept(*client);
   });
-  listening(server.listen(QHostAddress::LocalHost) ? server.serverPort() : 0);
+  listening(server->listen(QHostAddress::LocalHost) ? server->serverPort() : 0);
   QEventLoop().exec();
 }
 

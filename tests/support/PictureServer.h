@@ -30,8 +30,11 @@ class PictureServer {
     std::map<std::string, std::string> headers;  // By their names in lower case.
   };
 
+  // Who speaks TLS shows a certificate that nobody vouches for.
+  enum class Speaks { Plain, Tls };
+
   // Listens when this returns.
-  PictureServer();
+  explicit PictureServer(Speaks speaks = Speaks::Plain);
   PictureServer(const PictureServer&) = delete;
   PictureServer& operator=(const PictureServer&) = delete;
   // Cuts the connections that are open.
@@ -56,7 +59,7 @@ class PictureServer {
   bool waitForConnections(int count) const;
 
  private:
-  void listenAndServe(std::function<void(int port)> listening);
+  void listenAndServe(const std::function<void(int port)>& listening);
   void accept(QTcpSocket& client);
   // Answers what is whole of `received`, and leaves the rest.
   void answerRequests(QTcpSocket& client, std::string& received);
@@ -68,6 +71,7 @@ class PictureServer {
   std::vector<Request> requests_;
   int connections_ = 0;
   int mostConnections_ = 0;
+  const Speaks speaks_;
   int port_ = 0;
   std::unique_ptr<QThread> thread_;
 };
