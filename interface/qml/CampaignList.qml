@@ -9,6 +9,8 @@ FocusScope {
     readonly property var views: scene.views
     readonly property ViewObject table: scene.root
 
+    property int emptyIcon: IconItem.Leaf
+
     x: table.x
     y: table.y
     width: table.width
@@ -21,8 +23,11 @@ FocusScope {
 
     // The row in focus stays in sight, and some of the next: only rows in sight can be reached.
     readonly property Item focused: Window.activeFocusItem
+    property bool settling: false
     onFocusedChanged: {
-        if (!focused || focused.parent !== rows)
+        if (focused === list)
+            Qt.callLater(settleFocus);
+        if (settling || !focused || focused.parent !== rows)
             return;
         const top = focused.y - flickable.contentY;
         const above = top - Theme.peek;
@@ -30,12 +35,39 @@ FocusScope {
         scrollBy(above < 0 ? above : Math.max(0, below));
     }
 
+    // When the screen comes, and when the row in focus has gone or was scrolled away, a row in sight
+    // takes the focus, and nothing scrolls for it.
+    function settleFocus() {
+        if (!list.activeFocus)
+            return;
+        settling = true;
+        rows.focusSeen(flickable.contentY, flickable.contentY + flickable.height);
+        settling = false;
+    }
+
+    function turnPage(direction) {
+        scrollBy(direction * (height - Theme.step));
+        settleFocus();
+    }
+
     Keys.onUpPressed: scrollBy(-Theme.step)
     Keys.onDownPressed: scrollBy(Theme.step)
     Keys.onPressed: event => {
         event.accepted = event.key === Qt.Key_PageUp || event.key === Qt.Key_PageDown;
         if (event.accepted)
-            scrollBy((event.key === Qt.Key_PageUp ? -1 : 1) * (height - Theme.step));
+            turnPage(event.key === Qt.Key_PageUp ? -1 : 1);
+    }
+
+    // Where the rows end early the ground is not left bare.
+    Loader {
+        anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
+        active: list.table.contentHeight + Theme.meadow < list.height
+        sourceComponent: Component { Meadow { room: list.height } }
+    }
+    Loader {
+        anchors.centerIn: parent
+        active: list.table.contentHeight === 0
+        sourceComponent: Component { Medallion { icon: list.emptyIcon } }
     }
 
     Flickable {
@@ -52,6 +84,9 @@ FocusScope {
         onOffsetChanged: if (offset !== contentY) contentY = offset
 
         Accessible.role: Accessible.List
+        Accessible.name: list.scene.title
+        Accessible.onNextPageAction: list.turnPage(1)
+        Accessible.onPreviousPageAction: list.turnPage(-1)
 
         TableRows {
             id: rows

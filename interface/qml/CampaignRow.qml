@@ -22,10 +22,21 @@ Pressable {
     Accessible.name: title.text
     Accessible.description: pitch.text
 
+    FontMetrics {
+        id: line
+        font: pitch.font
+    }
+
     CardItem {
         anchors.fill: parent
         view: row.view.parts.content
         ground: Theme.ground
+    }
+
+    Rectangle {
+        anchors { fill: parent; topMargin: Theme.cardTop; bottomMargin: Theme.cardTop - 2 * Theme.cardOffset }
+        visible: row.held
+        color: Theme.veil
     }
 
     Picture {
@@ -63,7 +74,8 @@ Pressable {
             text: row.view.parts.detail.text
             textFormat: Text.PlainText
             wrapMode: Text.Wrap
-            maximumLineCount: 4
+            maximumLineCount: Math.max(1, Math.min(Theme.pitchLines, Math.floor(room / line.height)))
+            readonly property real room: Theme.cardRoom - title.height - Theme.half
             elide: Text.ElideRight
             color: Theme.quiet
             font.pointSize: Theme.body

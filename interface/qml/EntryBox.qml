@@ -9,7 +9,11 @@ Rectangle {
     required property ViewObject view
     required property Item input
     default property alias content: place.data
+    // Whether what it holds was refused, where the reason is told elsewhere.
+    property bool wrong: view.coloured
     readonly property bool userIsIn: input.activeFocus
+    // Nothing in it and nobody: the caption stands where the text will.
+    readonly property bool resting: !userIsIn && !input.text && !input.preeditText
 
     visible: view.visible
     implicitHeight: Math.max(Theme.target,
@@ -17,8 +21,8 @@ Rectangle {
     radius: Theme.radius
     color: Theme.card
     border {
-        width: userIsIn ? Theme.caret : Theme.hairline
-        color: userIsIn ? Theme.accent : Theme.line
+        width: userIsIn && wrong ? Theme.ringWidth : userIsIn || wrong ? Theme.caret : Theme.hairline
+        color: wrong ? Theme.alert : userIsIn ? Theme.accent : Theme.line
     }
 
     // The toolkit ended the editing: the glass follows.
@@ -30,12 +34,18 @@ Rectangle {
         input.focus = false;
     }
 
+    // Later, and only if assistive technology has not written over it meanwhile.
+    function selectMessage() {
+        if (view.showsMessage)
+            input.selectAll();
+    }
+
     FocusWatch {
         id: watch
         target: box.input
         onEntered: {
             if (box.view.showsMessage)
-                Qt.callLater(box.input.selectAll);
+                Qt.callLater(box.selectMessage);
             box.view.beginEditing();
         }
         onLeft: box.view.endEditing()
@@ -49,21 +59,33 @@ Rectangle {
 
     Text {
         id: caption
-        anchors { left: parent.left; right: parent.right; top: parent.top }
-        anchors { leftMargin: Theme.gap; rightMargin: Theme.gap; topMargin: Theme.unit }
+        readonly property real drop: (Math.min(box.height, Theme.restHeight) - height) / 2
+        anchors { left: parent.left; right: parent.right }
+        anchors { leftMargin: Theme.gap; rightMargin: Theme.gap }
+        y: box.resting ? Math.max(Theme.unit, drop) : Theme.unit
         text: box.view.placeholder
         textFormat: Text.PlainText
-        elide: Text.ElideRight
+        wrapMode: Text.Wrap
         color: Theme.quiet
         font.pointSize: Theme.small
         Accessible.ignored: true
     }
 
+    // A message in the input is read out when it comes, wherever the user is.
+    Item {
+        readonly property string message: box.view.showsMessage ? box.view.text : ""
+        anchors.fill: place
+        visible: message !== ""
+        Accessible.role: Accessible.Notification
+        Accessible.name: message
+        Accessible.description: box.view.accessibleName
+    }
+
     Item {
         id: place
         anchors { left: parent.left; right: parent.right }
-        anchors { top: caption.bottom; bottom: parent.bottom }
+        anchors { top: parent.top; bottom: parent.bottom }
         anchors { leftMargin: Theme.gap; rightMargin: Theme.gap }
-        anchors { topMargin: Theme.half; bottomMargin: Theme.unit }
+        anchors { topMargin: Theme.unit + caption.height + Theme.half; bottomMargin: Theme.unit }
     }
 }

@@ -5,5 +5,14 @@ import Leafund
 Words {
     color: Theme.alert
     font { pointSize: Theme.body; weight: Font.DemiBold }
-    Accessible.role: Accessible.AlertMessage
+    Accessible.role: Accessible.Notification
+    leftPadding: Theme.icon + Theme.unit
+
+    IconItem {
+        y: (parent.height / Math.max(1, parent.lineCount) - height) / 2
+        width: Theme.icon
+        height: width
+        icon: IconItem.Alert
+        color: Theme.alert
+    }
 }

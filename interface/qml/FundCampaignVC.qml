@@ -1,4 +1,4 @@
 import QtQuick
 import Leafund
 
-CampaignList {}
+CampaignList { emptyIcon: IconItem.Heart }

@@ -22,6 +22,14 @@ Rectangle {
         onPressed: bar.scene.goBack()
         Accessible.name: bar.scene.backLabel
 
+        Rectangle {
+            anchors.centerIn: parent
+            width: Theme.wide
+            height: width
+            radius: width / 2
+            visible: back.held
+            color: Theme.accentPale
+        }
         IconItem {
             anchors.centerIn: parent
             width: Theme.icon
@@ -39,6 +47,8 @@ Rectangle {
         text: bar.scene.title
         textFormat: Text.PlainText
         elide: Text.ElideRight
+        fontSizeMode: Text.HorizontalFit
+        minimumPointSize: Theme.small
         color: Theme.ink
         font { pointSize: Theme.lead; weight: Font.Bold }
         Accessible.role: Accessible.Heading

@@ -27,6 +27,7 @@ Page {
             spacing: Theme.unit
             TextEntry {
                 view: page.views.desiredFunding
+                wrong: page.views.moneyErrorField.visible
                 width: parent.width
             }
             ErrorWords {

@@ -6,54 +6,20 @@ Page {
 
     ScrollPane {
         scene: page.scene
-        Picture {
-            view: page.views.campaignImage
-            description: page.views.campaignTitle.text
-            anchors.horizontalCenter: parent.horizontalCenter
-            width: Theme.portrait
-            height: Theme.portrait
-        }
-        Column {
-            width: parent.width
-            spacing: Theme.half
-            Words {
-                view: page.views.campaignTitle
-                heading: true
-                width: parent.width
-                horizontalAlignment: Text.AlignHCenter
-                font { pointSize: Theme.display; weight: Font.Bold }
-            }
-            Flow {
-                id: byLine
-                anchors.horizontalCenter: parent.horizontalCenter
-                width: Math.min(parent.width, by.implicitWidth + spacing + creator.implicitWidth)
-                spacing: Theme.half
-                Words {
-                    id: by
-                    view: page.views.byCreator
-                    color: Theme.quiet
-                }
-                Words {
-                    id: creator
-                    view: page.views.campaignCreator
-                    width: Math.min(implicitWidth, byLine.parent.width)
-                    color: Theme.quiet
-                    font.weight: Font.DemiBold
-                }
-            }
-        }
 
-        CampaignFunds {
+        CampaignHead {
             views: page.views
             width: parent.width
         }
 
+        // The reason stands right below the amount that was refused.
         Column {
             width: parent.width
             spacing: Theme.unit
             visible: page.views.dollarAmountField.visible || page.views.errorLabel.visible
             TextEntry {
                 view: page.views.dollarAmountField
+                wrong: page.views.errorLabel.visible
                 width: parent.width
             }
             ErrorWords {
@@ -73,11 +39,13 @@ Page {
 
         Column {
             width: parent.width
-            spacing: Theme.unit
+            topPadding: Theme.unit
+            spacing: Theme.gap
             Words {
                 view: page.views.about
                 heading: true
                 width: parent.width
+                horizontalAlignment: Text.AlignHCenter
                 font { pointSize: Theme.lead; weight: Font.Bold }
             }
             ReadingText {

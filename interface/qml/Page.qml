@@ -20,6 +20,25 @@ FocusScope {
         color: Theme.ground
     }
 
+    // A drag from the left edge leads back where it goes far enough; less of one is a tap or a
+    // scroll for what lies above.
+    Item {
+        width: Theme.space
+        height: parent.height
+
+        DragHandler {
+            target: null
+            yAxis.enabled: false
+            enabled: page.scene.canGoBack
+            grabPermissions: PointerHandler.CanTakeOverFromAnything
+            onGrabChanged: (change, point) => {
+                const way = point.scenePosition.x - point.scenePressPosition.x;
+                if (change === PointerDevice.UngrabExclusive && way > Theme.swipe)
+                    page.scene.goBack();
+            }
+        }
+    }
+
     // What no control takes for itself goes to the screen.
     MouseArea {
         anchors.fill: parent

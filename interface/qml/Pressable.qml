@@ -26,7 +26,12 @@ Item {
 
     Accessible.role: Accessible.Button
     Accessible.focusable: true
-    Accessible.onPressAction: pressed()
+    Accessible.onPressAction: {
+        if (!visible || !enabled)
+            return;
+        forceActiveFocus(Qt.OtherFocusReason);
+        pressed();
+    }
 
     MouseArea {
         id: area

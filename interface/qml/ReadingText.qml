@@ -8,15 +8,35 @@ Rectangle {
     required property ViewObject view
 
     visible: view.visible
-    implicitHeight: words.implicitHeight + 2 * Theme.gap
-    color: Theme.card
+    readonly property real head: border.width > 0 ? Theme.wide / 2 + Theme.half : 0
+    implicitHeight: words.implicitHeight + head + Theme.gap
+    color: border.width > 0 ? Theme.card : Theme.none
     border { width: view.borderWidth; color: view.borderColor }
     radius: view.cornerRadius
 
     Words {
         id: words
         view: area.view
-        anchors { fill: parent; margins: Theme.gap }
-        lineHeight: 1.35
+        anchors { fill: parent; margins: Theme.gap; topMargin: area.head }
+        lineHeight: Theme.readingLines
+    }
+
+    // The seal of a letter, on the line of its frame.
+    Rectangle {
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: -height / 2
+        visible: area.border.width > 0
+        width: Theme.wide
+        height: width
+        radius: width / 2
+        color: Theme.card
+        border { width: area.border.width; color: area.border.color }
+        IconItem {
+            anchors.centerIn: parent
+            width: Theme.icon
+            height: width
+            icon: IconItem.Leaf
+            color: Theme.accent
+        }
     }
 }

@@ -16,6 +16,10 @@ Item {
     // sets activeFocusOnTab besides, so that the keyboard finds its way back to it.
     focus: true
 
+    // A reader that is put here says which screen has come.
+    Accessible.role: Accessible.Pane
+    Accessible.name: scene.title
+
     function reveal() {
         const item = Window.activeFocusItem;
         for (let each = item; each !== column; each = each.parent)
@@ -68,7 +72,7 @@ Item {
 
         Column {
             id: column
-            width: Math.min(Theme.column, pane.width - 2 * Theme.space)
+            width: Math.min(Theme.column, pane.width - 2 * Theme.gap)
             x: (pane.width - width) / 2
             y: pane.centred ? Math.max(Theme.space, (pane.height - height) / 2) : Theme.space
             spacing: Theme.gap

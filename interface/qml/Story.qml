@@ -11,15 +11,13 @@ Rectangle {
     required property url source
 
     implicitHeight: column.implicitHeight
+    radius: Theme.radius
     color: Theme.card
-    border { width: Theme.hairline; color: Theme.line }
 
     Column {
         id: column
-        x: Theme.hairline
-        width: parent.width - 2 * x
+        width: parent.width
         spacing: Theme.unit
-        topPadding: x
         bottomPadding: Theme.gap
 
         Image {
@@ -44,5 +42,21 @@ Rectangle {
             x: Theme.gap
             width: parent.width - 2 * x
         }
+    }
+
+    // The picture's upper corners, round by what is laid over them.
+    IconItem {
+        width: Theme.radius
+        height: width
+        icon: IconItem.Corner
+        color: Theme.ground
+    }
+    IconItem {
+        anchors.right: parent.right
+        width: Theme.radius
+        height: width
+        rotation: 90
+        icon: IconItem.Corner
+        color: Theme.ground
     }
 }

@@ -39,36 +39,52 @@ Page {
             color: Theme.line
         }
 
+        FontMetrics {
+            id: line
+            font.pointSize: Theme.lead
+        }
+
         Row {
             id: tabs
             readonly property real tabWidth: Math.min(Theme.column, bar.width) / 4
+            // All titles in one size: the largest that fits every tab, and the bar.
+            readonly property real share: Math.min(1, Theme.tabLine / line.height, browse.fit,
+                                                   funded.fit, mine.fit, news.fit)
 
             anchors.horizontalCenter: parent.horizontalCenter
             height: parent.height
 
             TabButton {
+                id: browse
                 view: page.views.browseTab
+                share: tabs.share
                 icon: IconItem.Search
                 tint: bar.view.tintColor
                 width: tabs.tabWidth
                 height: parent.height
             }
             TabButton {
+                id: funded
                 view: page.views.fundedTab
+                share: tabs.share
                 icon: IconItem.Heart
                 tint: bar.view.tintColor
                 width: tabs.tabWidth
                 height: parent.height
             }
             TabButton {
+                id: mine
                 view: page.views.mineTab
+                share: tabs.share
                 icon: IconItem.Sprout
                 tint: bar.view.tintColor
                 width: tabs.tabWidth
                 height: parent.height
             }
             TabButton {
+                id: news
                 view: page.views.newsTab
+                share: tabs.share
                 icon: IconItem.Paper
                 tint: bar.view.tintColor
                 width: tabs.tabWidth

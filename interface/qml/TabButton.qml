@@ -8,11 +8,14 @@ Pressable {
     required property ViewObject view
     required property int icon
     required property color tint
+    // Of the size that a tab's title has at most, and how much of it fits into this tab.
+    required property real share
+    readonly property real fit: width > 0 ? (width - Theme.unit) / metrics.advanceWidth : 1
     readonly property color iconColor: view.selected ? tint : Theme.quiet
 
     objectName: view.name
     visible: view.visible
-    ringOutset: -Theme.half
+    ringOutset: 0  // it stands outside the title
 
     onPressed: view.tap()
 
@@ -21,9 +24,22 @@ Pressable {
     Accessible.selectable: true
     Accessible.selected: view.selected
 
+    TextMetrics {
+        id: metrics
+        text: tab.view.text
+        font { pointSize: Theme.lead; weight: Font.Bold }
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        anchors.topMargin: Theme.hairline
+        visible: tab.held
+        color: Theme.accentPale
+    }
+
     Column {
         anchors.centerIn: parent
-        width: parent.width - Theme.unit
+        width: parent.width
 
         IconItem {
             anchors.horizontalCenter: parent.horizontalCenter
@@ -33,14 +49,13 @@ Pressable {
             color: tab.iconColor
         }
         Text {
+            id: label
             width: parent.width
             horizontalAlignment: Text.AlignHCenter
             text: tab.view.text
             textFormat: Text.PlainText
-            fontSizeMode: Text.HorizontalFit
-            minimumPointSize: Theme.small
             color: tab.view.selected ? tab.view.selectedTitleColor : Theme.quiet
-            font { pointSize: Theme.lead; weight: tab.view.selected ? Font.Bold : Font.Medium }
+            font { pointSize: Theme.lead * tab.share; weight: tab.view.selected ? Font.Bold : Font.Medium }
             Accessible.ignored: true
         }
     }

@@ -16,6 +16,9 @@ EntryBox {
         width: parent.width
         activeFocusOnTab: true
         clip: true
+        // Left, it shows its beginning.
+        autoScroll: activeFocus
+        onActiveFocusChanged: if (!activeFocus) ensureVisible(0)
         text: entry.view.text
         color: entry.view.textColor
         font { pointSize: Theme.lead; weight: entry.view.coloured ? Font.Bold : Font.Normal }

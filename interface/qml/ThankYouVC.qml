@@ -4,6 +4,10 @@ import Leafund
 Page {
     id: page
 
+    Meadow {
+        anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
+    }
+
     ScrollPane {
         scene: page.scene
         centred: true
@@ -11,15 +15,13 @@ Page {
 
         Celebration {
             anchors.horizontalCenter: parent.horizontalCenter
-            width: Math.min(parent.width, Theme.celebration * 1.5)
-            height: Theme.celebration
+            width: Math.min(parent.width, height * 1.5)
+            height: Math.min(Theme.celebration, page.height / 3)
         }
-        Words {
+        Title {
             view: page.views.thankYouLabel
-            heading: true
             width: parent.width
             horizontalAlignment: Text.AlignHCenter
-            font { pointSize: Theme.display; weight: Font.Bold }
         }
         Button {
             view: page.views.homeButton

@@ -11,6 +11,12 @@ QtObject {
     readonly property color ink: "#1f2a19"
     readonly property color quiet: "#55624d"
     readonly property color line: "#c5d0bc"
+    // The edge of a card on the ground, and what lies over a row while it is held.
+    readonly property color seam: "#dde6d5"
+    readonly property color veil: "#1f53862f"
+    readonly property color hillFar: "#e6efdd"
+    readonly property color hillNear: "#d9e7cc"
+    readonly property color stem: "#a9c592"
     readonly property color accent: "#53862f"
     readonly property color accentDeep: "#36601b"
     readonly property color accentPale: "#e2eed8"
@@ -25,21 +31,30 @@ QtObject {
     readonly property real body: 12
     readonly property real lead: 15
     readonly property real display: 24
+    // Where a title is long it is set in `lead` instead of `display`.
+    readonly property int longTitle: 48
+    readonly property real lines: 1.2
+    readonly property real readingLines: 1.35
 
     readonly property real half: 4
     readonly property real unit: 8
     readonly property real gap: 16
     readonly property real space: 24
     readonly property real wide: 40
-    readonly property real radius: 10
+    readonly property real radius: 12
     readonly property real hairline: 1
     readonly property real ringWidth: 3
     readonly property real caret: 2
 
     readonly property real target: 52
     readonly property real leastTarget: 48
+    // How high an empty input is where its caption stands in the middle.
+    readonly property real restHeight: 64
     readonly property real icon: 24
+    // Titles of tabs grow with the system's text up to this height of a line, 120 % of `lead`.
+    readonly property real tabLine: 29
     readonly property real mark: 88
+    readonly property real meadow: 160
     readonly property real portrait: 130
     readonly property real storyShape: 0.6
     // As the pictures are drawn: nothing of an infographic is cut off.
@@ -49,8 +64,13 @@ QtObject {
     readonly property real areaLines: 3
     // A card does not lie in the middle of its row.
     readonly property real cardOffset: 2.5
+    readonly property real cardTop: 10
+    // What a card leaves to its title and pitch, and how much of the pitch is enough.
+    readonly property real cardRoom: 129
+    readonly property int pitchLines: 4
     readonly property real peek: 48
     readonly property real step: 80
+    readonly property real swipe: 80
     readonly property real scrollMark: 4
     readonly property real celebration: 200
 

@@ -8,30 +8,36 @@ Page {
         scene: page.scene
         activeFocusOnTab: true
 
-        Column {
+        // A post: what it is about and of when, its picture from edge to edge, its text.
+        Card {
             width: parent.width
-            spacing: Theme.half
-            Words {
-                view: page.views.test
-                heading: true
-                width: parent.width
-                font { pointSize: Theme.display; weight: Font.Bold }
+            inset: Theme.hairline
+
+            Column {
+                x: Theme.gap
+                width: parent.width - 2 * x
+                topPadding: Theme.gap
+                Title {
+                    view: page.views.test
+                    width: parent.width
+                }
+                Words {
+                    view: page.views.updateOneDate
+                    width: parent.width
+                    height: text ? implicitHeight : 0
+                    color: Theme.quiet
+                }
             }
-            Words {
-                view: page.views.updateOneDate
+            Picture {
+                view: page.views.updateOneImage
+                description: page.views.test.text
                 width: parent.width
-                color: Theme.quiet
+                height: width * Theme.pictureShape
             }
-        }
-        Picture {
-            view: page.views.updateOneImage
-            description: page.views.test.text
-            width: parent.width
-            height: width * Theme.pictureShape
-        }
-        ReadingText {
-            view: page.views.updateOneText
-            width: parent.width
+            ReadingText {
+                view: page.views.updateOneText
+                width: parent.width
+            }
         }
     }
 }

@@ -15,7 +15,7 @@ Text {
     wrapMode: Text.Wrap
     color: Theme.ink
     font.pointSize: Theme.body
-    lineHeight: 1.2
+    lineHeight: Theme.lines
 
     Accessible.role: heading ? Accessible.Heading : Accessible.StaticText
     Accessible.name: text

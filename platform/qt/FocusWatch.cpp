@@ -5,6 +5,8 @@
 #include <QKeyEvent>
 #include <utility>
 
+#include "platform/qt/QtWindow.h"
+
 namespace leafund {
 
 namespace {
@@ -56,6 +58,8 @@ void FocusWatch::focusIn(Qt::FocusReason reason) {
   if (reason != Qt::ActiveWindowFocusReason) {
     byKeyboard_ = reason != Qt::MouseFocusReason;
     enter();
+  } else if (const auto* window = qobject_cast<QtWindow*>(target_->window())) {
+    byKeyboard_ = byKeyboard_ || window->usedByKeys();
   }
   setRing(byKeyboard_);
 }

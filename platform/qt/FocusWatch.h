@@ -14,7 +14,8 @@ class FocusWatch : public QObject {
   Q_OBJECT
   QML_ELEMENT
   Q_PROPERTY(QQuickItem* target READ target WRITE setTarget NOTIFY targetChanged)
-  // The item has the focus by the keyboard or by assistive technology, which must be seen.
+  // The item has the focus by the keyboard or by assistive technology, which must be seen; also
+  // when the host gave it, if the keyboard is what the user uses.
   Q_PROPERTY(bool ring READ ring NOTIFY ringChanged)
 
  public:

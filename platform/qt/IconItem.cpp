@@ -89,6 +89,40 @@ Sign polyline(std::initializer_list<QPointF> points) {
   return sign;
 }
 
+Sign flag() {
+  Sign sign = polyline({{6, 22}, {6, 3}, {20, 3}, {16, 8.5}, {20, 14}, {6, 14}});
+  sign.filled.addPolygon(QPolygonF({{6, 3}, {20, 3}, {16, 8.5}, {20, 14}, {6, 14}}));
+  return sign;
+}
+
+Sign alert() {
+  Sign sign;
+  sign.stroked.addEllipse(QPointF(12, 12), 9, 9);
+  sign.stroked.moveTo(12, 7.5);
+  sign.stroked.lineTo(12, 12.5);
+  sign.filled.addEllipse(QPointF(12, 16.4), 1.3, 1.3);
+  return sign;
+}
+
+// A line of hills from edge to edge, filled down to the foot.
+Sign hills(QPointF left, QPointF firstPull, QPointF saddle, QPointF secondPull, QPointF right) {
+  Sign sign;
+  sign.filled.moveTo(left);
+  sign.filled.quadTo(firstPull, saddle);
+  sign.filled.quadTo(secondPull, right);
+  sign.filled.lineTo(kGrid, kGrid);
+  sign.filled.lineTo(0, kGrid);
+  return sign;
+}
+
+// What a rounded upper left corner leaves of its square.
+Sign corner() {
+  Sign sign;
+  sign.filled.lineTo(kGrid, 0);
+  sign.filled.arcTo(QRectF(0, 0, 2 * kGrid, 2 * kGrid), 90, 90);
+  return sign;
+}
+
 Sign signOf(IconItem::Icon icon) {
   switch (icon) {
     case IconItem::Leaf:
@@ -103,8 +137,16 @@ Sign signOf(IconItem::Icon icon) {
       return paper();
     case IconItem::Back:
       return polyline({{15, 5}, {8, 12}, {15, 19}});
-    case IconItem::Check:
-      return polyline({{5, 13}, {10, 18}, {19, 7}});
+    case IconItem::Flag:
+      return flag();
+    case IconItem::Alert:
+      return alert();
+    case IconItem::HillFar:
+      return hills({0, 15}, {6, 11}, {12, 13}, {19, 15}, {24, 6});
+    case IconItem::HillNear:
+      return hills({0, 8}, {7, 4}, {13, 10}, {19, 16}, {24, 10});
+    case IconItem::Corner:
+      return corner();
   }
   return {};
 }

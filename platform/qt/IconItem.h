@@ -8,7 +8,7 @@
 
 namespace leafund {
 
-// A small drawn sign in one colour, on a grid of 24 by 24.
+// A drawn sign in one colour, on a grid of 24 by 24 that is stretched to the item's size.
 class IconItem : public ImageItem {
   Q_OBJECT
   QML_ELEMENT
@@ -16,7 +16,7 @@ class IconItem : public ImageItem {
   Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged REQUIRED)
 
  public:
-  enum Icon { Leaf, Search, Heart, Sprout, Paper, Back, Check };
+  enum Icon { Leaf, Search, Heart, Sprout, Paper, Back, Flag, Alert, HillFar, HillNear, Corner };
   Q_ENUM(Icon)
   using ImageItem::ImageItem;
 

@@ -7,6 +7,7 @@
 
 #include "platform/foundation/FatalError.h"
 #include "platform/foundation/NSURLRequest.h"
+#include "platform/qt/ItemAccess.h"
 #include "platform/qt/QtTransfer.h"
 #include "platform/qt/QtWindow.h"
 #include "platform/qt/SceneStage.h"
@@ -80,9 +81,10 @@ void QtHost::start(UIApplication& application) {
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
   }
   gui_ = std::make_unique<QGuiApplication>(argc_, argv_);
-  QGuiApplication::setDesktopFileName(QStringLiteral("leafund"));
+  QGuiApplication::setDesktopFileName(QStringLiteral("app.leafund.Leafund"));
   QGuiApplication::setFont(typeface());
   linkInterface();
+  describeItemsToAssistiveTechnology();
   openWindow();
   QObject::connect(gui_.get(), &QGuiApplication::applicationStateChanged, &mainThread_,
                    [report = ActivityReport()](Qt::ApplicationState state) mutable {

@@ -1,7 +1,10 @@
 #include "platform/qt/QtWindow.h"
 
+#include <QGuiApplication>
+#include <QInputMethod>
 #include <QKeyEvent>
 #include <QResizeEvent>
+#include <algorithm>
 
 #include "platform/uikit/UIApplication.h"
 
@@ -18,13 +21,36 @@ QtWindow::QtWindow() {
   setTitle(QStringLiteral("Leafund"));
   setMinimumSize(kLeastSize);
   resize(kStartSize);
+  const auto* keyboard = QGuiApplication::inputMethod();
+  connect(keyboard, &QInputMethod::keyboardRectangleChanged, this,
+          [this, keyboard] { setKeyboardArea(keyboard->keyboardRectangle()); });
+}
+
+void QtWindow::setKeyboardArea(const QRectF& area) {
+  keyboardArea_ = area;
+  fit();
+}
+
+// A keyboard that floats covers what the user moves it over, and is none of ours.
+void QtWindow::fit() {
+  const bool docked = !keyboardArea_.isEmpty() && keyboardArea_.bottom() >= height();
+  const double content = docked ? keyboardArea_.top() : height();
+  if (auto* application = UIApplication::current()) {
+    application->resize({static_cast<double>(width()), std::max(0.0, content)});
+  }
+}
+
+bool QtWindow::event(QEvent* event) {
+  if (event->type() == QEvent::KeyPress) usedByKeys_ = true;
+  if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::TouchBegin) {
+    usedByKeys_ = false;
+  }
+  return QQuickWindow::event(event);
 }
 
 void QtWindow::resizeEvent(QResizeEvent* event) {
   QQuickWindow::resizeEvent(event);
-  if (auto* application = UIApplication::current()) {
-    application->resize({static_cast<double>(width()), static_cast<double>(height())});
-  }
+  fit();
 }
 
 void QtWindow::keyPressEvent(QKeyEvent* event) {

@@ -18,7 +18,8 @@ bool isRootOfChild(const UIView& view, const UIViewController& controller) {
 }  // namespace
 
 SceneObject::SceneObject(UIViewController& controller)
-    : root_(new ViewObject(controller.view(), this)) {
+    : root_(new ViewObject(controller.view(), this)),
+      title_(qtText(controller.navigationItem().title())) {
   addViews(*controller.view(), controller);
 }
 

@@ -55,7 +55,12 @@ void ScenePage::showTab(UIViewController& selected) {
     if (place == nullptr) fatalError(selected.className(), "there is no place for the tabs");
     tabs_.push_back(std::make_unique<ScenePage>(loader_, selected, place));
   }
-  for (const auto& tab : tabs_) tab->item()->setVisible(tab->shows(selected));
+  for (const auto& tab : tabs_) {
+    const bool shown = tab->shows(selected);
+    tab->item()->setVisible(shown);
+    // The keyboard begins in what the screen is about, and stays where the user takes it.
+    if (shown && item_->scopedFocusItem() == nullptr) tab->item()->setFocus(true);
+  }
 }
 
 }  // namespace leafund

@@ -61,6 +61,24 @@ void TableRows::nameAndStack() {
   if (!focused.isEmpty()) keepFocus(focused);
 }
 
+void TableRows::focusSeen(double top, double bottom) {
+  QQuickItem* first = nullptr;
+  QQuickItem* last = nullptr;
+  bool below = false;
+  for (auto* item : items_) {
+    if (item->objectName().isEmpty()) continue;
+    const bool seen = item->y() >= top && item->y() + item->height() <= bottom;
+    if (item->hasActiveFocus()) {
+      if (seen) return;
+      below = item->y() > top;
+    }
+    if (!seen) continue;
+    if (first == nullptr || item->y() < first->y()) first = item;
+    if (last == nullptr || item->y() > last->y()) last = item;
+  }
+  if (auto* row = below ? last : first) row->forceActiveFocus(Qt::ActiveWindowFocusReason);
+}
+
 void TableRows::keepFocus(const QString& rowName) {
   const auto row = std::find_if(items_.begin(), items_.end(),
                                 [&](auto* item) { return item->objectName() == rowName; });

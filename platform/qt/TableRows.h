@@ -28,6 +28,11 @@ class TableRows : public QQuickItem {
   ViewObject* table() const { return table_; }
   void setTable(ViewObject* table);
 
+  // Puts the focus on a row that lies wholly between two heights of the table: where it has left
+  // that stretch at the bottom on the last such row, otherwise on the first. It stays on a row that
+  // lies there.
+  Q_INVOKABLE void focusSeen(double top, double bottom);
+
  signals:
   void tableChanged();
   void delegateChanged();

@@ -13,19 +13,32 @@ class AccessibilityTest : public testing::Test {
  protected:
   static void SetUpTestSuite() { QAccessible::setActive(true); }
 
-  static void collect(QAccessibleInterface* root, std::vector<QAccessibleInterface*>& shown) {
+  static void collect(QAccessibleInterface* root, std::vector<QAccessibleInterface*>& all) {
     for (int i = 0; i < root->childCount(); ++i) {
       auto* child = root->child(i);
-      if (child == nullptr || child->state().invisible) continue;
-      shown.push_back(child);
-      collect(child, shown);
+      if (child == nullptr) continue;
+      all.push_back(child);
+      collect(child, all);
     }
   }
-  std::vector<QAccessibleInterface*> shown() {
+  // Also what is hidden, which a curious program can see.
+  std::vector<QAccessibleInterface*> everything() {
     app.settle();
     std::vector<QAccessibleInterface*> all;
     collect(QAccessible::queryAccessibleInterface(&app.window()), all);
     return all;
+  }
+  std::vector<QAccessibleInterface*> shown() {
+    auto all = everything();
+    std::erase_if(all, [](auto* each) { return each->state().invisible; });
+    return all;
+  }
+  QStringList notifications() {
+    QStringList messages;
+    for (auto* each : shown()) {
+      if (each->role() == QAccessible::Notification) messages << each->text(QAccessible::Name);
+    }
+    return messages;
   }
   QAccessibleInterface* named(const QString& name, QAccessible::Role role) {
     for (auto* each : shown()) {
@@ -103,11 +116,119 @@ TEST_F(AccessibilityTest, EveryControlOfEveryScreenHasARoleAndAName) {
   check("thanks");
 }
 
-TEST_F(AccessibilityTest, APasswordIsToldFromOtherTextsSoThatReadersDoNotSpeakIt) {
+TEST_F(AccessibilityTest, APasswordKeepsItsNameAndIsNowhereReadInClear) {
   enter("Password", "secret");
   auto* password = named("Password", QAccessible::EditableText);
   ASSERT_NE(password, nullptr);
   EXPECT_TRUE(password->state().passwordEdit);
+  const QString dots(6, QChar(0x2022));
+  EXPECT_EQ(password->text(QAccessible::Value), dots);
+  EXPECT_EQ(password->textInterface()->text(0, 6), dots);
+  EXPECT_EQ(password->textInterface()->characterCount(), 6);
+  int start = 0, end = 0;
+  EXPECT_EQ(password->textInterface()
+                ->textAtOffset(2, QAccessible::WordBoundary, &start, &end)
+                .contains("secret"),
+            false);
+  for (auto* each : everything()) {
+    for (const auto kind : {QAccessible::Name, QAccessible::Description, QAccessible::Value}) {
+      EXPECT_FALSE(each->text(kind).contains("secret")) << each->role();
+    }
+  }
+}
+
+TEST_F(AccessibilityTest, WhatAssistiveTechnologyWritesReachesTheApplication) {
+  auto* email = named("E-mail", QAccessible::EditableText);
+  email->editableTextInterface()->replaceText(0, 0, "wrn@example.org");
+  email->editableTextInterface()->insertText(2, "e");
+  email->editableTextInterface()->deleteText(4, 12);
+  EXPECT_EQ(email->textInterface()->text(0, email->textInterface()->characterCount()), "wren.org");
+  named("Password", QAccessible::EditableText)->setText(QAccessible::Value, "secret");
+  press("Sign in");
+  EXPECT_EQ(app.shown()->className(), "OtherCampaignsTableViewController");
+}
+
+TEST_F(AccessibilityTest, WritingOverAMessageReplacesAllOfIt) {
+  press("Create an account");
+  press("Sign up");
+  auto* name = named("Your name", QAccessible::EditableText);
+  EXPECT_EQ(name->text(QAccessible::Value), "Error: Please Enter a Name");
+  name->setText(QAccessible::Value, "Wren");
+  app.settle();
+  EXPECT_EQ(name->text(QAccessible::Value), "Wren");
+  EXPECT_EQ(name->textInterface()->selectionCount(), 0);
+}
+
+TEST_F(AccessibilityTest, AHiddenScreenTakesNoTextAndNoFocus) {
+  auto* email = named("E-mail", QAccessible::EditableText);
+  press("Create an account");
+  app.settle();
+  email->setText(QAccessible::Value, "wren");
+  email->actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
+  EXPECT_EQ(email->text(QAccessible::Value), "");
+  EXPECT_FALSE(email->state().focused);
+  EXPECT_TRUE(email->rect().isEmpty());
+}
+
+TEST_F(AccessibilityTest, AnInputTellsWhereItsCharactersAreAndWhatIsSelected) {
+  enter("E-mail", "wren");
+  auto* text = named("E-mail", QAccessible::EditableText)->textInterface();
+  EXPECT_EQ(text->cursorPosition(), 4);
+  text->setCursorPosition(1);
+  EXPECT_EQ(text->cursorPosition(), 1);
+  text->addSelection(1, 3);
+  int start = 0, end = 0;
+  text->selection(0, &start, &end);
+  EXPECT_EQ(std::pair(start, end), std::pair(1, 3));
+  text->removeSelection(0);
+  EXPECT_EQ(text->selectionCount(), 0);
+  const QRect letter = text->characterRect(2);
+  EXPECT_TRUE(named("E-mail", QAccessible::EditableText)->rect().contains(letter.center()));
+  EXPECT_EQ(text->offsetAtPoint(letter.center()), 2);
+  EXPECT_EQ(text->offsetAtPoint({-5, -5}), -1);
+}
+
+TEST_F(AccessibilityTest, ProgressHasAValueBetweenTwoOthers) {
+  enter("E-mail", "wren");
+  enter("Password", "secret");
+  press("Sign in");
+  press("Vegetarian for PETA", QAccessible::ListItem);
+  auto* bar = named("Share of the goal raised", QAccessible::ProgressBar);
+  ASSERT_NE(bar, nullptr);
+  ASSERT_NE(bar->valueInterface(), nullptr);
+  EXPECT_EQ(bar->valueInterface()->currentValue().toInt(), 60);
+  EXPECT_EQ(bar->valueInterface()->minimumValue().toInt(), 0);
+  EXPECT_EQ(bar->valueInterface()->maximumValue().toInt(), 100);
+  bar->valueInterface()->setCurrentValue(100);
+  EXPECT_EQ(bar->valueInterface()->currentValue().toInt(), 60);
+  EXPECT_NE(bar->parent(), nullptr);
+}
+
+TEST_F(AccessibilityTest, AMessageIsANotificationAsLongAsItIsThere) {
+  EXPECT_EQ(notifications(), QStringList());
+  press("Sign in");
+  EXPECT_EQ(notifications(),
+            QStringList({"Error: Please Enter a Name", "Error: Please Enter a Password"}));
+  enter("E-mail", "wren");
+  EXPECT_EQ(notifications(), QStringList("Error: Please Enter a Password"));
+  enter("Password", "secret");
+  EXPECT_EQ(notifications(), QStringList());
+  press("Sign in");
+  press("Vegetarian for PETA", QAccessible::ListItem);
+  enter("Amount in dollars", "81");
+  press("Fund this campaign");
+  EXPECT_EQ(notifications(), QStringList("Error: Donation Exceeds Maximum"));
+}
+
+TEST_F(AccessibilityTest, AListIsTurnedByThePage) {
+  enter("E-mail", "wren");
+  enter("Password", "secret");
+  press("Sign in");
+  auto* list = named("Browse", QAccessible::List);
+  list->actionInterface()->doAction(QAccessibleActionInterface::nextPageAction());
+  EXPECT_NE(named("Organic Only!", QAccessible::ListItem), nullptr);
+  list->actionInterface()->doAction(QAccessibleActionInterface::previousPageAction());
+  EXPECT_NE(named("Vegetarian for PETA", QAccessible::ListItem), nullptr);
 }
 
 }  // namespace

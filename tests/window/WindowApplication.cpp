@@ -66,12 +66,13 @@ WindowApplication::~WindowApplication() {
 void WindowApplication::servePictures() {
   const std::string built = pictureAddress("");
   const auto moved = [&](const std::string& address) {
-    return address.starts_with(built) ? server_->address("/" + address.substr(built.size()))
+    return address.starts_with(built) ? server_->address("/").append(address, built.size())
                                       : address;
   };
   for (const auto& file : std::filesystem::directory_iterator(LEAFUND_PICTURES_DIR)) {
     if (file.path().extension() != ".jpg") continue;
-    server_->serve("/" + file.path().filename().string(), answers::ok(contents(file.path())));
+    const std::string path = std::string("/").append(file.path().filename().string());
+    server_->serve(path, answers::ok(contents(file.path())));
   }
   for (const auto* list : {&otherCampaigns(), &campaignsIFunded()}) {
     for (const auto& campaign : *list) {

@@ -2,12 +2,18 @@
 
 import re
 
-THEME = "interface/qml/Theme.qml"
+ROOM = "interface/qml/"
+THEME = ROOM + "Theme.qml"
+
+
+def skins(project):
+    """The interface's files; what a benchmark draws for comparison follows no theme."""
+    return [path for path in project.files(".qml") if path.startswith(ROOM)]
 
 
 def lines(project, theme=False):
     """Every line of QML without its comments."""
-    for path in project.files(".qml"):
+    for path in skins(project):
         if path == THEME and not theme:
             continue
         for number, line in enumerate(project.text(path).splitlines(), 1):
@@ -44,20 +50,48 @@ def blocks(text, kind):
 def plain_text(project):
     return [
         f"{path}:{number}"
-        for path in project.files(".qml")
+        for path in skins(project)
         for kind in ("Text", "TextEdit")
         for number, body in blocks(project.text(path), kind)
         if f"textFormat: {kind}.PlainText" not in body
     ]
 
 
+def colours(project):
+    literal = r'"#[0-9A-Fa-f]{3,8}"|Qt\.(rgba|hsla|hsva|color|lighter|darker|tint|alpha)\s*\('
+    named = r'\b\w*[cC]olor\s*:.*"[a-z]+"'
+    return matching(project, f"{literal}|{named}")
+
+
+# A number by itself is a token, with a name in the theme. These are none: nothing, one, two and
+# their like below one, which are shares; a factor or divisor, which tells a relation to something
+# that has a name; a quarter turn; and bounds that are not of the screen.
+NUMBER = re.compile(r"(?<![\w.#])(0x[0-9a-fA-F]+|\d+(?:\.\d+)?)(?![\w.])")
+SHARE = re.compile(r"0(\.\d+)?|[12](\.0)?")
+NO_TOKEN = re.compile(r"\b(rotation|maximumLength|maximumValue)\s*:")
+# Where the parts of a drawing stand, in units of the drawing.
+PLACE = re.compile(r"\{ x: -?[\d.]+, y: -?[\d.]+, size: [^}]*\}")
+
+
+def is_token(line, found):
+    before, after = line[: found.start()].rstrip(), line[found.end() :].lstrip()
+    related = before.endswith(("*", "/")) or after.startswith(("*", "/"))
+    return not related and not SHARE.fullmatch(found.group())
+
+
+def numbers(project):
+    found = []
+    for path, number, line in lines(project):
+        bare = PLACE.sub("", re.sub(r'"[^"]*"', '""', line))
+        if bare.startswith("import") or NO_TOKEN.search(bare):
+            continue
+        if any(is_token(bare, each) for each in NUMBER.finditer(bare)):
+            found.append(f"{path}:{number}  {line.strip()}")
+    return found
+
+
 def tokens(project):
-    colour = r'"#[0-9A-Fa-f]{3,8}"|Qt\.(rgba|hsla|hsva|lighter|darker|tint)\s*\('
-    named = r'\b\w*[cC]olor\s*:.*"(?!transparent")[a-z]+"'
-    # Half of something's own width is geometry, a number by itself is a token.
-    number = r"[^;}]*(?<![\w.])(?<!/ )[1-9]\d*"
-    size = r"\b(pixelSize|pointSize|duration|spacing|radius|weight)\s*:" + number
-    return matching(project, f"{colour}|{named}|{size}")
+    return sorted(set(colours(project) + numbers(project)))
 
 
 def heavy(project):

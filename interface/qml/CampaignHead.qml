@@ -1,0 +1,74 @@
+import QtQuick
+import Leafund
+
+// A campaign as one picture: who it is by, what it is about and how far it has come.
+Item {
+    id: head
+
+    required property var views
+    readonly property bool reached: funds.reached
+
+    implicitHeight: column.height
+
+    Rectangle {
+        y: Theme.portrait / 2
+        width: parent.width
+        height: parent.height - y
+        radius: Theme.radius
+        color: head.reached ? Theme.accentPale : Theme.card
+        border { width: Theme.hairline; color: head.reached ? Theme.accentPale : Theme.seam }
+    }
+
+    Column {
+        id: column
+        x: Theme.gap
+        width: parent.width - 2 * x
+        spacing: Theme.gap
+        bottomPadding: Theme.space
+
+        Picture {
+            view: head.views.campaignImage
+            description: head.views.campaignTitle.text
+            anchors.horizontalCenter: parent.horizontalCenter
+            width: Theme.portrait
+            height: Theme.portrait
+        }
+        Column {
+            width: parent.width
+            spacing: Theme.half
+            Title {
+                view: head.views.campaignTitle
+                width: parent.width
+                horizontalAlignment: Text.AlignHCenter
+            }
+            // One line in the middle, or two where the name is long.
+            Item {
+                readonly property bool stacked: by.width + Theme.half + creator.implicitWidth > width
+                readonly property real start: (width - by.width - Theme.half - creator.width) / 2
+                width: parent.width
+                height: creator.y + creator.height
+                Words {
+                    id: by
+                    view: head.views.byCreator
+                    x: parent.stacked ? (parent.width - width) / 2 : parent.start
+                    color: Theme.quiet
+                }
+                Words {
+                    id: creator
+                    view: head.views.campaignCreator
+                    x: parent.stacked ? 0 : parent.start + by.width + Theme.half
+                    y: parent.stacked ? by.height : 0
+                    width: parent.stacked ? parent.width : implicitWidth
+                    horizontalAlignment: Text.AlignHCenter
+                    color: Theme.quiet
+                    font.weight: Font.DemiBold
+                }
+            }
+        }
+        CampaignFunds {
+            id: funds
+            views: head.views
+            width: parent.width
+        }
+    }
+}

@@ -1,0 +1,25 @@
+import QtQuick
+import Leafund
+
+// What a screen is about, in the largest type in which its longest word fits into one line, and a
+// long title in less.
+Words {
+    id: title
+
+    readonly property string longestWord: view.text.split(/[\s-]+/).reduce(
+        (longest, word) => word.length > longest.length ? word : longest, "")
+    readonly property real share: Math.min(1, (width - Theme.half) / Math.max(1, word.advanceWidth))
+
+    heading: true
+    font {
+        pointSize: view.text.length > Theme.longTitle
+                   ? Theme.lead : Math.max(Theme.lead, Math.floor(Theme.display * share))
+        weight: Font.Bold
+    }
+
+    TextMetrics {
+        id: word
+        text: title.longestWord
+        font { pointSize: Theme.display; weight: Font.Bold }
+    }
+}

@@ -1,0 +1,81 @@
+#include "platform/qt/ItemAccess.h"
+
+#include <QQmlContext>
+#include <QQmlProperty>
+#include <QQuickWindow>
+
+#include "platform/qt/InputAccess.h"
+#include "platform/qt/ProgressAccess.h"
+
+namespace leafund {
+
+namespace {
+
+QAccessibleInterface* accessFor(const QString&, QObject* object) {
+  auto* item = qobject_cast<QQuickItem*>(object);
+  if (item == nullptr) return nullptr;
+  if (item->inherits("QQuickTextInput") || item->inherits("QQuickTextEdit")) {
+    return new InputAccess(item);
+  }
+  if (item->metaObject()->indexOfProperty("maximumValue") >= 0) return new ProgressAccess(item);
+  return nullptr;
+}
+
+}  // namespace
+
+void describeItemsToAssistiveTechnology() { QAccessible::installFactory(accessFor); }
+
+QAccessibleInterface* ItemAccess::parent() const {
+  auto* window = item()->window();
+  if (window == nullptr) return nullptr;
+  for (auto* each = item()->parentItem(); each != nullptr; each = each->parentItem()) {
+    if (each == window->contentItem()) break;
+    if (auto* access = QAccessible::queryAccessibleInterface(each)) return access;
+  }
+  return QAccessible::queryAccessibleInterface(window);
+}
+
+QRect ItemAccess::onScreen(const QRectF& area) const {
+  const auto* window = item()->window();
+  if (window == nullptr) return {};
+  const QRect inWindow = item()->mapRectToScene(area).toRect();
+  return {window->mapToGlobal(inWindow.topLeft()), inWindow.size()};
+}
+
+// What is hidden has no place.
+QRect ItemAccess::rect() const {
+  return item()->isVisible() ? onScreen({0, 0, item()->width(), item()->height()}) : QRect();
+}
+
+QString ItemAccess::text(QAccessible::Text kind) const {
+  const auto written = [this](const char* property) {
+    return QQmlProperty::read(item(), property, qmlContext(item())).toString();
+  };
+  if (kind == QAccessible::Name) return written("Accessible.name");
+  if (kind == QAccessible::Description) return written("Accessible.description");
+  return {};
+}
+
+QAccessible::State ItemAccess::state() const {
+  QAccessible::State state;
+  const auto* window = item()->window();
+  state.invisible = window == nullptr || !window->isVisible() || !item()->isVisible();
+  state.disabled = !item()->isEnabled();
+  state.focusable = item()->activeFocusOnTab();
+  state.focused = item()->hasActiveFocus();
+  return state;
+}
+
+void* ItemAccess::interface_cast(QAccessible::InterfaceType type) {
+  if (type != QAccessible::ActionInterface || !item()->activeFocusOnTab()) return nullptr;
+  return static_cast<QAccessibleActionInterface*>(this);
+}
+
+QStringList ItemAccess::actionNames() const { return {setFocusAction()}; }
+
+void ItemAccess::doAction(const QString& action) {
+  if (action != setFocusAction() || !item()->isVisible() || !item()->isEnabled()) return;
+  item()->forceActiveFocus(Qt::OtherFocusReason);
+}
+
+}  // namespace leafund

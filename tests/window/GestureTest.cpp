@@ -1,0 +1,162 @@
+#include <QPointingDevice>
+#include <memory>
+
+#include "tests/window/GlassFixture.h"
+
+namespace leafund {
+namespace {
+
+// A finger or the pointer that is put down, moved in small steps, and lifted.
+class GestureTest : public GlassTest {
+ protected:
+  void touch(QPoint from, QPoint to) {
+    QTest::touchEvent(&app.window(), finger_.get()).press(0, from);
+    for (int i = 1; i <= kSteps && from != to; ++i) {
+      QTest::touchEvent(&app.window(), finger_.get()).move(0, from + (to - from) * i / kSteps);
+      waitForFrame();  // moves within one frame are told as one
+    }
+    QTest::touchEvent(&app.window(), finger_.get()).release(0, to);
+    QCoreApplication::processEvents();
+  }
+  void waitForFrame() {
+    bool drawn = false;
+    QObject context;
+    QObject::connect(&app.window(), &QQuickWindow::afterRendering, &context, [&] { drawn = true; });
+    app.window().update();
+    EXPECT_TRUE(app.waitUntil([&] { return drawn; }));
+  }
+  void drag(QPoint from, QPoint to) {
+    QTest::mousePress(&app.window(), Qt::LeftButton, {}, from);
+    for (int i = 1; i <= kSteps; ++i) {
+      QTest::mouseMove(&app.window(), from + (to - from) * i / kSteps);
+    }
+    QTest::mouseRelease(&app.window(), Qt::LeftButton, {}, to);
+    QCoreApplication::processEvents();
+  }
+  void touch(QPoint where) { touch(where, where); }
+  QPoint middleOf(const std::string& name) {
+    auto& item = app.require(name);
+    return item.mapToScene({item.width() / 2, item.height() / 2}).toPoint();
+  }
+  std::string screen() {
+    app.settle();
+    return app.shown()->className();
+  }
+  void openUpdate() {
+    signIn();
+    click("fundedTab");
+    click("Funded-0");
+    click("campaignUpdates");
+  }
+
+ private:
+  static constexpr int kSteps = 12;
+  std::unique_ptr<QPointingDevice> finger_{QTest::createTouchDevice()};
+};
+
+TEST_F(GestureTest, AFingerDrawnFromTheLeftEdgeLeavesOneScreen) {
+  openUpdate();
+  touch({6, 500}, {220, 510});
+  EXPECT_EQ(screen(), "OneCampaignViewController");
+  touch({6, 500}, {220, 480});
+  EXPECT_EQ(screen(), "FundCampaignVC");
+}
+
+TEST_F(GestureTest, APointerDrawnFromTheLeftEdgeLeavesOneScreen) {
+  openUpdate();
+  drag({3, 300}, {200, 300});
+  EXPECT_EQ(screen(), "OneCampaignViewController");
+}
+
+TEST_F(GestureTest, AShortWayAWayBackAndAWayFromTheMiddleLeadNowhere) {
+  openUpdate();
+  touch({6, 500}, {60, 500});
+  EXPECT_EQ(screen(), "UpdatePageVC");
+  touch({120, 500}, {380, 500});
+  EXPECT_EQ(screen(), "UpdatePageVC");
+  touch({23, 500}, {0, 500});
+  EXPECT_EQ(screen(), "UpdatePageVC");
+}
+
+TEST_F(GestureTest, AHiddenBackButtonRefusesTheGestureToo) {
+  touch({6, 500}, {300, 500});
+  EXPECT_EQ(screen(), "LandingPageVC");
+  signIn();
+  touch({6, 28}, {300, 28});
+  EXPECT_EQ(app.navigation().topViewController()->className(), "TabBarVC");
+  click("abc-0");
+  type("dollarAmountField", "1");
+  click("FundButton");
+  drag({6, 500}, {300, 500});
+  EXPECT_EQ(screen(), "ConfirmPageVC");
+}
+
+TEST_F(GestureTest, WhatLiesAtTheEdgeIsTappedAsElsewhere) {
+  openUpdate();
+  touch({10, 28});  // on the bar's button, and within the edge
+  EXPECT_EQ(screen(), "OneCampaignViewController");
+  touch({10, 28}, {240, 28});  // the gesture takes the finger from the button
+  EXPECT_EQ(screen(), "FundCampaignVC");
+}
+
+TEST_F(GestureTest, AFingerScrollsAtTheEdgeAsElsewhere) {
+  signIn();
+  click("mineTab");
+  click("newButton");
+  app.window().resize(390, 568);
+  ASSERT_TRUE(app.waitUntil([&] { return app.page()->height() == 568; }));
+  auto* flickable = app.require("nameOfCreator").parentItem();
+  while (!flickable->inherits("QQuickFlickable")) flickable = flickable->parentItem();
+  touch({10, 500}, {20, 200});
+  EXPECT_EQ(screen(), "NewCampaignVC");
+  EXPECT_GT(flickable->property("contentY").toDouble(), 50);
+}
+
+TEST_F(GestureTest, TheGestureEndsTheEditingAsEveryWayBackDoes) {
+  click("signUpButton");
+  click("nameField");
+  ASSERT_NE(app.application->firstResponder(), nullptr);
+  touch({6, 600}, {220, 600});
+  EXPECT_EQ(screen(), "LandingPageVC");
+  EXPECT_EQ(app.application->firstResponder(), nullptr);
+}
+
+TEST_F(GestureTest, AnOutgoingScreenTakesNoFinger) {
+  signIn();
+  click("abc-0");
+  type("dollarAmountField", "1");
+  const auto fund = middleOf("FundButton");
+  app.press(Qt::Key_Escape);
+  touch(fund);  // where the outgoing screen still shows its button
+  EXPECT_NE(app.shown()->className(), "ConfirmPageVC");
+}
+
+TEST_F(GestureTest, AnIncomingScreenTakesAFingerAtOnce) {
+  signIn();
+  for (int i = 0; i < 10; ++i) {  // on a busy machine a slide may be over before it is looked at
+    click("abc-0");
+    app.press(Qt::Key_Escape);
+    const auto tab = middleOf("newsTab");
+    touch(tab);
+    const bool sliding = app.page()->x() != 0;
+    if (!sliding) click("browseTab");
+    if (!sliding) continue;
+    EXPECT_EQ(app.shown()->className(), "NewsFeedVC");
+    return;
+  }
+  FAIL() << "no slide was met";
+}
+
+TEST_F(GestureTest, TwoFingersOnYesBookOnce) {
+  signIn();
+  click("abc-0");
+  type("dollarAmountField", "1");
+  click("FundButton");
+  const auto yes = middleOf("yesButton");
+  touch(yes);
+  touch(yes);
+  EXPECT_EQ(screen(), "ThankYouVC");
+}
+
+}  // namespace
+}  // namespace leafund

@@ -1,0 +1,163 @@
+#include "model/Catalogue.h"
+#include "tests/window/KeyboardFixture.h"
+
+namespace leafund {
+namespace {
+
+class KeyboardRoadTest : public KeyboardTest {
+ protected:
+  void signInByKeys() {
+    typeAt("userEmail", "wren@example.org");
+    typeAt("password", "secret");
+    pressAt("signInButton");
+  }
+};
+
+TEST_F(KeyboardRoadTest, TheWholePledgeRoadIsGoneByKeysAlone) {
+  signInByKeys();
+  ASSERT_EQ(app.shown()->className(), "OtherCampaignsTableViewController");
+  EXPECT_EQ(focusedName(), "abc-0");
+  key(Qt::Key_Return);
+  typeAt("dollarAmountField", "81");
+  pressAt("FundButton", Qt::Key_Space);
+  EXPECT_EQ(glassText("errorLabel"), "Error: Donation Exceeds Maximum");
+  EXPECT_EQ(focusedName(), "FundButton");
+  key(Qt::Key_Backtab, Qt::ShiftModifier);
+  EXPECT_EQ(focusedName(), "dollarAmountField");
+  key(Qt::Key_A, Qt::ControlModifier);
+  app.typeKeys("80");
+  pressAt("FundButton");
+  pressAt("noButton");
+  EXPECT_EQ(focusedName(), "FundButton");
+  key(Qt::Key_Return);
+  pressAt("yesButton");
+  EXPECT_EQ(glassText("thankYouLabel"), "Thank you for your pledge!");
+  pressAt("homeButton");
+  EXPECT_EQ(focusedName(), "abc-0");
+  pressAt("fundedTab");
+  EXPECT_EQ(focusedName(), "fundedTab");
+  pressAt("Funded-0");
+  EXPECT_EQ(glassText("campaignTitle"), "Vegetarian for PETA");
+  EXPECT_EQ(campaignsIFunded()[0]->currFunding(), 200.0F);
+  key(Qt::Key_Escape);
+  EXPECT_EQ(focusedName(), "Funded-0");
+  pressAt("Funded-1");
+  pressAt("campaignUpdates");
+  EXPECT_EQ(app.shown()->className(), "UpdatePageVC");
+  key(Qt::Key_Back);
+  EXPECT_EQ(focusedName(), "campaignUpdates");
+  pressAt("backButton");
+  EXPECT_EQ(focusedName(), "Funded-1");
+}
+
+TEST_F(KeyboardRoadTest, ACampaignIsCreatedByKeysAlone) {
+  signInByKeys();
+  pressAt("mineTab");
+  const auto before = myUnfundedCampaigns().size();
+  pressAt("newButton");
+  pressAt("createButton");
+  EXPECT_EQ(glassText("nameOfCampaign").left(6), "Error:");
+  for (const auto* name :
+       {"nameOfCreator", "nameOfCampaign", "shortDescription", "fullDescription", "imageURL"}) {
+    tabTo(name);
+    key(Qt::Key_A, Qt::ControlModifier);
+    app.typeKeys(std::string(name) == "imageURL" ? "http://127.0.0.1/none.jpg" : "Wren");
+  }
+  typeAt("desiredFunding", "250");
+  pressAt("createButton");
+  ASSERT_EQ(app.shown()->className(), "ThankYouVC");
+  EXPECT_EQ(myUnfundedCampaigns().size(), before + 1);
+  key(Qt::Key_Escape);  // there is no way back from here
+  EXPECT_EQ(app.shown()->className(), "ThankYouVC");
+  pressAt("homeButton");
+  EXPECT_EQ(app.shown()->className(), "MyProfileVC");
+  EXPECT_EQ(focusedName(), "newButton");
+}
+
+TEST_F(KeyboardRoadTest, AnAccountIsMadeByKeysAlone) {
+  pressAt("signUpButton");
+  pressAt("signUpButton");
+  EXPECT_EQ(glassText("nameField").left(6), "Error:");
+  for (const auto* name : {"nameField", "passwordField", "passwordConfirmField"}) {
+    tabTo(name);
+    key(Qt::Key_A, Qt::ControlModifier);
+    app.typeKeys("secret");
+  }
+  pressAt("signUpButton", Qt::Key_Space);
+  EXPECT_EQ(app.navigation().topViewController()->className(), "TabBarVC");
+  EXPECT_EQ(currentUserName(), "secret");
+}
+
+TEST_F(KeyboardRoadTest, TabGoesThroughEveryScreenInTheOrderItIsRead) {
+  using Names = std::vector<std::string>;
+  EXPECT_EQ(round(), (Names{"userEmail", "password", "signInButton", "signUpButton"}));
+  EXPECT_EQ(round(Qt::Key_Backtab),
+            (Names{"signUpButton", "signInButton", "password", "userEmail"}));
+  signInByKeys();
+  pressAt("mineTab");
+  EXPECT_EQ(round(), (Names{"newsTab", "newButton", "MyCampaigns-0", "MyCampaigns-1", "browseTab",
+                            "fundedTab", "mineTab"}));
+  pressAt("newButton");
+  EXPECT_EQ(round(), (Names{"backButton", "nameOfCreator", "nameOfCampaign", "shortDescription",
+                            "fullDescription", "desiredFunding", "imageURL", "emailInvite",
+                            "createButton"}));
+}
+
+TEST_F(KeyboardRoadTest, TabReachesRowsBelowTheFoldAndThenTheTabs) {
+  signInByKeys();
+  for (int row = 0; row < 7; ++row) {
+    EXPECT_EQ(focusedName(), "abc-" + std::to_string(row));
+    const auto& item = *focused();
+    const QRectF area = item.mapRectToScene(item.boundingRect());
+    EXPECT_GE(area.top(), 56);
+    EXPECT_LE(area.bottom(), app.window().height() - 64);
+    key(Qt::Key_Tab);
+  }
+  EXPECT_EQ(focusedName(), "browseTab");
+}
+
+TEST_F(KeyboardRoadTest, ThePageKeysTakeTheFocusAlong) {
+  signInByKeys();
+  key(Qt::Key_PageDown);
+  EXPECT_EQ(focusedName(), "abc-3");
+  key(Qt::Key_Return);
+  EXPECT_EQ(glassText("campaignTitle").toStdString(), otherCampaigns()[3]->title());
+  key(Qt::Key_Escape);
+  EXPECT_EQ(focusedName(), "abc-3");
+  key(Qt::Key_PageUp);
+  EXPECT_EQ(focusedName(), "abc-3");  // it is still in sight
+}
+
+TEST_F(KeyboardRoadTest, TheFocusMovesOnWhenItsRowIsGone) {
+  for (int i = 0; i < 5; ++i) otherCampaigns().erase(otherCampaigns().begin());
+  signInByKeys();
+  tabTo("abc-1");
+  key(Qt::Key_Return);
+  typeAt("dollarAmountField", "1");
+  pressAt("FundButton");
+  pressAt("yesButton");
+  pressAt("homeButton");
+  EXPECT_EQ(focusedName(), "abc-0");
+}
+
+TEST_F(KeyboardRoadTest, EscapeLeadsBackAlsoFromWithinAnInputAndIsRefusedWithoutAWayBack) {
+  pressAt("signUpButton");
+  tabTo("nameField");
+  key(Qt::Key_Escape);
+  EXPECT_EQ(app.shown()->className(), "LandingPageVC");
+  EXPECT_EQ(focusedName(), "signUpButton");
+  key(Qt::Key_Escape);
+  EXPECT_EQ(app.shown()->className(), "LandingPageVC");
+}
+
+TEST_F(KeyboardRoadTest, WhoUsesThePointerSeesNoRing) {
+  signIn();  // by clicks and typing, the last of it a click
+  ASSERT_NE(focused(), nullptr);
+  for (const auto* item : app.page()->findChildren<QQuickItem*>()) {
+    if (!QByteArray(item->metaObject()->className()).startsWith("FocusRing")) continue;
+    EXPECT_FALSE(item->isVisible());
+  }
+}
+
+}  // namespace
+}  // namespace leafund

@@ -1,0 +1,247 @@
+"""The app as assistive technology meets it: over the accessibility bus alone, without a place."""
+
+import os
+import time
+
+import gi
+from window import FIELDS, LIMIT, RoadBroken
+
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi, GLib  # noqa: E402
+
+SHOWING = "object:state-changed:showing"
+NOT_A_ROLE = {"unknown", "invalid", "filler", ""}
+PAGE_DOWN = 0xFF56  # the X keyboard's numbers of keys
+ESCAPE = 0xFF1B
+
+
+class Reader:
+    """Reads names, roles, states, texts and values; acts by actions, texts and keys."""
+
+    def __init__(self, process):
+        self.process = process
+        self.heard = []  # messages, in the order they came
+        Atspi.init()
+        self.application = self.wait("the app on the accessibility bus", self._find_application)
+        Atspi.Accessible.set_cache_mask(self.application, Atspi.Cache.NONE)
+        self._listener = Atspi.EventListener.new(self._on_event)
+        self._listener.register(SHOWING)
+
+    # Reading
+
+    def visible(self):
+        """Everything that is not hidden, in reading order; below the fold counts."""
+        return self._walk(lambda node: self.has(node, Atspi.StateType.VISIBLE))
+
+    def everything(self):
+        return self._walk(lambda node: True)
+
+    def _walk(self, enters):
+        waiting = [self.application]
+        while waiting:
+            node = waiting.pop()
+            try:
+                if not enters(node):
+                    continue
+                children = [node.get_child_at_index(i) for i in range(node.get_child_count())]
+            except GLib.Error:
+                continue  # it left while it was looked at
+            yield node
+            waiting.extend(child for child in reversed(children) if child)
+
+    def expect(self, name, role=None):
+        """The first visible thing of exactly that name."""
+
+        def found():
+            for node in self.visible():
+                if self.name(node) == name and role in (None, self._role(node)):
+                    return node
+            return None
+
+        return self.wait(f"{role or 'something'} called “{name}”", found)
+
+    def expect_gone(self, name):
+        self.wait(f"“{name}” gone", lambda: name not in map(self.name, self.visible()))
+
+    def expect_heard(self, message):
+        self.wait(f"the message “{message}” announced", lambda: message in self.heard)
+        self.heard.remove(message)
+
+    def expect_text(self, field, text):
+        self.wait(f"“{text}” in “{field}”", lambda: self.text(self._field(field)) == text)
+
+    def expect_focus(self, name):
+        node = self.expect(name)
+        self.wait(f"the focus on “{name}”", lambda: self.has(node, Atspi.StateType.FOCUSED))
+
+    def rows(self):
+        return [self.name(node) for node in self.visible() if self._role(node) == "list item"]
+
+    @staticmethod
+    def text(node):
+        return Atspi.Text.get_text(node, 0, -1)
+
+    @staticmethod
+    def range(node):
+        """Value, least and greatest."""
+        if "Value" not in node.get_interfaces():
+            raise RoadBroken(f"“{node.get_name()}” has no value")
+        value = Atspi.Value
+        least, greatest = value.get_minimum_value(node), value.get_maximum_value(node)
+        return value.get_current_value(node), least, greatest
+
+    # Acting
+
+    def press(self, name, role="push button"):
+        self._act(self.expect(name, role), "Press")
+
+    def act(self, name, role, action):
+        self._act(self.expect(name, role), action)
+
+    def write(self, field, text):
+        """Puts a text into a field as a whole, without the keyboard."""
+        node = self._field(field)
+        if "EditableText" not in node.get_interfaces():
+            raise RoadBroken(f"“{field}” takes no text")
+        if not Atspi.EditableText.set_text_contents(node, text):
+            raise RoadBroken(f"“{field}” refuses a text")
+        self.expect_text(field, text)
+
+    def type_into(self, field, text, shown=None):
+        """Focuses a field and types, in place of what is selected there."""
+        self._act(self._field(field), "SetFocus")
+        self.expect_focus(field)
+        Atspi.generate_keyboard_event(0, text, Atspi.KeySynthType.STRING)
+        self.expect_text(field, shown or text)
+
+    @staticmethod
+    def key(number):
+        # A symbol is turned into the key that gives it, whatever the keyboard's layout.
+        Atspi.generate_keyboard_event(number, None, Atspi.KeySynthType.SYM)
+
+    # What must hold of every screen
+
+    def audit(self, screen):
+        """Every visible thing has a role and is enabled; every control has a name and an action.
+
+        A screen on its way out is still visible and no longer enabled, so this may take a moment.
+        """
+        faults = []
+
+        def sound():
+            faults[:] = self._faults()
+            return not faults
+
+        try:
+            self.wait("", sound)
+        except RoadBroken:
+            raise RoadBroken(f"on the {screen} screen " + "; ".join(faults)) from None
+
+    def _faults(self):
+        found = []
+        for node in self.visible():
+            role, name = self._role(node), self.name(node)
+            if role in NOT_A_ROLE:
+                found.append(f"“{name}” has no role")
+            if not self.has(node, Atspi.StateType.ENABLED):
+                found.append(f"{role} “{name}” is visible and not enabled")
+            if self.has(node, Atspi.StateType.FOCUSABLE):
+                found.extend(self._faults_of_control(node, role, name))
+        return found
+
+    def _faults_of_control(self, node, role, name):
+        if not name:
+            yield f"a control, {role}, has no name"
+        actions = self._actions(node)
+        if "SetFocus" not in actions:
+            yield f"{role} “{name}” cannot be focused"
+        if role in FIELDS:
+            if "EditableText" not in node.get_interfaces():
+                yield f"{role} “{name}” takes no text"
+        elif role not in {"label", "panel"} and "Press" not in actions:
+            yield f"{role} “{name}” cannot be pressed"
+
+    def expect_nowhere(self, secret):
+        """Nothing, hidden or not, gives a text out."""
+        for node in self.everything():
+            texts = [self.name(node), node.get_description() or ""]
+            if "Text" in node.get_interfaces():
+                texts.append(self.text(node) or "")
+            if any(secret in text for text in texts):
+                raise RoadBroken(f"{self._role(node)} “{self.name(node)}” gives the password out")
+
+    # The rest is how.
+
+    def wait(self, what, condition):
+        end = time.monotonic() + LIMIT
+        while True:
+            self._take_events()
+            try:
+                result = condition()
+            except GLib.Error:
+                result = None  # it left while it was looked at
+            if result:
+                return result
+            if not os.path.exists(f"/proc/{self.process}"):
+                raise RoadBroken(f"the app ended; expected {what}")
+            if time.monotonic() > end:
+                raise RoadBroken(f"not within {LIMIT:.0f} s: {what}")
+            time.sleep(0.02)
+
+    def describe(self):
+        return "\n".join(f"  {self._role(node)}: {self.name(node)!r}" for node in self.visible())
+
+    def _find_application(self):
+        desktop = Atspi.get_desktop(0)
+        for index in range(desktop.get_child_count()):
+            child = desktop.get_child_at_index(index)
+            if child and child.get_process_id() == self.process and child.get_child_count():
+                return child
+        return None
+
+    @staticmethod
+    def _take_events():
+        context = GLib.MainContext.default()
+        while context.iteration(False):
+            pass
+
+    def _on_event(self, event):
+        try:
+            if event.detail1 and self._role(event.source) == "notification":
+                self.heard.append(self.name(event.source))
+        except GLib.Error:
+            pass  # gone already, and so is its message
+
+    def _field(self, name):
+        def found():
+            for node in self.visible():
+                if self.name(node) == name and self._role(node) in FIELDS:
+                    return node
+            return None
+
+        return self.wait(f"a field called “{name}”", found)
+
+    def _act(self, node, wanted):
+        actions = self._actions(node)
+        if wanted not in actions:
+            raise RoadBroken(f"“{self.name(node)}” has no action {wanted}")
+        Atspi.Action.do_action(node, actions.index(wanted))
+
+    @staticmethod
+    def _actions(node):
+        if "Action" not in node.get_interfaces():
+            return []
+        count = Atspi.Action.get_n_actions(node)
+        return [Atspi.Action.get_action_name(node, i) for i in range(count)]
+
+    @staticmethod
+    def has(node, state):
+        return node.get_state_set().contains(state)
+
+    @staticmethod
+    def name(node):
+        return node.get_name() or ""
+
+    @staticmethod
+    def _role(node):
+        return node.get_role_name()
