@@ -1,0 +1,160 @@
+#include "tests/look/StageApplication.h"
+
+#include <gtest/gtest.h>
+
+#include <QFontInfo>
+#include <QGuiApplication>
+#include <QNetworkProxy>
+#include <QScreen>
+#include <QUrl>
+#include <cmath>
+#include <stdexcept>
+
+#include "model/Catalogue.h"
+#include "model/PictureHost.h"
+#include "platform/qt/ViewObject.h"
+#include "platform/uikit/UITableView.h"
+#include "platform/uikit/UITableViewCell.h"
+#include "tests/look/GlassItems.h"
+#include "tests/look/ProjectPictures.h"
+#include "tests/support/PictureAnswers.h"
+
+namespace leafund {
+
+namespace {
+
+std::shared_ptr<UIView> descendant(const UIView& root, std::string_view name) {
+  for (const auto& view : root.subviews()) {
+    if (view->name() == name) return view;
+    if (auto found = descendant(*view, name)) return found;
+  }
+  return nullptr;
+}
+
+// Without these every figure and every picture would be of something else.
+void requireSurroundings(const Surroundings& wanted, const QQuickWindow& window) {
+  if (QFontInfo(QGuiApplication::font()).family() != QLatin1String("Inter")) {
+    throw std::runtime_error("the typeface Inter is not found: install the package fonts-inter");
+  }
+  const double dots = window.screen()->logicalDotsPerInch();
+  if (std::abs(dots - 0.96 * wanted.fontPercent) > 1) {
+    throw std::runtime_error("the font resolution is " + std::to_string(dots));
+  }
+  if (std::abs(window.effectiveDevicePixelRatio() - wanted.scale) > 0.01) {
+    throw std::runtime_error("the scale is not the one asked for");
+  }
+}
+
+}  // namespace
+
+StageApplication::Prepared::Prepared(const Surroundings& surroundings) {
+  qputenv("QT_FONT_DPI", QByteArray::number(96 * surroundings.fontPercent / 100));
+  qputenv("QT_SCALE_FACTOR", QByteArray::number(surroundings.scale));
+  // With its scaling on, the platform without a screen reads no font resolution.
+  if (surroundings.fontPercent != 100) qputenv("QT_ENABLE_HIGHDPI_SCALING", "0");
+}
+
+StageApplication::StageApplication(Surroundings surroundings, Pictures pictures, QSize size)
+    : prepared_(surroundings), pictures_(pictures) {
+  requireSurroundings(surroundings, window());
+  serve(pictures);
+  resize(size);
+}
+
+StageApplication::~StageApplication() {
+  QNetworkProxy::setApplicationProxy(QNetworkProxy::NoProxy);
+}
+
+// As a proxy the server answers for every address, whichever host the build was made for.
+void StageApplication::serve(Pictures pictures) {
+  const QUrl server(QString::fromStdString(app_.server().baseAddress()));
+  QNetworkProxy::setApplicationProxy(
+      {QNetworkProxy::HttpProxy, server.host(), static_cast<quint16>(server.port())});
+  for (const auto& [name, body] : projectPictures()) {
+    const auto answer = pictures == Pictures::Served ? answers::ok(body) : answers::neverAnswers();
+    // Asked for as a proxy by the address, as the host itself by the path.
+    for (const auto& asked : {pictureAddress(name), kOtherHost + ("/" + name), "/" + name}) {
+      app_.server().serve(asked, answer);
+    }
+  }
+}
+
+std::shared_ptr<UIView> StageApplication::view(std::string_view name) {
+  auto found = descendant(*app_.navigation().topViewController()->view(), name);
+  if (!found) throw std::out_of_range("no view is named " + std::string(name));
+  return found;
+}
+
+void StageApplication::tap(std::string_view name) { app_.application->tap(view(name)); }
+
+void StageApplication::tapRow(std::ptrdiff_t row) {
+  const auto table = std::dynamic_pointer_cast<UITableView>(app_.shown()->view());
+  app_.application->tap(table->visibleCells().at(row));
+}
+
+void StageApplication::type(std::string_view name, std::string text) {
+  const auto input = std::dynamic_pointer_cast<UITextInput>(view(name));
+  app_.application->beginEditing(input);
+  app_.application->edit(input, std::move(text));
+  app_.application->endEditing(input);
+}
+
+void StageApplication::signIn() {
+  type("userEmail", "wren@example.org");
+  type("password", "secret");
+  tap("signInButton");
+}
+
+void StageApplication::openTab(std::string_view name) {
+  signIn();
+  tap(name);
+}
+
+void StageApplication::tab(int times) {
+  settle();
+  for (int i = 0; i < times; ++i) app_.press(Qt::Key_Tab);
+}
+
+void StageApplication::resize(QSize size) {
+  window().resize(size);
+  EXPECT_TRUE(app_.waitUntil([&] { return page().width() == size.width(); }));
+}
+
+void StageApplication::settle() {
+  const auto isSettled = [&] {
+    int screens = 0;
+    for (const auto* each : window().contentItem()->childItems()) screens += each->isVisible();
+    if (screens != 1 || app_.page() == nullptr || page().x() != 0 || isAnimated()) return false;
+    return pictures_ == Pictures::Silent || hasAllPictures();
+  };
+  window().grabWindow();  // lays out, which may begin an animation or show another picture
+  EXPECT_TRUE(app_.waitUntil(isSettled)) << "a slide, an animation or a picture does not end";
+  window().grabWindow();
+}
+
+bool StageApplication::hasAllPictures() {
+  for (const auto* item : shownItems(page())) {
+    if (!item->inherits("leafund::PictureItem")) continue;
+    if (!item->property("view").value<ViewObject*>()->hasImage()) return false;
+  }
+  return true;
+}
+
+bool StageApplication::isAnimated() {
+  for (const auto* object : window().findChildren<QObject*>()) {
+    if (object->inherits("QQuickAbstractAnimation") && object->property("running").toBool()) {
+      return true;
+    }
+  }
+  return false;
+}
+
+QImage StageApplication::photograph() {
+  settle();
+  for (auto* item : shownItems(page())) {
+    if (isInput(*item)) item->setProperty("cursorVisible", false);
+  }
+  return window().grabWindow().convertToFormat(QImage::Format_RGB888);
+}
+
+}  // namespace leafund

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <QImage>
+#include <QSize>
+#include <string>
+
+#include "tests/window/WindowApplication.h"
+
+namespace leafund {
+
+// How the system shows the application. Both must be known before the application is made, and hold
+// for the life of the process.
+struct Surroundings {
+  int fontPercent = 100;  // of a font resolution of 96 dots an inch
+  int scale = 1;          // device pixels to a logical one
+};
+
+// The application in its window, for whoever measures or photographs what it shows: driven through
+// the toolkit, so that no time goes by on the way to a deep screen.
+class StageApplication {
+ public:
+  enum class Pictures { Served, Silent };
+  // Has the project's pictures, too. Its name does not change with the build, as a port does.
+  static constexpr const char* kOtherHost = "http://pictures.example";
+
+  StageApplication(Surroundings surroundings, Pictures pictures, QSize size);
+  ~StageApplication();
+
+  void tap(std::string_view name);
+  void tapRow(std::ptrdiff_t row);
+  void type(std::string_view name, std::string text);
+  void signIn();
+  void openTab(std::string_view name);
+  // With the keyboard, from control to control.
+  void tab(int times);
+
+  void resize(QSize size);
+  // Until slides and animations have ended, pictures have come and what changed has been drawn.
+  void settle();
+
+  QtWindow& window() { return app_.window(); }
+  QQuickItem& page() { return *app_.page(); }
+  // The settled window, without a cursor, which comes and goes.
+  QImage photograph();
+
+ private:
+  // Goes first, because the application reads it when it is made.
+  struct Prepared {
+    explicit Prepared(const Surroundings& surroundings);
+  };
+
+  void serve(Pictures pictures);
+  std::shared_ptr<UIView> view(std::string_view name);
+  bool hasAllPictures();
+  bool isAnimated();
+
+  Prepared prepared_;
+  WindowApplication app_;
+  Pictures pictures_;
+};
+
+}  // namespace leafund

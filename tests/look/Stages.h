@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QSize>
+#include <iosfwd>
+#include <string>
+#include <vector>
+
+#include "tests/look/StageApplication.h"
+
+namespace leafund {
+
+// A scene in one of its states, and how it is reached.
+struct Stage {
+  std::string name;  // the scene's, a dash, the state's
+  bool ordinary;     // the state in which the scene is mostly seen
+  void (*reach)(StageApplication& app);
+  StageApplication::Pictures pictures = StageApplication::Pictures::Served;
+};
+
+const std::vector<Stage>& stages();
+// Fails the test for a name that is none.
+const Stage& stageNamed(const std::string& name);
+
+// The sizes the interface is made for, from the least. In this order a table only ever grows, and
+// no cell is used for another row, whose picture would come later.
+inline constexpr QSize kSmall{320, 568};
+inline constexpr QSize kWide{1024, 768};
+inline constexpr QSize kNatural{390, 844};
+inline constexpr QSize kLarge{430, 932};
+inline constexpr QSize kSizes[] = {kSmall, kWide, kNatural, kLarge};
+
+std::string sizeText(QSize size);  // "390x844"
+
+// The name of a test may hold letters, digits and underscores only.
+std::string testName(std::string text);
+
+}  // namespace leafund
