@@ -90,10 +90,22 @@ def skin_loaders(project):
     ]
 
 
+def second_opinion(project):
+    """What the application is compared with must not be made of its own code."""
+    return [
+        f"{path}:{number} includes {target[1:]}"
+        for path, number, target in includes(project)
+        if path.startswith("tests/random/Reference") and target[0] == '"'
+        and not path.endswith("Test.cpp")
+        and not re.match(r'"tests/random/(Reference|Sheet|Action\.h)', target)
+    ]
+
+
 CHECKS = (
     ("arrows between rooms", "include only what tools/checks/arrows.py lists for the room", rooms),
     ("every source has a room", "move it, or add its room to tools/checks/arrows.py", homeless),
     ("includes from the top", 'write #include "room/File.h"', relative),
     ("libraries at home", "reach the library through its room's own header", libraries),
+    ("second opinion on its own", "the reference knows the standard library alone", second_opinion),
     ("one loader of skins", "only platform/qt may know interface/qml", skin_loaders),
 )

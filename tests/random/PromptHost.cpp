@@ -1,0 +1,43 @@
+#include "tests/random/PromptHost.h"
+
+#include <utility>
+
+#include "platform/foundation/NSURLRequest.h"
+#include "platform/uikit/UIApplication.h"
+
+namespace leafund::random {
+
+int PromptHost::run(UIApplication& application) {
+  application_ = &application;
+  application.launch();
+  application.becomeActive();
+  return 0;
+}
+
+void PromptHost::transfer(const NSURLRequest& request, CompletionHandler completion) {
+  transfers_.push_back({request.URL().absoluteString(), std::move(completion)});
+}
+
+void PromptHost::end(std::size_t at, NSData body, bool error) {
+  const auto transfer = std::move(transfers_[at]);
+  transfers_.erase(transfers_.begin() + static_cast<std::ptrdiff_t>(at));
+  const auto response = body ? std::optional(NSURLResponse{200}) : std::nullopt;
+  const auto reason =
+      error ? std::optional(NSError{"the host could not be reached"}) : std::nullopt;
+  transfer.completion(std::move(body), response, reason);
+}
+
+void PromptHost::drain() {
+  while (!steps_.empty()) {
+    auto step = std::move(steps_.front());
+    steps_.pop_front();
+    application_->turn(std::move(step));
+  }
+}
+
+void PromptHost::forget() {
+  transfers_.clear();
+  steps_.clear();
+}
+
+}  // namespace leafund::random

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <string>
+
+#include "platform/Host.h"
+#include "platform/graphics/Geometry.h"
+
+namespace leafund::random {
+
+// A host without a window that needs no threads: a transfer ends on the thread that asks it to,
+// because starting a thread an answer (some 60 microseconds) would be most of a long run. What a
+// host owes its application apart from that, it keeps.
+class PromptHost final : public Host {
+ public:
+  PromptHost() { setCurrentHost(this); }
+  ~PromptHost() override { setCurrentHost(nullptr); }
+
+  int run(UIApplication& application) override;
+  bool onMain() const override { return true; }
+  void post(std::function<void()> step) override { steps_.push_back(std::move(step)); }
+  void transfer(const NSURLRequest& request, CompletionHandler completion) override;
+  double screenScale() const override { return 2; }
+  void show(const UINavigationController&) override {}
+
+  std::size_t open() const { return transfers_.size(); }
+  const std::string& address(std::size_t at) const { return transfers_[at].address; }
+  // A null body or an error, or both of them at once.
+  void end(std::size_t at, NSData body, bool error);
+  void drain();
+  // Whatever is under way is forgotten, as when the process ends.
+  void forget();
+
+ private:
+  struct Transfer {
+    std::string address;
+    CompletionHandler completion;
+  };
+  UIApplication* application_ = nullptr;
+  std::deque<std::function<void()>> steps_;
+  std::deque<Transfer> transfers_;
+};
+
+}  // namespace leafund::random

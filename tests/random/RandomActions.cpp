@@ -1,0 +1,114 @@
+#include <chrono>
+#include <cstdlib>
+#include <cstring>
+#include <iostream>
+#include <stdexcept>
+#include <thread>
+
+#include "tests/random/Comparison.h"
+#include "tests/random/Runner.h"
+#include "tests/random/Shrinker.h"
+
+// Random actions against the application, held to the reference after each. Ends with 0 when the
+// two never differed, with 1 and the shortest script found when they did, and with 2 when called
+// wrongly.
+namespace leafund::random {
+namespace {
+
+struct Call {
+  Order order;
+  std::optional<std::uint64_t> replay;
+};
+
+std::uint64_t numberAfter(int& at, int argc, char** argv) {
+  if (++at >= argc) throw std::invalid_argument(std::string(argv[at - 1]) + " needs a number");
+  std::size_t read = 0;
+  const auto number = std::stoull(argv[at], &read);
+  if (read != std::strlen(argv[at]))
+    throw std::invalid_argument(std::string("no number: ") + argv[at]);
+  return number;
+}
+
+Call callFrom(int argc, char** argv) {
+  Call call;
+  call.order.jobs = std::max(1U, std::thread::hardware_concurrency());
+  for (int at = 1; at < argc; ++at) {
+    const std::string_view option = argv[at];
+    if (option == "--actions") {
+      call.order.actions = numberAfter(at, argc, argv);
+    } else if (option == "--seed") {
+      call.order.firstSeed = numberAfter(at, argc, argv);
+    } else if (option == "--fatal-share") {
+      call.order.fatalPercent = numberAfter(at, argc, argv);
+    } else if (option == "--longest") {
+      call.order.most = numberAfter(at, argc, argv);
+    } else if (option == "--jobs") {
+      call.order.jobs = std::max<std::size_t>(1, numberAfter(at, argc, argv));
+    } else if (option == "--twist") {
+      call.order.twist = static_cast<Twist>(numberAfter(at, argc, argv));
+    } else if (option == "--replay") {
+      call.replay = numberAfter(at, argc, argv);
+    } else {
+      throw std::invalid_argument("unknown option: " + std::string(option));
+    }
+  }
+  return call;
+}
+
+void print(const Totals& totals, double seconds) {
+  std::size_t screens = 0;
+  for (const auto count : totals.scenes) screens += count > 0 ? 1 : 0;
+  std::cout << totals.sequences << " sequences, " << totals.actions << " actions, " << totals.stops
+            << " stopped as expected (" << totals.escaped << " meant to stop lived), " << seconds
+            << " s, seeds " << totals.firstSeed << " to " << totals.nextSeed - 1 << ", " << screens
+            << " screens;";
+  for (int kind = 0; kind < kActionKinds; ++kind) {
+    std::cout << ' ' << kindName(static_cast<ActionKind>(kind)) << '='
+              << totals.kinds[static_cast<std::size_t>(kind)];
+  }
+  std::cout << ';';
+  for (int scene = 0; scene < kScenes; ++scene) {
+    std::cout << ' ' << className(static_cast<Scene>(scene)) << '='
+              << totals.scenes[static_cast<std::size_t>(scene)];
+  }
+  std::cout << std::endl;
+}
+
+int tellFailure(const Plan& plan, const FreeWording& wording) {
+  std::cout << "seed " << plan.seed << " diverges; shrinking" << std::endl;
+  const auto failure = shrinkFailure(plan, wording);
+  for (const auto& action : failure.script) std::cout << readable(action) << '\n';
+  std::cout << failure.told << "To see it again: --replay " << plan.seed
+            << " with the same --fatal-share and --longest." << std::endl;
+  return 1;
+}
+
+int run(const Call& call) {
+  const auto wording = wordingOfTheApplication();
+  warmUp();
+  if (call.replay) {
+    Plan plan = Plan::ofSeed(*call.replay, call.order.fatalPercent, call.order.most);
+    plan.twist = call.order.twist;
+    if (runSequence(plan, wording).verdict == Verdict::Diverged) return tellFailure(plan, wording);
+    std::cout << "seed " << *call.replay << " does not diverge" << std::endl;
+    return 0;
+  }
+  Totals totals;
+  const auto start = std::chrono::steady_clock::now();
+  const auto diverged = runSequences(call.order, wording, totals);
+  const std::chrono::duration<double> took = std::chrono::steady_clock::now() - start;
+  print(totals, took.count());
+  return diverged ? tellFailure(*diverged, wording) : 0;
+}
+
+}  // namespace
+}  // namespace leafund::random
+
+int main(int argc, char** argv) {
+  try {
+    return leafund::random::run(leafund::random::callFrom(argc, argv));
+  } catch (const std::exception& error) {
+    std::cerr << "random_actions: " << error.what() << '\n';
+    return 2;
+  }
+}
