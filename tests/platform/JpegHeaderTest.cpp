@@ -57,6 +57,16 @@ TEST(JpegHeaderTest, HoldsSamplingFactorsToOneToFour) {
   EXPECT_TRUE(isReadable(tables + frame(0xC0, 2, 2, 3, 8, 0x22) + scan(1)));
 }
 
+TEST(JpegHeaderTest, InterleavedComponentsShareAtMostTenBlocks) {
+  const auto withLastSampling = [](char sampling) {
+    std::string uneven = frame(0xC0, 2, 2, 3, 8, 0x22);
+    uneven[uneven.size() - 2] = sampling;  // The last component ends with its quantisation table.
+    return tables + uneven + scan(3);
+  };
+  EXPECT_TRUE(isReadable(withLastSampling(0x12)));   // 4 + 4 + 2
+  EXPECT_FALSE(isReadable(withLastSampling(0x13)));  // 4 + 4 + 3
+}
+
 TEST(JpegHeaderTest, PassesOverFillBytesStrayBytesAndMarkersThatStandAlone) {
   const std::string rest = tables + frame(0xC0, 2, 2) + scan();
   EXPECT_TRUE(isReadable("\xFF\xFF\xFF" + rest));

@@ -193,6 +193,24 @@ TEST(UIApplicationRowTest, ATappedRowStartsItsSegueWithTheCellAsSenderOnce) {
   EXPECT_THAT(app.stack(), ElementsAre("Rows", "Detail"));
 }
 
+TEST(UIApplicationRowTest, ATappedRowLeavesTheInputThatIsBeingEdited) {
+  ProbeLog log;
+  const UIStoryboard storyboard(
+      "Rows",
+      {scene<RowsScreen>("Rows", [](Scene<RowsScreen>& scene,
+                                    RowsScreen&) { scene.subtitleCell("row", "open"); }),
+       probeScene(log, "Detail")},
+      {{"open", "Rows", "Detail", SegueKind::Push}});
+  HeadlessApplication app(storyboard);
+  const auto table = app.shownAs<RowsScreen>()->tableView();
+  const auto field = std::make_shared<UITextField>();
+  table->addSubview(field);
+  app.application->beginEditing(field);
+  ASSERT_TRUE(field->editing());
+  app.application->tap(table->visibleCells().at(2));
+  EXPECT_FALSE(field->editing());
+}
+
 TEST(UIApplicationRowTest, APooledRowIsNotReached) {
   ProbeTable probe(20);
   const auto cell = probe.cell(0);

@@ -1,12 +1,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <chrono>
-
 #include "platform/uikit/UIView.h"
 #include "tests/support/HeadlessApplication.h"
 #include "tests/support/ProbeScreen.h"
 #include "tests/support/ProbeSkin.h"
+#include "tests/support/ProcessorTime.h"
 
 namespace leafund {
 namespace {
@@ -135,7 +134,7 @@ TEST(UIViewTest, AMillionCardsGoToTheBackEachInConstantTime) {
   content.addSubview(label);
   std::vector<const UIView*> shown;
   shown.reserve(kCards);
-  const auto start = std::chrono::steady_clock::now();
+  const double start = processorSeconds();
   for (std::size_t i = 0; i < kCards; ++i) {
     const auto card = std::make_shared<UIView>();
     content.addSubview(card);
@@ -143,7 +142,7 @@ TEST(UIViewTest, AMillionCardsGoToTheBackEachInConstantTime) {
     shown.push_back(card.get());
   }
   // In quadratic time this would take many minutes.
-  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20));
+  EXPECT_LT(processorSeconds() - start, 20);
   ASSERT_EQ(content.subviews().size(), kCards + 1);
   EXPECT_EQ(content.subviews().back(), label);
   for (std::size_t i = 0; i < kCards; ++i) {

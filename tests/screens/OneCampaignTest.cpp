@@ -25,6 +25,13 @@ TEST_F(OneCampaignTest, ShowsTheCampaignOfTheListAndPosition) {
   EXPECT_EQ(detail->slider->animatedFrom(), 0.0F);
 }
 
+TEST_F(OneCampaignTest, LoadedAgainTheBarFillsFromNothingOnceMore) {
+  openWith(200, 50);
+  detail->viewDidLoad();
+  EXPECT_EQ(detail->slider->animatedFrom(), 0.0F);
+  EXPECT_EQ(detail->slider->progress(), 0.25F);
+}
+
 TEST_F(OneCampaignTest, ACampaignThatIsNotFundedHidesUpdatesAndErrorAndShowsItsSums) {
   open("otherCampaigns", 0);
   EXPECT_TRUE(detail->campaignUpdates->hidden());

@@ -15,6 +15,7 @@ namespace leafund {
 // Rows for a table, with a note of every question.
 class ProbeRows : public UITableViewDataSource, public UITableViewDelegate {
  public:
+  std::ptrdiff_t sections = 1;
   std::ptrdiff_t count = 0;
   std::function<double(std::ptrdiff_t)> height = [](std::ptrdiff_t) { return 100.0; };
   std::function<std::string(std::ptrdiff_t)> identifier = [](std::ptrdiff_t) { return "row"; };
@@ -27,7 +28,7 @@ class ProbeRows : public UITableViewDataSource, public UITableViewDelegate {
 
   std::ptrdiff_t numberOfSectionsInTableView(UITableView&) override {
     ++sectionQuestions;
-    return 1;
+    return sections;
   }
   std::ptrdiff_t tableViewNumberOfRowsInSection(UITableView&, std::ptrdiff_t) override {
     ++countQuestions;

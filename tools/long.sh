@@ -1,0 +1,64 @@
+# shellcheck shell=bash disable=SC2154 # sourced by ./test, which sets what is used here
+# What ./test long runs beside the short form, sourced by it: hours, not minutes.
+
+# Every suite, with the memory watched, and what nobody holds any more at the end.
+runAddressSuites() {
+  enter asan-ubsan
+  build asan-ubsan "" -DLEAFUND_PICTURE_HOST="$pictureHost"
+  export ASAN_OPTIONS=detect_stack_use_after_return=1
+  export LSAN_OPTIONS=suppressions=$PWD/tests/lsan-suppressions.txt:print_suppressions=0
+  export UBSAN_OPTIONS=print_stacktrace=1
+  local suite
+  for suite in $(suites); do runSuite "asan $suite" -L "^$suite\$"; done
+  unset ASAN_OPTIONS LSAN_OPTIONS UBSAN_OPTIONS
+}
+
+# What crosses from the session's thread to the main one, with every access to memory watched.
+runThreadSuites() {
+  enter tsan
+  build tsan "platform_tests contract_headless_tests contract_qt_tests pictures_tests faults_tests"
+  export TSAN_OPTIONS=suppressions=$PWD/tests/tsan-suppressions.txt
+  runSuite "tsan fetches" -L '^(platform|contract_headless|contract_qt|pictures|faults)$' \
+    -R 'Session|MainQueue|Transfer|Fault'
+  unset TSAN_OPTIONS
+}
+
+# Opens the application on a virtual screen that then goes away, so that it ends by itself: the tour
+# ends it from without, and nothing is counted then.
+outliveDisplay() {
+  local display=$results/display
+  start Xvfb -displayfd 3 -screen 0 390x844x24 -nolisten tcp 3>"$display" 2>/dev/null
+  until [[ -s $display ]]; do sleep 0.1; done
+  DISPLAY=:$(<"$display") QT_QPA_PLATFORM=xcb setsid -- "$folder/shell/leafund" >/dev/null 2>&1 &
+  local app=$!
+  DISPLAY=:$(<"$display") timeout 60 xdotool search --sync --onlyvisible --name Leafund >/dev/null
+  endLast
+  wait "$app"
+}
+
+# How much of each room all suites together run.
+runCoverage() {
+  enter coverage
+  build coverage "" -DLEAFUND_PICTURE_HOST="$pictureHost"
+  find "$folder" -name '*.gcda' -delete
+  runSuite "all, counted" -L .
+  outliveDisplay
+  runTool coverage '^OK ' '^FAIL ' tools/coverage "$folder"
+}
+
+# What is too much for a build that nobody optimised.
+runMany() {
+  enter release
+  build release "screens_tests random_actions"
+  runSuite "a million showings" -L '^screens$' -R RowShowingsTest
+  local random
+  random=$(find "$folder" -name random_actions -type f)
+  runTool "random actions" '^[0-9]+ sequences, ' '^seed .* diverges' "$random" --actions 500000 --seed "$RANDOM" --jobs "$jobs"
+}
+
+runMany
+runTool fuzz ' 0 findings' ' [1-9][0-9]* findings' tools/fuzz all 60
+runAddressSuites
+runThreadSuites
+runCoverage
+runTool mutants '^CAUGHT ' '^(SURVIVED|UNBUILT) ' tools/mutants
