@@ -105,6 +105,7 @@ TEST_F(GestureTest, AFingerScrollsAtTheEdgeAsElsewhere) {
   click("newButton");
   app.window().resize(390, 568);
   ASSERT_TRUE(app.waitUntil([&] { return app.page()->height() == 568; }));
+  app.settle();
   auto* flickable = app.require("nameOfCreator").parentItem();
   while (!flickable->inherits("QQuickFlickable")) flickable = flickable->parentItem();
   touch({10, 500}, {20, 200});

@@ -1,0 +1,34 @@
+# `cpack` in a Release build folder makes the Debian packages.
+set(LEAFUND_CONTACT "The Leafund developers <nobody@leafund.invalid>" CACHE STRING
+  "Whom a package names as its maintainer")
+
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_CONTACT ${LEAFUND_CONTACT})
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_COMPONENTS_ALL app ${demo})
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_SECTION misc)
+
+# Libraries are read from the program. Beside them it needs the QML modules that its interface
+# imports and its typeface. Where Wayland is the only display, Qt needs its plugin for it.
+set(CPACK_DEBIAN_APP_PACKAGE_NAME leafund)
+set(CPACK_DEBIAN_APP_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_APP_PACKAGE_DEPENDS
+  "qml6-module-qtquick, qml6-module-qtqml-workerscript, fonts-inter")
+set(CPACK_DEBIAN_APP_PACKAGE_RECOMMENDS qt6-wayland)
+set(CPACK_DEBIAN_APP_PACKAGE_SUGGESTS leafund-demo)
+set(CPACK_COMPONENT_APP_DESCRIPTION "small pledges, green changes
+Leafund is a phone app for crowdfunding personal environmental pledges: browse
+what people promise, put money behind it, and start a campaign of your own.")
+
+# The app of the same build only: the address of the pictures is compiled into it.
+set(CPACK_DEBIAN_DEMO_PACKAGE_NAME leafund-demo)
+set(CPACK_DEBIAN_DEMO_PACKAGE_ARCHITECTURE all)
+set(CPACK_DEBIAN_DEMO_PACKAGE_DEPENDS "leafund (= ${PROJECT_VERSION}), busybox, util-linux")
+set(CPACK_COMPONENT_DEMO_DESCRIPTION "demonstration of Leafund with its pictures
+The pictures of the demonstration campaigns, and a launcher that serves them to
+the app on the loopback address for as long as it is open.")
+
+include(CPack)
