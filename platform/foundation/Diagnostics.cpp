@@ -1,7 +1,11 @@
 #include "platform/foundation/Diagnostics.h"
 
+#include <fcntl.h>
+#include <unistd.h>
+
 #include <array>
 #include <charconv>
+#include <csignal>
 #include <cstdio>
 #include <limits>
 
@@ -13,6 +17,14 @@ void writeDiagnosticLine(std::string_view line) {
   // Through the C stream and not past it, so that the line keeps its place among other output.
   std::fwrite(whole.data(), 1, whole.size(), stdout);
   std::fflush(stdout);
+}
+
+void secureStandardStreams() {
+  std::signal(SIGPIPE, SIG_IGN);
+  for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+    // The lowest free number is the one that open() gives.
+    if (fcntl(stream, F_GETFD) == -1) static_cast<void>(open("/dev/null", O_RDWR));
+  }
 }
 
 std::string decimalText(std::ptrdiff_t number) {

@@ -51,6 +51,8 @@ QNetworkRequest plainRequest(const QUrl& url) {
   request.setRawHeader("Accept-Language", "*");
   request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
   request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
+  // No credentials of the user's machine (Negotiate, NTLM) for whoever asks for them.
+  request.setAttribute(QNetworkRequest::AuthenticationReuseAttribute, QNetworkRequest::Manual);
   // What tells a response from an error below was tried on HTTP/1.1.
   request.setAttribute(QNetworkRequest::Http2AllowedAttribute, false);
   return request;

@@ -25,8 +25,20 @@ Qt::InputMethodHints hintsFor(UIKeyboardType keyboard) {
   return Qt::ImhNone;
 }
 
+// In UTF-16 units. Qt lays out an endless word in a time that grows with its square (13 s for 400,000
+// letters), so no more is drawn of words to read than anybody reads.
+constexpr qsizetype kMostWords = 20'000;
+
+QString wordsToRead(const std::string& text) {
+  QString words = qtText(text);
+  if (words.size() <= kMostWords) return words;
+  words.truncate(kMostWords);
+  if (words.back().isHighSurrogate()) words.chop(1);
+  return words + u'\u2026';
+}
+
 void readInput(const UITextInput& input, ViewLook& look) {
-  look.text = qtText(input.text());
+  look.text = input.editable() ? qtText(input.text()) : wordsToRead(input.text());
   look.placeholder = qtText(input.placeholder());
   look.textColor = qtColor(input.textColor().CGColor());
   look.editing = input.editing();
@@ -73,7 +85,7 @@ void readKind(const UIView& view, ViewLook& look) {
   if (const auto* control = dynamic_cast<const UIControl*>(&view)) {
     readControl(*control, look);
   } else if (const auto* label = dynamic_cast<const UILabel*>(&view)) {
-    look.text = qtText(label->text());
+    look.text = wordsToRead(label->text());
   } else if (const auto* picture = dynamic_cast<const UIImageView*>(&view)) {
     readPicture(*picture, look);
   } else if (const auto* progress = dynamic_cast<const UIProgressView*>(&view)) {

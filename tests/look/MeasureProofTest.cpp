@@ -147,6 +147,16 @@ TEST_F(MeasureProofTest, ATextCutWithoutAnEllipsisIsFound) {
               ElementsAre(isFault("is cut off", "Words")));
 }
 
+TEST_F(MeasureProofTest, AWrappedTextOfWhichOneLineIsLeftIsFound) {
+  const QByteArray words =
+      "Text { width: 60; wrapMode: Text.Wrap; elide: Text.ElideRight; maximumLineCount: %1;"
+      "       text: 'Words that need more room than that'; font.pixelSize: 16 }";
+
+  EXPECT_THAT(faultsOn(QByteArray(words).replace("%1", "2")), IsEmpty());
+  EXPECT_THAT(faultsOn(QByteArray(words).replace("%1", "1")),
+              ElementsAre(isFault("too few lines", "Words")));
+}
+
 TEST_F(MeasureProofTest, AMessageThatDoesNotFitIntoItsInputIsFound) {
   EXPECT_THAT(faultsOn("TextInput { width: 90; height: 20; wrapMode: TextInput.Wrap;"
                        "            text: 'Error: Please Enter More'; font.pixelSize: 16 }"),

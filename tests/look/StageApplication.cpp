@@ -125,11 +125,31 @@ void StageApplication::settle() {
     int screens = 0;
     for (const auto* each : window().contentItem()->childItems()) screens += each->isVisible();
     if (screens != 1 || app_.page() == nullptr || page().x() != 0 || isAnimated()) return false;
-    return pictures_ == Pictures::Silent || hasAllPictures();
+    return pictures_ == Pictures::Silent || (hasAllPictures() && rowsHaveTheirOwnPictures());
   };
   window().grabWindow();  // lays out, which may begin an animation or show another picture
   EXPECT_TRUE(app_.waitUntil(isSettled)) << "a slide, an animation or a picture does not end";
   window().grabWindow();
+}
+
+// A cell that was used before shows its last row's picture until its own has come.
+bool StageApplication::rowsHaveTheirOwnPictures() {
+  static const std::map<std::string, CampaignList& (*)()> lists = {
+      {"OtherCampaignsTableViewController", otherCampaigns},
+      {"FundCampaignVC", campaignsIFunded},
+      {"MyProfileVC", myUnfundedCampaigns}};
+  static const auto pictures = projectPictures();
+  const auto list = lists.find(app_.shown()->className());
+  if (list == lists.end()) return true;
+  const auto table = std::dynamic_pointer_cast<UITableView>(app_.shown()->view());
+  for (const auto& [row, cell] : table->visibleCells()) {
+    const auto& address = list->second().at(static_cast<std::size_t>(row))->photo();
+    const auto& image = cell->imageView()->image();
+    if (!image || !image->drawing()) return false;
+    const auto& body = *image->drawing()->strokes.at(0).image->body();
+    if (body != pictures.at(address.substr(address.rfind('/') + 1))) return false;
+  }
+  return true;
 }
 
 bool StageApplication::hasAllPictures() {

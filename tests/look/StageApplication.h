@@ -52,6 +52,7 @@ class StageApplication {
   void serve(Pictures pictures);
   std::shared_ptr<UIView> view(std::string_view name);
   bool hasAllPictures();
+  bool rowsHaveTheirOwnPictures();
   bool isAnimated();
 
   Prepared prepared_;

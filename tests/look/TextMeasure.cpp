@@ -14,9 +14,10 @@ bool elides(const QQuickItem& text) {
   return elide.isValid() && elide.toInt() != Qt::ElideNone;
 }
 
+constexpr int kNoWrap = 0;  // of texts and of inputs alike
+
 // An input of one line scrolls along it, as far as its cursor goes.
 bool scrollsAlong(const QQuickItem& text) {
-  constexpr int kNoWrap = 0;
   return text.inherits("QQuickTextInput") && text.property("wrapMode").toInt() == kNoWrap;
 }
 
@@ -29,6 +30,11 @@ void addCut(const QQuickItem& text, std::vector<Fault>& faults) {
   if (!elides(text) && text.property("truncated").toBool()) cut("ends without an ellipsis", 0);
   if (!scrollsAlong(text) && width > text.width() + kRounding) {
     cut("is wider than its place", width - text.width());
+  }
+  const bool wraps = text.property("wrapMode").toInt() != kNoWrap;
+  if (elides(text) && wraps && text.property("truncated").toBool() &&
+      text.property("lineCount").toInt() < kFewestLines) {
+    cut("is cut to too few lines", 0);
   }
   if (height > text.height() + kRounding) cut("is higher than its place", height - text.height());
   if (scrollsAlong(text)) return;

@@ -10,6 +10,9 @@ namespace leafund {
 // characters; some lines of an even text are longer than its mean line.
 inline constexpr double kLongestLine = 80;
 
+// What is left of a text that is cut must still say something.
+inline constexpr int kFewestLines = 2;
+
 // Texts that cannot be read whole, at the present scroll position: cut off without an ellipsis, out
 // of the control they belong to, on one another, or in lines too long to follow.
 std::vector<Fault> textFaults(const std::vector<QQuickItem*>& shown);

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "platform/foundation/FatalError.h"
 #include "platform/uikit/Outlet.h"
 #include "platform/uikit/Scene.h"
 
@@ -10,6 +11,12 @@ class Badge : public UIViewController {
  public:
   Outlet<UILabel> nameLabel{this, "nameLabel"};
   StrongOutlet<UIView> frameView{this, "frameView"};
+
+  bool mayLoad = true;
+  void viewDidLoad() override {
+    if (!mayLoad) fatalError(className(), "the load was told");
+    UIViewController::viewDidLoad();
+  }
 };
 
 using Fill = std::function<void(Scene<Badge>&, Badge&)>;
@@ -101,12 +108,16 @@ TEST(OutletDeathTest, UsingAnAbsentOutletIsFatalAndSaysWhichOneOfWhichScreen) {
 }
 
 TEST(OutletDeathTest, ASceneThatLeavesAnOutletUnconnectedIsFatalBeforeTheLoadIsTold) {
-  const auto withoutLabel = badges(
-      [](Scene<Badge>&, Badge& badge) { badge.frameView.connect(std::make_shared<UIView>()); });
+  const auto withoutLabel = badges([](Scene<Badge>&, Badge& badge) {
+    badge.frameView.connect(std::make_shared<UIView>());
+    badge.mayLoad = false;
+  });
   EXPECT_DEATH(make(withoutLabel)->view(),
                "Leafund stopped: Badge: the scene leaves the outlet nameLabel unconnected");
-  const auto withoutFrame =
-      badges([](Scene<Badge>& scene, Badge& badge) { scene.label(badge.nameLabel); });
+  const auto withoutFrame = badges([](Scene<Badge>& scene, Badge& badge) {
+    scene.label(badge.nameLabel);
+    badge.mayLoad = false;
+  });
   EXPECT_DEATH(make(withoutFrame)->view(),
                "Leafund stopped: Badge: the scene leaves the outlet frameView unconnected");
 }

@@ -1,5 +1,6 @@
 #include "tests/random/PromptHost.h"
 
+#include <iterator>
 #include <utility>
 
 #include "platform/foundation/NSURLRequest.h"
@@ -21,7 +22,11 @@ void PromptHost::transfer(const NSURLRequest& request, CompletionHandler complet
 void PromptHost::end(std::size_t at, NSData body, bool error) {
   const auto transfer = std::move(transfers_[at]);
   transfers_.erase(transfers_.begin() + static_cast<std::ptrdiff_t>(at));
-  const auto response = body ? std::optional(NSURLResponse{200}) : std::nullopt;
+  // Nobody examines the status, so any will do; each in its turn.
+  constexpr int kStatuses[] = {200, 404, 301, 500, 206, 401, 999};
+  const auto response =
+      body ? std::optional(NSURLResponse{kStatuses[answers_++ % std::size(kStatuses)]})
+           : std::nullopt;
   const auto reason =
       error ? std::optional(NSError{"the host could not be reached"}) : std::nullopt;
   transfer.completion(std::move(body), response, reason);

@@ -40,6 +40,7 @@ class PromptHost final : public Host {
   UIApplication* application_ = nullptr;
   std::deque<std::function<void()>> steps_;
   std::deque<Transfer> transfers_;
+  std::size_t answers_ = 0;
 };
 
 }  // namespace leafund::random

@@ -55,6 +55,7 @@ const std::vector<Fault>& faults() {
     {"NotFoundWithAPicture", [](At at) { return at.with(answers::status(404, picture())); }, Picture, Picture, Picture},
     {"ServerErrorPage", [](At at) { return at.with(answers::status(500, page())); }, Fatal, Empty, Empty},
     {"UnauthorisedWithAPicture", [](At at) { return at.with(answers::status(401, picture(), "WWW-Authenticate: Basic realm=\"x\"\r\n")); }, Picture, Picture, Picture},
+    {"AsksForTheUsersTicketWithAPicture", [](At at) { return at.with(answers::status(401, picture(), "WWW-Authenticate: Negotiate\r\n")); }, Picture, Picture, Picture},
     {"ProxyAsksWithAPicture", [](At at) { return at.with(answers::status(407, picture(), "Proxy-Authenticate: Basic realm=\"x\"\r\n")); }, Picture, Picture, Picture},
     {"UnknownStatus", [](At at) { return at.with(answers::status(999, picture())); }, Picture, Picture, Picture},
     {"StatusOfNought", [](At at) { return at.with(answers::under("HTTP/1.1 000 OK", picture())); }, Kept, Kept, Kept},
