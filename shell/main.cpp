@@ -8,7 +8,7 @@ int main(int argc, char** argv) {
   // Not on this function's stack: a host may return from its loop and live on. Never freed: where
   // the display goes away, the process exits from within the host's loop.
   static auto& host = *new leafund::QtHost(argc, argv);
-  return leafund::UIApplicationMain(argc, argv, std::nullopt,
-                                    leafund::NSStringFromClass<leafund::AppDelegate>(), host,
-                                    leafund::mainStoryboard());
+  const auto delegate = leafund::NSStringFromClass<leafund::AppDelegate>();
+  const auto& storyboard = leafund::mainStoryboard();
+  return leafund::UIApplicationMain(argc, argv, std::nullopt, delegate, host, storyboard);
 }

@@ -6,7 +6,7 @@ without a single coordinate. Fails where a control lacks one of them.
 
 import sys
 
-from reader import ESCAPE, PAGE_DOWN, Reader
+from reader import ESCAPE, PAGE_DOWN, Atspi, Reader
 from window import RoadBroken
 
 PLEDGED = "Vegetarian for PETA"
@@ -19,6 +19,9 @@ NO_PICTURE = "http://127.0.0.1:9/none.jpg"
 class Road:
     def __init__(self, reader):
         self.reader = reader
+        self.told = []  # texts that came or went
+        self.listener = Atspi.EventListener.new(lambda event: self.told.append(str(event.any_data)))
+        self.listener.register("object:text-changed")
 
     def steps(self):
         return (
@@ -45,6 +48,13 @@ class Road:
         reader.audit("sign-up")
         reader.press("Sign up")
         reader.expect_heard("Error: Please Enter a Name")
+        reader.type_into("Password", "greenest", shown="•" * 8)
+        reader.type_into("Password again", "greener", shown="•" * 7)
+        reader.press("Sign up")
+        reader.expect_heard("Error: Passwords Do Not Match")
+        reader.expect_nowhere("greene")
+        reader.wait("the message told as a text", lambda: any("Do Not" in t for t in self.told))
+        self.check(not any("greene" in t for t in self.told), "a change of text hides the password")
         reader.key(ESCAPE)
         reader.expect("Sign in", "push button")
 
@@ -89,6 +99,8 @@ class Road:
         reader.press("Fund this campaign")
         reader.expect_heard("Error: Donation Exceeds Maximum")
         reader.expect("Error: Donation Exceeds Maximum", "notification")
+        reader.press("Fund this campaign")
+        reader.expect_heard("Error: Donation Exceeds Maximum")
 
     def pledge(self):
         reader = self.reader

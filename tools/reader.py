@@ -71,8 +71,13 @@ class Reader:
         self.wait(f"“{text}” in “{field}”", lambda: self.text(self._field(field)) == text)
 
     def expect_focus(self, name):
-        node = self.expect(name)
-        self.wait(f"the focus on “{name}”", lambda: self.has(node, Atspi.StateType.FOCUSED))
+        """On whatever bears the name: a screen that leaves may have things of the same one."""
+
+        def focused():
+            return any(self.name(node) == name and self.has(node, Atspi.StateType.FOCUSED)
+                       for node in self.visible())
+
+        self.wait(f"the focus on “{name}”", focused)
 
     def rows(self):
         return [self.name(node) for node in self.visible() if self._role(node) == "list item"]

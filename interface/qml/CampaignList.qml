@@ -43,6 +43,8 @@ FocusScope {
         settling = true;
         rows.focusSeen(flickable.contentY, flickable.contentY + flickable.height);
         settling = false;
+        if (list.table.contentHeight === 0)
+            flickable.forceActiveFocus(Qt.ActiveWindowFocusReason);
     }
 
     function turnPage(direction) {
@@ -75,6 +77,8 @@ FocusScope {
         objectName: "table"
         anchors.fill: parent
         contentHeight: list.table.contentHeight
+        // Where there is no row that could have the focus.
+        activeFocusOnTab: contentHeight === 0
         boundsBehavior: Flickable.StopAtBounds
         clip: true
         onContentYChanged: list.table.scroll(contentY)
@@ -98,4 +102,8 @@ FocusScope {
     }
 
     ScrollMark { target: flickable }
+    FocusRing {
+        target: flickable
+        outset: -Theme.half
+    }
 }

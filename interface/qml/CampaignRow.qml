@@ -22,6 +22,18 @@ Pressable {
     Accessible.name: title.text
     Accessible.description: pitch.text
 
+    // The card does not grow with the system's text: where that is large, less of it is taken, so
+    // that a title and a pitch of two lines each find room.
+    readonly property real share: Math.min(1, (Theme.cardRoom - Theme.unit)
+                                              / (2 * titleLine.height + 2 * pitchLine.height))
+    FontMetrics {
+        id: titleLine
+        font { pointSize: Theme.lead; weight: Font.Bold }
+    }
+    FontMetrics {
+        id: pitchLine
+        font.pointSize: Theme.body
+    }
     FontMetrics {
         id: line
         font: pitch.font
@@ -65,7 +77,7 @@ Pressable {
             maximumLineCount: 2
             elide: Text.ElideRight
             color: Theme.ink
-            font { pointSize: Theme.lead; weight: Font.Bold }
+            font { pointSize: row.share * Theme.lead; weight: Font.Bold }
             Accessible.ignored: true
         }
         Text {
@@ -78,7 +90,7 @@ Pressable {
             readonly property real room: Theme.cardRoom - title.height - Theme.half
             elide: Text.ElideRight
             color: Theme.quiet
-            font.pointSize: Theme.body
+            font.pointSize: row.share * Theme.body
             Accessible.ignored: true
         }
     }

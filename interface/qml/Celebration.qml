@@ -19,6 +19,8 @@ Item {
         { x: 3.4, y: 4.4, size: 0.5, color: Theme.accent }
     ]
 
+    property bool seen: false
+
     NumberAnimation {
         target: party
         property: "scale"
@@ -26,7 +28,8 @@ Item {
         to: 1
         duration: Theme.fillDuration
         easing.type: Easing.OutBack
-        running: party.visible
+        running: party.visible && !party.seen
+        onFinished: party.seen = true
     }
 
     Rectangle {

@@ -31,8 +31,16 @@ Rectangle {
         if (editing)
             return;
         watch.leave();
-        input.focus = false;
+        if (input.activeFocus)
+            forceActiveFocus(Qt.ActiveWindowFocusReason);
+        else
+            input.focus = false;
     }
+
+    // The box then keeps the place among the controls, from which Tab leads on.
+    Keys.onTabPressed: input.nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
+    Keys.onBacktabPressed: input.forceActiveFocus(Qt.BacktabFocusReason)
+    FocusRing { target: box }
 
     // Later, and only if assistive technology has not written over it meanwhile.
     function selectMessage() {
@@ -51,10 +59,27 @@ Rectangle {
         onLeft: box.view.endEditing()
     }
 
+    // A finger enters by a tap, since it may have come to scroll; after it, as the input places the
+    // caret when the finger is lifted.
+    function takeTap() {
+        input.forceActiveFocus(Qt.MouseFocusReason);
+        Qt.inputMethod.show();
+        Qt.callLater(selectMessage);
+    }
+    TapHandler {
+        parent: box.input
+        onTapped: box.takeTap()
+    }
+    // The pointer enters when it is pressed, from where it may select.
+    PointHandler {
+        parent: box.input
+        acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
+        onActiveChanged: if (active) box.input.forceActiveFocus(Qt.MouseFocusReason)
+    }
     MouseArea {
         anchors.fill: parent
         cursorShape: Qt.IBeamCursor
-        onPressed: box.input.forceActiveFocus(Qt.MouseFocusReason)
+        onClicked: box.takeTap()
     }
 
     Text {
@@ -72,12 +97,11 @@ Rectangle {
     }
 
     // A message in the input is read out when it comes, wherever the user is.
-    Item {
-        readonly property string message: box.view.showsMessage ? box.view.text : ""
+    Announcement {
         anchors.fill: place
-        visible: message !== ""
-        Accessible.role: Accessible.Notification
-        Accessible.name: message
+        view: box.view
+        message: box.view.showsMessage ? box.view.text : ""
+        place: box
         Accessible.description: box.view.accessibleName
     }
 

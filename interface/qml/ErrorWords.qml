@@ -3,10 +3,19 @@ import Leafund
 
 // A message right below the input it is about; it is read out when it comes.
 Words {
+    id: words
+
     color: Theme.alert
     font { pointSize: Theme.body; weight: Font.DemiBold }
-    Accessible.role: Accessible.Notification
     leftPadding: Theme.icon + Theme.unit
+    Accessible.ignored: true
+
+    Announcement {
+        anchors.fill: parent
+        view: words.view
+        message: words.view.visible ? words.view.text : ""
+        place: words
+    }
 
     IconItem {
         y: (parent.height / Math.max(1, parent.lineCount) - height) / 2

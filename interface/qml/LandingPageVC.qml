@@ -6,6 +6,7 @@ Page {
 
     ScrollPane {
         scene: page.scene
+        name: page.views.brand.text
         centred: true
 
         IconItem {

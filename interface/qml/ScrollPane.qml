@@ -8,6 +8,8 @@ Item {
 
     required property SceneObject scene
     default property alias content: column.data
+    // What a reader that is put here is told: which screen has come.
+    property string name: scene.title
     property bool centred: false
     property alias spacing: column.spacing
 
@@ -16,12 +18,24 @@ Item {
     // sets activeFocusOnTab besides, so that the keyboard finds its way back to it.
     focus: true
 
-    // A reader that is put here says which screen has come.
     Accessible.role: Accessible.Pane
-    Accessible.name: scene.title
+    Accessible.name: name
+
+    // What a message has just come for, the topmost of several, is in sight until the user goes on.
+    property Item told: null
+    property bool revealing: false
+    function bringIntoSight(item) {
+        if (!told || item.mapToItem(column, 0, 0).y < told.mapToItem(column, 0, 0).y)
+            told = item;
+        Qt.callLater(reveal);
+    }
+    function goOn() {
+        told = null;
+        reveal();
+    }
 
     function reveal() {
-        const item = Window.activeFocusItem;
+        const item = told ?? Window.activeFocusItem;
         for (let each = item; each !== column; each = each.parent)
             if (!each)
                 return;
@@ -31,10 +45,12 @@ Item {
         const top = column.y + shown.y - Theme.wide;
         const bottom = column.y + shown.y + shown.height + Theme.space;
         const lowest = Math.max(0, flickable.contentHeight - flickable.height);
+        revealing = true;
         if (bottom > flickable.contentY + flickable.height)
             flickable.contentY = Math.min(lowest, bottom - flickable.height);
         if (top < flickable.contentY)
             flickable.contentY = Math.max(0, top);
+        revealing = false;
     }
 
     function scrollBy(distance) {
@@ -43,7 +59,9 @@ Item {
     }
 
     readonly property Item focused: Window.activeFocusItem
-    onFocusedChanged: reveal()
+    readonly property var caret: focused?.cursorRectangle
+    onFocusedChanged: goOn()
+    onCaretChanged: Qt.callLater(goOn)
     onHeightChanged: Qt.callLater(reveal)
 
     Keys.onUpPressed: scrollBy(-Theme.step)
@@ -62,6 +80,7 @@ Item {
         interactive: contentHeight > height
         clip: true
         onContentHeightChanged: Qt.callLater(pane.reveal)
+        onContentYChanged: if (!pane.revealing) pane.told = null
 
         // A tap beside the controls, which the pane would keep to itself where it scrolls.
         MouseArea {

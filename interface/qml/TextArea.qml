@@ -18,15 +18,22 @@ EntryBox {
         width: parent.width
         height: Math.max(implicitHeight, Theme.areaLines * metrics.lineSpacing)
         activeFocusOnTab: true
+        activeFocusOnPress: false
         text: area.view.text
         textFormat: TextEdit.PlainText
         wrapMode: TextEdit.Wrap
         color: area.view.textColor
         font { pointSize: Theme.lead; weight: area.view.coloured ? Font.Bold : Font.Normal }
         inputMethodHints: area.view.inputHints | Qt.ImhMultiLine
-        selectByMouse: true
+        // A finger that is drawn over it scrolls the form, as long as nothing is to be selected.
+        selectByMouse: pointer.hovered
         selectionColor: Theme.accentDeep
         selectedTextColor: Theme.accentInk
+
+        HoverHandler {
+            id: pointer
+            acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
+        }
 
         // What the toolkit wrote comes back equal and is no edit. A no-break space arrives as a plain
         // one: the editor gives out its text no other way.

@@ -10,6 +10,7 @@ Page {
 
     ScrollPane {
         scene: page.scene
+        name: page.views.thankYouLabel.text
         centred: true
         spacing: Theme.space
 

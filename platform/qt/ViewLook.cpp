@@ -25,8 +25,8 @@ Qt::InputMethodHints hintsFor(UIKeyboardType keyboard) {
   return Qt::ImhNone;
 }
 
-// In UTF-16 units. Qt lays out an endless word in a time that grows with its square (13 s for 400,000
-// letters), so no more is drawn of words to read than anybody reads.
+// In UTF-16 units. Qt lays out an endless word in a time that grows with its square (13 s for
+// 400,000 letters), so no more is drawn of words to read than anybody reads.
 constexpr qsizetype kMostWords = 20'000;
 
 QString wordsToRead(const std::string& text) {

@@ -39,6 +39,7 @@ void openUpdate(App& app) {
 
 void openForm(App& app) {
   app.openTab("mineTab");
+  app.settle();  // else what the list has asked for comes in any order with what it asks for again
   app.tap("newButton");
 }
 

@@ -53,6 +53,11 @@ class AccessibilityTest : public testing::Test {
     ASSERT_NE(control->actionInterface(), nullptr) << name.toStdString();
     control->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
   }
+  std::string focusedName() {
+    app.settle();
+    auto* focus = QAccessible::queryAccessibleInterface(app.window().activeFocusItem());
+    return focus ? focus->text(QAccessible::Name).toStdString() : "";
+  }
   // Focus over the bus, text by keys: that is how it goes in.
   void enter(const QString& name, const std::string& text) {
     auto* input = named(name, QAccessible::EditableText);
@@ -90,8 +95,11 @@ TEST_F(AccessibilityTest, EveryControlOfEveryScreenHasARoleAndAName) {
           << screen << ": " << each->object()->objectName().toStdString();
     }
     EXPECT_GT(controls, 0) << screen;
+    // Where a reader is put when the screen comes.
+    EXPECT_NE(focusedName(), "") << screen;
   };
   check("landing");
+  EXPECT_EQ(focusedName(), "Leafund");
   press("Create an account");
   check("sign-up");
   press("Back");
@@ -106,6 +114,12 @@ TEST_F(AccessibilityTest, EveryControlOfEveryScreenHasARoleAndAName) {
   press("New");
   check("new campaign");
   press("Back");
+  press("Funded", QAccessible::PageTab);
+  press(QString::fromStdString(campaignsIFunded()[0]->title()), QAccessible::ListItem);
+  press("Read the update");
+  check("update");
+  press("Back");
+  press("Back");
   press("Browse", QAccessible::PageTab);
   press("Biking to Work!", QAccessible::ListItem);
   check("campaign");
@@ -114,6 +128,7 @@ TEST_F(AccessibilityTest, EveryControlOfEveryScreenHasARoleAndAName) {
   check("confirm");
   press("Yes");
   check("thanks");
+  EXPECT_EQ(focusedName(), "Thank you for your pledge!");
 }
 
 TEST_F(AccessibilityTest, APasswordKeepsItsNameAndIsNowhereReadInClear) {

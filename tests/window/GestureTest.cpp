@@ -1,30 +1,11 @@
-#include <QPointingDevice>
-#include <memory>
-
-#include "tests/window/GlassFixture.h"
+#include "model/Catalogue.h"
+#include "tests/window/FingerFixture.h"
 
 namespace leafund {
 namespace {
 
-// A finger or the pointer that is put down, moved in small steps, and lifted.
-class GestureTest : public GlassTest {
+class GestureTest : public FingerTest {
  protected:
-  void touch(QPoint from, QPoint to) {
-    QTest::touchEvent(&app.window(), finger_.get()).press(0, from);
-    for (int i = 1; i <= kSteps && from != to; ++i) {
-      QTest::touchEvent(&app.window(), finger_.get()).move(0, from + (to - from) * i / kSteps);
-      waitForFrame();  // moves within one frame are told as one
-    }
-    QTest::touchEvent(&app.window(), finger_.get()).release(0, to);
-    QCoreApplication::processEvents();
-  }
-  void waitForFrame() {
-    bool drawn = false;
-    QObject context;
-    QObject::connect(&app.window(), &QQuickWindow::afterRendering, &context, [&] { drawn = true; });
-    app.window().update();
-    EXPECT_TRUE(app.waitUntil([&] { return drawn; }));
-  }
   void drag(QPoint from, QPoint to) {
     QTest::mousePress(&app.window(), Qt::LeftButton, {}, from);
     for (int i = 1; i <= kSteps; ++i) {
@@ -32,11 +13,6 @@ class GestureTest : public GlassTest {
     }
     QTest::mouseRelease(&app.window(), Qt::LeftButton, {}, to);
     QCoreApplication::processEvents();
-  }
-  void touch(QPoint where) { touch(where, where); }
-  QPoint middleOf(const std::string& name) {
-    auto& item = app.require(name);
-    return item.mapToScene({item.width() / 2, item.height() / 2}).toPoint();
   }
   std::string screen() {
     app.settle();
@@ -48,10 +24,6 @@ class GestureTest : public GlassTest {
     click("Funded-0");
     click("campaignUpdates");
   }
-
- private:
-  static constexpr int kSteps = 12;
-  std::unique_ptr<QPointingDevice> finger_{QTest::createTouchDevice()};
 };
 
 TEST_F(GestureTest, AFingerDrawnFromTheLeftEdgeLeavesOneScreen) {
@@ -154,9 +126,16 @@ TEST_F(GestureTest, TwoFingersOnYesBookOnce) {
   type("dollarAmountField", "1");
   click("FundButton");
   const auto yes = middleOf("yesButton");
-  touch(yes);
-  touch(yes);
+  const auto beside = yes + QPoint(40, 0);
+  const std::unique_ptr<QPointingDevice> hand(QTest::createTouchDevice());
+  const auto glass = [&] { return QTest::touchEvent(&app.window(), hand.get()); };
+  glass().press(0, yes).press(1, beside);
+  glass().release(0, yes).stationary(1);
+  glass().release(1, beside);
+  touch(yes);  // while the screen slides out
   EXPECT_EQ(screen(), "ThankYouVC");
+  EXPECT_EQ(campaignsIFunded().size(), 4U);
+  EXPECT_EQ(otherCampaigns().size(), 6U);
 }
 
 }  // namespace

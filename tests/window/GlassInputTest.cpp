@@ -1,4 +1,6 @@
+#include <QClipboard>
 #include <QColor>
+#include <QGuiApplication>
 
 #include "tests/window/GlassFixture.h"
 
@@ -45,6 +47,18 @@ TEST_F(GlassInputTest, TypingInTheMiddleKeepsTheCursorThere) {
   app.settle();
   EXPECT_EQ(glassText("userEmail"), "abc");
   EXPECT_EQ(app.require("userEmail").property("cursorPosition").toInt(), 2);
+}
+
+TEST_F(GlassInputTest, ALineBreakThatIsPastedDoesNotEnterAFieldOfOneLine) {
+  QGuiApplication::clipboard()->setText("wr\r\ne\nn");
+  for (const auto* name : {"userEmail", "password"}) {
+    type(name, "<>");
+    app.press(Qt::Key_Left);
+    QTest::keyClick(&app.window(), Qt::Key_V, Qt::ControlModifier);
+    app.typeKeys("!");
+    app.settle();
+    EXPECT_EQ(glassText(name), "<wren!>") << name;
+  }
 }
 
 TEST_F(GlassInputTest, AFocusThatTheWindowGivesBackIsNotAUserEnteringAnInput) {

@@ -150,6 +150,46 @@ TEST_F(KeyboardRoadTest, EscapeLeadsBackAlsoFromWithinAnInputAndIsRefusedWithout
   EXPECT_EQ(app.shown()->className(), "LandingPageVC");
 }
 
+TEST_F(KeyboardRoadTest, ReturnEndsTheEditingAndKeepsThePlaceInTheForm) {
+  signInByKeys();
+  pressAt("mineTab");
+  pressAt("newButton");
+  typeAt("nameOfCampaign", "Wren");
+  key(Qt::Key_Return);
+  EXPECT_EQ(app.application->firstResponder(), nullptr);
+  EXPECT_NE(focusedName(), "nameOfCampaign");
+  key(Qt::Key_Tab);
+  EXPECT_EQ(focusedName(), "shortDescription");
+  tabTo("imageURL");
+  key(Qt::Key_Return);
+  key(Qt::Key_Backtab, Qt::ShiftModifier);
+  EXPECT_EQ(focusedName(), "imageURL");
+}
+
+TEST_F(KeyboardRoadTest, ATapBesideTheInputsKeepsThePlaceInTheForm) {
+  signIn();
+  click("mineTab");
+  click("newButton");
+  click("nameOfCampaign");
+  QTest::mouseClick(&app.window(), Qt::LeftButton, {}, QPoint(8, 400));
+  EXPECT_EQ(app.application->firstResponder(), nullptr);
+  key(Qt::Key_Tab);
+  EXPECT_EQ(focusedName(), "shortDescription");
+}
+
+TEST_F(KeyboardRoadTest, TheArrowsScrollAfterReturn) {
+  signInByKeys();
+  pressAt("mineTab");
+  pressAt("newButton");
+  tabTo("nameOfCreator");
+  key(Qt::Key_Return);
+  auto* pane = focused();
+  while (pane != nullptr && !pane->inherits("QQuickFlickable")) pane = pane->parentItem();
+  ASSERT_NE(pane, nullptr);
+  key(Qt::Key_Down);
+  EXPECT_GT(pane->property("contentY").toDouble(), 0);
+}
+
 TEST_F(KeyboardRoadTest, WhoUsesThePointerSeesNoRing) {
   signIn();  // by clicks and typing, the last of it a click
   ASSERT_NE(focused(), nullptr);

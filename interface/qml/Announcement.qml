@@ -1,0 +1,43 @@
+import QtQuick
+import Leafund
+
+// Has a message of a view read out when it comes, when it takes another's place, and when it comes
+// once more. Assistive technology reads a notification that begins to show.
+Item {
+    id: announcement
+
+    required property ViewObject view
+    // Empty where there is none.
+    required property string message
+    // The control that is to be seen with it.
+    required property Item place
+
+    property bool editing: false
+    property string told
+
+    visible: false
+    Accessible.role: Accessible.Notification
+    Accessible.name: message
+
+    function tell() {
+        visible = false;
+        visible = message !== "";
+        told = message;
+        for (let each = parent; visible && each; each = each.parent)
+            if (each.bringIntoSight)
+                return each.bringIntoSight(place);
+    }
+
+    Component.onCompleted: tell()
+
+    // That the user enters or leaves the input is a change of the view and none of the message.
+    Connections {
+        target: announcement.view
+        function onChanged() {
+            const entered = announcement.editing !== announcement.view.editing;
+            announcement.editing = announcement.view.editing;
+            if (!entered || announcement.message !== announcement.told)
+                Qt.callLater(announcement.tell);
+        }
+    }
+}

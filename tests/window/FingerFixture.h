@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QPointingDevice>
+#include <memory>
+#include <string>
+
+#include "tests/window/GlassFixture.h"
+
+namespace leafund {
+
+// The application used with a finger that is put down, moved in small steps, and lifted.
+class FingerTest : public GlassTest {
+ protected:
+  static constexpr int kSteps = 12;
+  std::unique_ptr<QPointingDevice> finger_{QTest::createTouchDevice()};
+
+  void touch(QPoint from, QPoint to) {
+    QTest::touchEvent(&app.window(), finger_.get()).press(0, from);
+    for (int i = 1; i <= kSteps && from != to; ++i) {
+      QTest::touchEvent(&app.window(), finger_.get()).move(0, from + (to - from) * i / kSteps);
+      waitForFrame();  // moves within one frame are told as one
+    }
+    QTest::touchEvent(&app.window(), finger_.get()).release(0, to);
+    QCoreApplication::processEvents();
+  }
+  void touch(QPoint where) { touch(where, where); }
+  void touchItem(const std::string& name) {
+    touch(middleOf(name));
+    app.settle();
+  }
+  QPoint middleOf(const std::string& name) {
+    auto& item = app.require(name);
+    return item.mapToScene({item.width() / 2, item.height() / 2}).toPoint();
+  }
+
+ private:
+  void waitForFrame() {
+    bool drawn = false;
+    QObject context;
+    QObject::connect(&app.window(), &QQuickWindow::afterRendering, &context, [&] { drawn = true; });
+    app.window().update();
+    EXPECT_TRUE(app.waitUntil([&] { return drawn; }));
+  }
+};
+
+}  // namespace leafund

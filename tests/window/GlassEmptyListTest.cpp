@@ -1,0 +1,38 @@
+#include <QAccessible>
+
+#include "model/Catalogue.h"
+#include "tests/window/KeyboardFixture.h"
+
+namespace leafund {
+namespace {
+
+class GlassEmptyListTest : public KeyboardTest {};
+
+TEST_F(GlassEmptyListTest, TheKeyboardIsSeenToStandOnAListWithoutRowsAndComesBackToIt) {
+  otherCampaigns().clear();
+  typeAt("userEmail", "wren@example.org");
+  typeAt("password", "secret");
+  pressAt("signInButton");  // which also looks for the ring around what is in focus
+  EXPECT_EQ(focusedName(), "table");
+  auto* access = QAccessible::queryAccessibleInterface(focused());
+  ASSERT_NE(access, nullptr);
+  EXPECT_EQ(access->role(), QAccessible::List);
+  EXPECT_EQ(access->text(QAccessible::Name), "Browse");
+  key(Qt::Key_Tab);
+  EXPECT_NE(focusedName(), "table");
+  tabTo("table");
+}
+
+TEST_F(GlassEmptyListTest, AListThatGetsItsFirstRowGivesTheFocusToIt) {
+  myUnfundedCampaigns().clear();
+  signIn();
+  click("mineTab");
+  tabTo("table");
+  myUnfundedCampaigns().push_back(otherCampaigns()[0]);
+  pressAt("browseTab");
+  pressAt("mineTab");
+  EXPECT_FALSE(app.require("table").property("activeFocusOnTab").toBool());
+}
+
+}  // namespace
+}  // namespace leafund
