@@ -72,12 +72,9 @@ class Reader:
 
     def expect_focus(self, name):
         """On whatever bears the name: a screen that leaves may have things of the same one."""
-
-        def focused():
-            return any(self.name(node) == name and self.has(node, Atspi.StateType.FOCUSED)
-                       for node in self.visible())
-
-        self.wait(f"the focus on “{name}”", focused)
+        self.wait(f"the focus on “{name}”", lambda: any(
+            self.name(node) == name and self.has(node, Atspi.StateType.FOCUSED)
+            for node in self.visible()))
 
     def rows(self):
         return [self.name(node) for node in self.visible() if self._role(node) == "list item"]
