@@ -1,21 +1,22 @@
 # shellcheck shell=bash disable=SC2154 # sourced by ./test, which sets what is used here
-# What ./test long runs beside the short form, sourced by it: hours, not minutes.
+# What ./test long runs beside the short form, sourced by it: an hour or two, not minutes.
 
-# Every suite, with the memory watched, and what nobody holds any more at the end.
+# Every suite, with the memory watched, and without a window also what nobody holds any more at the
+# end. With one, Qt's threads of the network end when they like, and the leak check fails on a thread
+# that is ending ("Tracer caught signal 11", about once in 50 runs).
 runAddressSuites() {
   enter asan-ubsan
   build asan-ubsan "" -DLEAFUND_PICTURE_HOST="$pictureHost"
   export ASAN_OPTIONS=detect_stack_use_after_return=1
-  export LSAN_OPTIONS=suppressions=$PWD/tests/lsan-suppressions.txt:print_suppressions=0
   export UBSAN_OPTIONS=print_stacktrace=1
   local suite
   for suite in $(suites); do
-    # Qt's threads of the network end by themselves, and the leak check fails on one that is ending.
-    [[ $suite == faults ]] && ASAN_OPTIONS+=:detect_leaks=0
+    [[ $suite =~ ^(model|platform|screens|shell|journeys|contract_headless|random|corpora)$ ]] ||
+      ASAN_OPTIONS+=:detect_leaks=0
     runSuite "asan $suite" -L "^$suite\$"
     ASAN_OPTIONS=${ASAN_OPTIONS%:detect_leaks=0}
   done
-  unset ASAN_OPTIONS LSAN_OPTIONS UBSAN_OPTIONS
+  unset ASAN_OPTIONS UBSAN_OPTIONS
 }
 
 # What crosses from the session's thread to the main one, with every access to memory watched. Without

@@ -63,7 +63,7 @@ std::size_t heapBytes() {
   return use.uordblks + use.hblkhd;
 }
 
-// A build for debugging takes 17 s for what an optimised one shows in 5 s.
+// A build for debugging is shown fewer: it takes several times as long for each.
 #ifdef __OPTIMIZE__
 constexpr std::size_t kShowings = 1'000'000;
 #else
