@@ -130,10 +130,15 @@ class Road:
         reader.press("Read the update")
         reader.expect("December 1", "label")
         reader.audit("update")
+        self.go_back_to("Read the update")
+        self.go_back_to(FUNDED_BEFORE)
+
+    def go_back_to(self, name):
+        """A screen that slides out still shows its own way back, which leads nowhere any more."""
+        reader = self.reader
+        reader.wait("one way back", lambda: [*map(reader.name, reader.visible())].count("Back") == 1)
         reader.press("Back")
-        reader.expect_focus("Read the update")
-        reader.press("Back")
-        reader.expect_focus(FUNDED_BEFORE)
+        reader.expect_focus(name)
 
     def create_a_campaign(self):
         reader = self.reader

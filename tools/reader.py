@@ -49,13 +49,14 @@ class Reader:
             yield node
             waiting.extend(child for child in reversed(children) if child)
 
-    def expect(self, name, role=None):
-        """The first visible thing of exactly that name."""
+    def expect(self, name, role=None, state=Atspi.StateType.VISIBLE):
+        """The first visible thing of exactly that name; what leaves is seen, and not enabled."""
 
         def found():
             for node in self.visible():
                 if self.name(node) == name and role in (None, self._role(node)):
-                    return node
+                    if self.has(node, state):
+                        return node
             return None
 
         return self.wait(f"{role or 'something'} called “{name}”", found)
@@ -95,10 +96,10 @@ class Reader:
     # Acting
 
     def press(self, name, role="push button"):
-        self._act(self.expect(name, role), "Press")
+        self._act(self.expect(name, role, Atspi.StateType.ENABLED), "Press")
 
     def act(self, name, role, action):
-        self._act(self.expect(name, role), action)
+        self._act(self.expect(name, role, Atspi.StateType.ENABLED), action)
 
     def write(self, field, text):
         """Puts a text into a field as a whole, without the keyboard."""
