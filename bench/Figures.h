@@ -1,0 +1,46 @@
+#pragma once
+
+#include <algorithm>
+#include <chrono>
+#include <cstddef>
+#include <cstdio>
+#include <fstream>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "bench/Campaigns.h"
+
+namespace leafund {
+
+// Where a program writes what it measured: a line a figure, its name and its value, in the file
+// named on the command line. Standard output is the application's own.
+class Figures {
+ public:
+  Figures(int argc, char** argv) : file_(argc > 1 ? argv[1] : "") {
+    demand(file_.is_open(), "the program was given a file for its figures");
+  }
+  void add(const std::string& name, double value) { file_ << name << ' ' << value << '\n'; }
+
+ private:
+  std::ofstream file_;
+};
+
+inline double secondsOf(const std::function<void()>& work) {
+  const auto start = std::chrono::steady_clock::now();
+  work();
+  return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+// The value that this share of all the values does not exceed.
+inline double quantile(std::vector<double> values, double share) {
+  demand(!values.empty(), "something was measured");
+  const auto place = static_cast<std::size_t>(share * static_cast<double>(values.size() - 1));
+  std::nth_element(values.begin(), values.begin() + static_cast<std::ptrdiff_t>(place),
+                   values.end());
+  return values[place];
+}
+
+inline double median(std::vector<double> values) { return quantile(std::move(values), 0.5); }
+
+}  // namespace leafund

@@ -1,0 +1,175 @@
+// A frame of the browse list that scrolls by 60 pixels a frame, with its pictures there, beside
+// plain painting of the same rows; and a frame while nothing scrolls.
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QGuiApplication>
+#include <QPainter>
+#include <QTextLayout>
+#include <map>
+#include <memory>
+
+#include "bench/Figures.h"
+#include "bench/GlassBench.h"
+#include "platform/uikit/UITableViewCell.h"
+
+namespace leafund {
+namespace {
+
+constexpr std::size_t kRows = 10'000;
+constexpr int kFrames = 3'000;
+constexpr int kStep = 60;
+constexpr int kRowHeight = 160;
+
+// The limit: the rows' card and picture ready as images, their texts laid out once a row, and
+// nothing around them.
+class PaintedList {
+ public:
+  PaintedList(QSize size, QImage card, QImage picture)
+      : canvas_(size, QImage::Format_RGB32),
+        card_(std::move(card)),
+        picture_(std::move(picture)),
+        title_(QGuiApplication::font()),
+        pitch_(title_) {
+    title_.setPointSizeF(15);
+    title_.setWeight(QFont::Bold);
+    pitch_.setPointSizeF(12);
+  }
+
+  void paint(int offset) {
+    QPainter painter(&canvas_);
+    const int first = offset / kRowHeight;
+    const int last = std::min<int>((offset + canvas_.height() - 1) / kRowHeight, kRows - 1);
+    for (int row = first; row <= last; ++row) paintRow(painter, row, row * kRowHeight - offset);
+    while (!texts_.empty() && texts_.begin()->first < first) texts_.erase(texts_.begin());
+  }
+
+  const QImage& canvas() const { return canvas_; }
+
+ private:
+  struct Texts {
+    std::unique_ptr<QTextLayout> title;
+    std::unique_ptr<QTextLayout> pitch;
+  };
+
+  void paintRow(QPainter& painter, int row, int top) {
+    painter.drawImage(0, top, card_);
+    painter.drawImage(16, top + 50, picture_);
+    auto& texts = textsOf(row);
+    painter.setPen(Qt::black);
+    texts.title->draw(&painter, QPointF(97, top + 40));
+    painter.setPen(Qt::darkGray);
+    texts.pitch->draw(&painter, QPointF(97, top + 64));
+  }
+
+  Texts& textsOf(int row) {
+    auto& texts = texts_[row];
+    if (!texts.title) {
+      const auto& campaign = *otherCampaigns()[static_cast<std::size_t>(row)];
+      texts.title = laidOut(campaign.title(), title_);
+      texts.pitch = laidOut(campaign.shortDescription(), pitch_);
+    }
+    return texts;
+  }
+
+  std::unique_ptr<QTextLayout> laidOut(const std::string& text, const QFont& font) const {
+    auto layout = std::make_unique<QTextLayout>(QString::fromStdString(text), font);
+    layout->setCacheEnabled(true);
+    layout->beginLayout();
+    qreal y = 0;
+    for (auto line = layout->createLine(); line.isValid(); line = layout->createLine()) {
+      line.setLineWidth(canvas_.width() - 97 - 16);
+      line.setPosition({0, y});
+      y += line.height();
+    }
+    layout->endLayout();
+    return layout;
+  }
+
+  QImage canvas_;
+  QImage card_;
+  QImage picture_;
+  QFont title_;
+  QFont pitch_;
+  std::map<int, Texts> texts_;
+};
+
+// Every cell of the pool has got its picture; from now on none comes.
+void showPictures(GlassBench& glass) {
+  QFile file(QStringLiteral(LEAFUND_PICTURES_DIR "/biking-to-work.jpg"));
+  demand(file.open(QFile::ReadOnly), "the picture is there");
+  const auto body = std::make_shared<const std::string>(file.readAll().toStdString());
+  const auto image = UIImage::initWithData(body);
+  for (int frame = 0; frame < 40; ++frame) {
+    glass.scrollTo(frame * kStep);
+    glass.application->turn([&] {
+      for (const auto& [row, cell] : glass.table()->visibleCells()) {
+        cell->imageView()->setImage(image);
+      }
+    });
+    glass.frame();
+  }
+}
+
+// The frame shows the rows: what was at one place is at another after scrolling.
+void checkThatItScrolls(GlassBench& glass) {
+  glass.scrollTo(16'000);
+  glass.frame();
+  const QImage before = glass.picture();
+  glass.scrollTo(16'000 + kStep);
+  glass.frame();
+  const QImage after = glass.picture();
+  const auto top = static_cast<int>(glass.list().mapToScene({0, 0}).y());
+  // The second whole row's picture, without its edges.
+  const QRect there(20, top + 210, 57, 57);
+  demand(before.copy(there) == after.copy(there.translated(0, -kStep)), "the rows move by a step");
+  demand(before.copy(there) != after.copy(there), "and do not stay");
+}
+
+std::vector<double> framesOfOurs(GlassBench& glass) {
+  std::vector<double> times;
+  for (int frame = 0; frame < kFrames; ++frame) {
+    QCoreApplication::processEvents();  // what was posted is no part of the frame
+    times.push_back(secondsOf([&] {
+      glass.scrollTo(16'000 + frame * kStep);
+      glass.frame();
+    }));
+  }
+  return times;
+}
+
+std::vector<double> framesOfTheLimit(PaintedList& painted) {
+  std::vector<double> times;
+  for (int frame = 0; frame < kFrames; ++frame) {
+    times.push_back(secondsOf([&] { painted.paint(16'000 + frame * kStep); }));
+  }
+  return times;
+}
+
+int run(int argc, char** argv) {
+  Figures figures(argc, argv);
+  resizeList(otherCampaigns(), kRows);
+  GlassBench glass;
+  glass.signIn();
+  showPictures(glass);
+  checkThatItScrolls(glass);
+  const auto& list = glass.list();
+  QImage card(QSize(static_cast<int>(list.width()), kRowHeight), QImage::Format_RGB32);
+  card.fill(Qt::white);
+  QImage picture(65, 65, QImage::Format_ARGB32_Premultiplied);
+  picture.fill(QColor(120, 80, 40, 200));
+  PaintedList painted(list.size().toSize(), card, picture);
+  for (int round = 0; round < 5; ++round) {
+    const auto ours = framesOfOurs(glass);
+    const auto limit = framesOfTheLimit(painted);
+    figures.add("ours_median_ms", median(ours) * 1e3);
+    figures.add("ours_p99_ms", quantile(ours, 0.99) * 1e3);
+    figures.add("limit_median_ms", median(limit) * 1e3);
+  }
+  return 0;
+}
+
+}  // namespace
+}  // namespace leafund
+
+int main(int argc, char** argv) { return leafund::run(argc, argv); }

@@ -1,0 +1,110 @@
+#include "bench/GlassBench.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <chrono>
+
+#include "bench/Campaigns.h"
+#include "platform/uikit/UINavigationController.h"
+#include "platform/uikit/UITabContainer.h"
+#include "shell/AppDelegate.h"
+
+namespace leafund {
+
+namespace {
+
+QtHost makeHost() {
+  static int argc = 1;
+  static char name[] = "leafund";
+  static char* argv[] = {name, nullptr};
+  return QtHost(argc, argv);
+}
+
+std::shared_ptr<UIView> descendant(const UIView& root, const std::string& name) {
+  for (const auto& view : root.subviews()) {
+    if (view->name() == name) return view;
+    if (auto found = descendant(*view, name)) return found;
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+GlassBench::GlassBench(const UIStoryboard& storyboard)
+    : host(makeHost()),
+      application(
+          std::make_shared<UIApplication>(host, storyboard, std::make_shared<AppDelegate>())) {
+  setCurrentHost(&host);
+  host.start(*application);
+  waitUntil([&] { return window().isExposed(); });
+}
+
+GlassBench::~GlassBench() {
+  host.stop();
+  application.reset();
+  setCurrentHost(nullptr);
+}
+
+void GlassBench::signIn() {
+  for (const auto* name : {"userEmail", "password"}) {
+    const auto input = std::dynamic_pointer_cast<UITextInput>(view(name));
+    application->beginEditing(input);
+    application->edit(input, "wren");
+  }
+  application->tap(view("signInButton"));
+  settle();
+  demand(page().objectName() == "TabBarVC", "the home screen is shown");
+}
+
+void GlassBench::frame() {
+  QEvent request(QEvent::UpdateRequest);
+  QCoreApplication::sendEvent(&window(), &request);
+}
+
+void GlassBench::waitUntil(const std::function<bool()>& done) {
+  const auto patience = std::chrono::steady_clock::now() + std::chrono::seconds(30);
+  while (!done()) {
+    QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
+    demand(std::chrono::steady_clock::now() < patience, "what was waited for came to be");
+  }
+}
+
+void GlassBench::settle() {
+  waitUntil([&] {
+    int visible = 0;
+    for (const auto* each : window().contentItem()->childItems()) visible += each->isVisible();
+    return visible == 1 && page().x() == 0;
+  });
+  frame();
+}
+
+QQuickItem& GlassBench::page() {
+  const auto& screen = *application->navigation()->topViewController();
+  const auto name = QString::fromStdString(screen.className());
+  for (auto* each : window().contentItem()->childItems()) {
+    if (each->objectName() == name && each->isVisible() && each->isEnabled()) return *each;
+  }
+  demand(false, "the topmost screen is on the glass");
+  std::abort();
+}
+
+QQuickItem& GlassBench::item(const std::string& name) {
+  for (auto* each : page().findChildren<QQuickItem*>(QString::fromStdString(name))) {
+    if (each->isVisible()) return *each;
+  }
+  demand(false, name);
+  std::abort();
+}
+
+std::shared_ptr<UITableView> GlassBench::table() {
+  const auto tabs = application->navigation()->topViewController()->tabContainer();
+  return std::dynamic_pointer_cast<UITableView>(tabs->selectedViewController()->view());
+}
+
+std::shared_ptr<UIView> GlassBench::view(const std::string& name) {
+  auto found = descendant(*application->navigation()->topViewController()->view(), name);
+  demand(found != nullptr, name);
+  return found;
+}
+
+}  // namespace leafund

@@ -1,0 +1,65 @@
+// From the tap on a row to the campaign's first frame, beside an empty scene that is pushed in the
+// same way.
+
+#include "bench/Figures.h"
+#include "bench/GlassBench.h"
+#include "platform/uikit/Scene.h"
+#include "platform/uikit/UINavigationController.h"
+#include "platform/uikit/UITableViewCell.h"
+
+namespace leafund {
+namespace {
+
+class EmptyVC : public UIViewController {};
+
+void emptyScene(Scene<EmptyVC>& scene, EmptyVC&) { scene.title("Empty"); }
+
+UIStoryboard storyboard() {
+  auto scenes = mainStoryboard().scenes();
+  scenes.push_back(scene("EmptyVC", emptyScene));
+  auto segues = mainStoryboard().segues();
+  segues.push_back({"emptySegue", "TabBarVC", "EmptyVC", SegueKind::Push});
+  return {"LandingPageVC", std::move(scenes), std::move(segues)};
+}
+
+// Opens a screen with its first frame, checks that it is there, and goes back.
+double opened(GlassBench& glass, const std::function<void()>& open, const char* className) {
+  glass.settle();
+  const QImage before = glass.picture();
+  const double seconds = secondsOf([&] {
+    open();
+    glass.frame();
+  });
+  demand(glass.page().objectName() == className, "the screen is shown");
+  glass.settle();
+  demand(glass.picture() != before, "and seen");
+  glass.application->goBack();
+  glass.settle();
+  return seconds;
+}
+
+int run(int argc, char** argv) {
+  Figures figures(argc, argv);
+  const UIStoryboard withEmpty = storyboard();
+  GlassBench glass(withEmpty);
+  glass.signIn();
+  const auto openCampaign = [&] { glass.application->tap(glass.table()->visibleCells().at(1)); };
+  const auto openEmpty = [&] {
+    glass.application->turn([&] {
+      const auto& home = glass.application->navigation()->topViewController();
+      home->performSegueWithIdentifierSender("emptySegue", home);
+    });
+  };
+  figures.add("first_campaign_ms", opened(glass, openCampaign, "OneCampaignViewController") * 1e3);
+  figures.add("first_empty_ms", opened(glass, openEmpty, "EmptyVC") * 1e3);
+  for (int round = 0; round < 25; ++round) {
+    figures.add("campaign_ms", opened(glass, openCampaign, "OneCampaignViewController") * 1e3);
+    figures.add("empty_ms", opened(glass, openEmpty, "EmptyVC") * 1e3);
+  }
+  return 0;
+}
+
+}  // namespace
+}  // namespace leafund
+
+int main(int argc, char** argv) { return leafund::run(argc, argv); }

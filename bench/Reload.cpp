@@ -1,0 +1,31 @@
+// The frame that follows a reload of the list, at hundred and at a million campaigns.
+
+#include "bench/Figures.h"
+#include "bench/GlassBench.h"
+
+namespace leafund {
+namespace {
+
+int run(int argc, char** argv) {
+  Figures figures(argc, argv);
+  GlassBench glass;
+  glass.signIn();
+  for (int round = 0; round < 25; ++round) {
+    for (const std::size_t count : {100UL, 10'000UL, 1'000'000UL}) {
+      resizeList(otherCampaigns(), count);
+      glass.application->turn([&] { glass.table()->reloadData(); });
+      demand(
+          glass.list().property("contentHeight").toDouble() == 160.0 * static_cast<double>(count),
+          "the glass knows of every row");
+      const double seconds = secondsOf([&] { glass.frame(); });
+      figures.add("frame_after_" + std::to_string(count) + "_ms", seconds * 1e3);
+      resizeList(otherCampaigns(), 100);
+    }
+  }
+  return 0;
+}
+
+}  // namespace
+}  // namespace leafund
+
+int main(int argc, char** argv) { return leafund::run(argc, argv); }
