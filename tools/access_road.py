@@ -6,8 +6,8 @@ without a single coordinate. Fails where a control lacks one of them.
 
 import sys
 
-from reader import ESCAPE, PAGE_DOWN, Atspi, Reader
-from window import RoadBroken
+from bus import Atspi, check, go
+from reader import ESCAPE, PAGE_DOWN, Reader
 
 PLEDGED = "Vegetarian for PETA"
 FUNDED_BEFORE = "Compost for Christ!"
@@ -54,7 +54,7 @@ class Road:
         reader.expect_heard("Error: Passwords Do Not Match")
         reader.expect_nowhere("greene")
         reader.wait("the message told as a text", lambda: any("Do Not" in t for t in self.told))
-        self.check(not any("greene" in t for t in self.told), "a change of text hides the password")
+        check(not any("greene" in t for t in self.told), "a change of text hides the password")
         reader.key(ESCAPE)
         reader.expect("Sign in", "push button")
 
@@ -71,7 +71,7 @@ class Road:
         reader = self.reader
         reader.expect_focus(PLEDGED)
         reader.audit("browse")
-        self.check(LAST_ROW not in reader.rows(), "the last row is out of sight")
+        check(LAST_ROW not in reader.rows(), "the last row is out of sight")
         reader.act("Browse", "list", "Next Page")
         reader.expect(LAST_ROW, "list item")
         reader.act("Browse", "list", "Previous Page")
@@ -91,7 +91,7 @@ class Road:
         for words in ("Arlo", "Raised so far", "$120.00", "$200.00"):
             reader.expect(words, "label")
         progress = reader.expect("Share of the goal raised", "progress bar")
-        self.check(reader.range(progress) == (60, 0, 100), "60 between 0 and 100")
+        check(reader.range(progress) == (60, 0, 100), "60 between 0 and 100")
 
     def have_a_pledge_refused(self):
         reader = self.reader
@@ -119,7 +119,7 @@ class Road:
         reader = self.reader
         reader.press("Funded", "page tab")
         reader.expect(PLEDGED, "list item")
-        self.check(reader.rows()[0] == PLEDGED, "the new pledge is the first row")
+        check(reader.rows()[0] == PLEDGED, "the new pledge is the first row")
         reader.audit("funded")
 
     def read_update(self):
@@ -161,29 +161,8 @@ class Road:
         reader.expect("Thank you for creating a campaign!", "heading")
         reader.press("Home")
         reader.expect("Rain Barrels", "list item")
-        self.check(reader.rows()[0] == "Rain Barrels", "the new campaign is the first row")
-
-    @staticmethod
-    def check(holds, what):
-        if not holds:
-            raise RoadBroken(f"expected: {what}")
-
-
-def main():
-    reader = None
-    try:
-        reader = Reader(int(sys.argv[1]))
-        road = Road(reader)
-        for step in road.steps():
-            step()
-            print(f"by assistive technology, {step.__name__.replace('_', ' ')}: done", flush=True)
-    except RoadBroken as reason:
-        print(f"The road of assistive technology broke: {reason}", file=sys.stderr)
-        if reader:
-            print(f"What is to be read:\n{reader.describe()}", file=sys.stderr)
-        return 1
-    return 0
+        check(reader.rows()[0] == "Rain Barrels", "the new campaign is the first row")
 
 
 if __name__ == "__main__":
-    sys.exit(main())
+    sys.exit(go(Road, lambda: Reader(int(sys.argv[1])), "by assistive technology, "))

@@ -7,13 +7,14 @@ change of words does.
 
 import sys
 
-from window import FIELDS, TABS, RoadBroken, Window
+from bus import FIELDS, check, go
+from window import TABS, Window
 
 PLEDGED = "Vegetarian for PETA"
 FUNDED_BEFORE = "Compost for Christ!"
 
 
-class Tour:
+class Road:
     def __init__(self, window, folder):
         self.window = window
         self.folder = folder
@@ -72,7 +73,7 @@ class Tour:
         self.save("browse-after-pledge")
         window.click("Funded", TABS)
         window.expect(PLEDGED)
-        self.check(PLEDGED in window.rows()[0], "the new pledge is the first row")
+        check(PLEDGED in window.rows()[0], "the new pledge is the first row")
         window.expect_picture(FUNDED_BEFORE)
         self.save("funded")
 
@@ -105,27 +106,7 @@ class Tour:
         self.window.click("Back")
         self.window.expect(name)
 
-    def check(self, holds, what):
-        if not holds:
-            raise RoadBroken(f"expected: {what}")
-
-
-def main():
-    process, folder = int(sys.argv[1]), sys.argv[2]
-    window = None
-    try:
-        window = Window(process)
-        tour = Tour(window, folder)
-        for step in tour.steps():
-            step()
-            print(f"{step.__name__.replace('_', ' ')}: done", flush=True)
-    except RoadBroken as reason:
-        print(f"The road broke: {reason}", file=sys.stderr)
-        if window:
-            print(f"On the screen:\n{window.describe()}", file=sys.stderr)
-        return 1
-    return 0
-
 
 if __name__ == "__main__":
-    sys.exit(main())
+    folder = sys.argv[2]
+    sys.exit(go(lambda window: Road(window, folder), lambda: Window(int(sys.argv[1]))))

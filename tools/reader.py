@@ -1,13 +1,6 @@
 """The app as assistive technology meets it: over the accessibility bus alone, without a place."""
 
-import os
-import time
-
-import gi
-from window import FIELDS, LIMIT, RoadBroken
-
-gi.require_version("Atspi", "2.0")
-from gi.repository import Atspi, GLib  # noqa: E402
+from bus import FIELDS, App, Atspi, GLib, RoadBroken
 
 SHOWING = "object:state-changed:showing"
 NOT_A_ROLE = {"unknown", "invalid", "filler", ""}
@@ -15,15 +8,12 @@ PAGE_DOWN = 0xFF56  # the X keyboard's numbers of keys
 ESCAPE = 0xFF1B
 
 
-class Reader:
+class Reader(App):
     """Reads names, roles, states, texts and values; acts by actions, texts and keys."""
 
     def __init__(self, process):
-        self.process = process
+        super().__init__(process)
         self.heard = []  # messages, in the order they came
-        Atspi.init()
-        self.application = self.wait("the app on the accessibility bus", self._find_application)
-        Atspi.Accessible.set_cache_mask(self.application, Atspi.Cache.NONE)
         self._listener = Atspi.EventListener.new(self._on_event)
         self._listener.register(SHOWING)
 
@@ -31,23 +21,10 @@ class Reader:
 
     def visible(self):
         """Everything that is not hidden, in reading order; below the fold counts."""
-        return self._walk(lambda node: self.has(node, Atspi.StateType.VISIBLE))
+        return self.walk(lambda node: self.has(node, Atspi.StateType.VISIBLE))
 
     def everything(self):
-        return self._walk(lambda node: True)
-
-    def _walk(self, enters):
-        waiting = [self.application]
-        while waiting:
-            node = waiting.pop()
-            try:
-                if not enters(node):
-                    continue
-                children = [node.get_child_at_index(i) for i in range(node.get_child_count())]
-            except GLib.Error:
-                continue  # it left while it was looked at
-            yield node
-            waiting.extend(child for child in reversed(children) if child)
+        return self.walk(lambda node: True)
 
     def expect(self, name, role=None, state=Atspi.StateType.VISIBLE):
         """The first visible thing of exactly that name; what leaves is seen, and not enabled."""
@@ -175,38 +152,8 @@ class Reader:
 
     # The rest is how.
 
-    def wait(self, what, condition):
-        end = time.monotonic() + LIMIT
-        while True:
-            self._take_events()
-            try:
-                result = condition()
-            except GLib.Error:
-                result = None  # it left while it was looked at
-            if result:
-                return result
-            if not os.path.exists(f"/proc/{self.process}"):
-                raise RoadBroken(f"the app ended; expected {what}")
-            if time.monotonic() > end:
-                raise RoadBroken(f"not within {LIMIT:.0f} s: {what}")
-            time.sleep(0.02)
-
     def describe(self):
         return "\n".join(f"  {self._role(node)}: {self.name(node)!r}" for node in self.visible())
-
-    def _find_application(self):
-        desktop = Atspi.get_desktop(0)
-        for index in range(desktop.get_child_count()):
-            child = desktop.get_child_at_index(index)
-            if child and child.get_process_id() == self.process and child.get_child_count():
-                return child
-        return None
-
-    @staticmethod
-    def _take_events():
-        context = GLib.MainContext.default()
-        while context.iteration(False):
-            pass
 
     def _on_event(self, event):
         try:

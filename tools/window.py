@@ -1,39 +1,26 @@
 """The app's window as a user meets it: found by names, driven by real keys and clicks."""
 
 import hashlib
-import os
 import subprocess
 import time
 
-import gi
+from bus import FIELDS, App, Atspi
 
-gi.require_version("Atspi", "2.0")
-from gi.repository import Atspi, GLib  # noqa: E402
-
-LIMIT = 15.0  # seconds that any one step may take
-FIELDS = {"text", "entry", "password text", "editbar"}
 TABS = {"page tab", "radio button"}
 ROWS = {"list item", "table cell"}
 CONTROLS = {"push button", "button", "link"} | ROWS | FIELDS | TABS
-
-
-class RoadBroken(Exception):
-    pass
 
 
 def run(*command):
     return subprocess.run(command, check=True, stdout=subprocess.PIPE).stdout
 
 
-class Window:
+class Window(App):
     """Sees what assistive technology sees, and touches only through the X server."""
 
     def __init__(self, process):
-        self.process = process
+        super().__init__(process)
         self.width, self.height = self._screen()
-        Atspi.init()
-        self.application = self._wait("the app on the accessibility bus", self._find_application)
-        Atspi.Accessible.set_cache_mask(self.application, Atspi.Cache.NONE)
 
     # Looking
 
@@ -44,10 +31,10 @@ class Window:
         return next(iter(exact or [node for node in shown if name in node[0]]), None)
 
     def expect(self, name, roles=None):
-        return self._wait(f"“{name}” on the screen", lambda: self.sees(name, roles))
+        return self.wait(f"“{name}” on the screen", lambda: self.sees(name, roles))
 
     def expect_gone(self, name):
-        self._wait(f"“{name}” gone from the screen", lambda: not self.sees(name))
+        self.wait(f"“{name}” gone from the screen", lambda: not self.sees(name))
 
     def expect_picture(self, row):
         """Waits until the left end of a row shows more colours than a frame and letters have."""
@@ -58,7 +45,7 @@ class Window:
             shot = run("import", "-window", "root", "-crop", crop, "-format", "%k", "info:-")
             return int(shot) > 500
 
-        self._wait(f"the picture of “{row}”", drawn)
+        self.wait(f"the picture of “{row}”", drawn)
 
     def rows(self):
         """Names of the rows on the screen, from top to bottom."""
@@ -78,23 +65,12 @@ class Window:
         self.click(field, FIELDS)
         self._xdotool("key", "ctrl+a", "key", "BackSpace", "type", "--delay", "20", text)
 
-    def key(self, name):
-        self._xdotool("key", name)
-
     def capture(self, path):
         """Saves the screen once it stands still."""
-        self._wait("a screen that stands still", self._is_still)
+        self.wait("a screen that stands still", self._is_still)
         run("import", "-window", "root", path)
 
     # The rest is how.
-
-    def _find_application(self):
-        desktop = Atspi.get_desktop(0)
-        for index in range(desktop.get_child_count()):
-            child = desktop.get_child_at_index(index)
-            if child and child.get_process_id() == self.process and child.get_child_count():
-                return child
-        return None
 
     def _showing(self):
         """Name, role and place of everything in the scene on top, in reading order.
@@ -102,17 +78,16 @@ class Window:
         What is below the fold counts: it has a place, and is a turn of the wheel away. The state
         "showing" would miss it; what is hidden has no place at all.
         """
-        found, waiting = [], [self.application]
-        while waiting:
-            node = waiting.pop()
-            try:
-                place = self._place(node)
-                if place[2] > 0 and place[3] > 0 and 0 <= place[0] + place[2] // 2 < self.width:
-                    found.append((node.get_name() or "", node.get_role_name(), place))
-                children = [node.get_child_at_index(i) for i in range(node.get_child_count())]
-            except GLib.Error:
-                continue  # it left while it was looked at
-            waiting.extend(child for child in reversed(children) if child)
+        found = []
+
+        def note(node):
+            place = self._place(node)
+            if place[2] > 0 and place[3] > 0 and 0 <= place[0] + place[2] // 2 < self.width:
+                found.append((node.get_name() or "", node.get_role_name(), place))
+            return True
+
+        for _ in self.walk(note):
+            pass
         return found
 
     @staticmethod
@@ -131,7 +106,7 @@ class Window:
             self._xdotool("click", "5" if y > 0 else "4")
             return False
 
-        self._wait(f"“{name}” within reach", in_view)
+        self.wait(f"“{name}” within reach", in_view)
 
     def _still_middle(self, name, roles):
         """The middle of a control that no longer slides."""
@@ -141,7 +116,7 @@ class Window:
             seen.append(self._middle(name, roles))
             return len(seen) > 1 and seen[-1] == seen[-2]
 
-        self._wait(f"“{name}” at rest", still)
+        self.wait(f"“{name}” at rest", still)
         return seen[-1]
 
     def _middle(self, name, roles):
@@ -164,18 +139,6 @@ class Window:
     @staticmethod
     def _xdotool(*arguments):
         run("xdotool", *arguments)
-
-    def _wait(self, what, condition):
-        end = time.monotonic() + LIMIT
-        while True:
-            result = condition()
-            if result:
-                return result
-            if not os.path.exists(f"/proc/{self.process}"):
-                raise RoadBroken(f"the app ended; expected {what}")
-            if time.monotonic() > end:
-                raise RoadBroken(f"not within {LIMIT:.0f} s: {what}")
-            time.sleep(0.05)
 
     def describe(self):
         """What is on the screen, for whoever must find out why the road broke."""
