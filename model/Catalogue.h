@@ -1,15 +1,17 @@
 #pragma once
 
+#include <deque>
 #include <memory>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "model/CampaignClass.h"
 
 namespace leafund {
 
-using CampaignList = std::vector<std::shared_ptr<CampaignClass>>;
+// What is newest comes first, and a list may be long: a deque grows at its front without moving the
+// rest (measured at a million campaigns, where a vector moved 16 MB).
+using CampaignList = std::deque<std::shared_ptr<CampaignClass>>;
 
 // The whole data store: four process-wide values, each created on first use, exactly once from
 // whichever thread comes first, and never freed. Afterwards they belong to the main thread; the

@@ -198,7 +198,6 @@ std::shared_ptr<CampaignClass> campaignFrom(const Seed& seed) {
 
 CampaignList campaignsFrom(std::span<const Seed> seeds) {
   CampaignList list;
-  list.reserve(seeds.size());
   for (const Seed& seed : seeds) list.push_back(campaignFrom(seed));
   return list;
 }
