@@ -26,7 +26,8 @@ void UIView::setFrame(CGRect frame) {
 }
 
 void UIView::setHidden(bool hidden) {
-  if (hidden == hidden_) return;
+  // Shown once more counts as a change: it is how a message says that it holds again.
+  if (hidden && hidden_) return;
   hidden_ = hidden;
   changed();
 }

@@ -180,11 +180,18 @@ TEST_F(UIViewInApplicationTest, SeveralChangesInATurnRefreshTheSkinOnce) {
 }
 
 TEST_F(UIViewInApplicationTest, AnEqualValueIsNoChange) {
-  turn([&] {
-    child->setFrame(child->frame());
-    child->setHidden(child->hidden());
-  });
+  turn([&] { child->setFrame(child->frame()); });
   EXPECT_EQ(childSkin->refreshes, 0);
+  turn([&] { child->setHidden(true); });
+  EXPECT_EQ(childSkin->refreshes, 1);
+  turn([&] { child->setHidden(true); });
+  EXPECT_EQ(childSkin->refreshes, 1);
+}
+
+TEST_F(UIViewInApplicationTest, AViewThatIsShownOnceMoreChangesSoThatAMessageIsSaidAgain) {
+  ASSERT_FALSE(child->hidden());
+  turn([&] { child->setHidden(false); });
+  EXPECT_EQ(childSkin->refreshes, 1);
 }
 
 TEST_F(UIViewInApplicationTest, ReadingTheLayerIsNoChangeAndWritingItIs) {

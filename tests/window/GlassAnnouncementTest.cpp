@@ -77,6 +77,14 @@ TEST_F(GlassAnnouncementTest, AReasonThatComesASecondTimeIsSaidASecondTime) {
   EXPECT_THAT(saidOn("FundButton"), ElementsAre(kExceeds));
 }
 
+TEST_F(GlassAnnouncementTest, AReasonThatStaysForTheSameMistakeIsSaidASecondTime) {
+  signIn();
+  click("abc-0");
+  type("dollarAmountField", "ten");
+  EXPECT_EQ(saidOn("FundButton").size(), 1U);
+  EXPECT_EQ(saidOn("FundButton").size(), 1U);
+}
+
 TEST_F(GlassAnnouncementTest, AMessageIsNotSaidAgainWhenItsInputIsEnteredOrLeft) {
   click("signUpButton");
   EXPECT_THAT(saidOn("signUpButton"), testing::Not(IsEmpty()));
