@@ -12,12 +12,13 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION misc)
 
 # Libraries are read from the program. Beside them it needs the QML modules that its interface
-# imports and its typeface. Where Wayland is the only display, Qt needs its plugin for it.
+# imports, its typeface, and libcurl, which it loads by itself, with the certificates for https.
+# Where Wayland is the only display, Qt needs its plugin for it.
 set(CPACK_DEBIAN_APP_PACKAGE_NAME leafund)
 set(CPACK_DEBIAN_APP_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_APP_PACKAGE_DEPENDS
-  "qml6-module-qtquick, qml6-module-qtqml-workerscript, fonts-inter")
-set(CPACK_DEBIAN_APP_PACKAGE_RECOMMENDS qt6-wayland)
+  "qml6-module-qtquick, qml6-module-qtqml-workerscript, fonts-inter, libcurl4 (>= 7.87)")
+set(CPACK_DEBIAN_APP_PACKAGE_RECOMMENDS "qt6-wayland, ca-certificates")
 set(CPACK_DEBIAN_APP_PACKAGE_SUGGESTS leafund-demo)
 set(CPACK_COMPONENT_APP_DESCRIPTION "small pledges, green changes
 Leafund is a phone app for crowdfunding personal environmental pledges: browse

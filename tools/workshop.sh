@@ -1,5 +1,5 @@
 # shellcheck shell=bash
-# What ./run, ./test and tools/tour share. Sourced by bash, from the top of the tree.
+# What the commands that build, serve or start something share. Sourced by bash, from the top of the tree.
 
 say() { printf '%s\n' "$*"; }
 fail() { printf '%s: %s\n' "${0##*/}" "$*" >&2; exit 1; }
@@ -138,4 +138,13 @@ startPictureHost() {
     port=$((20000 + (port - 19999) % 10000))
   done
   fail "no free port for the picture host"
+}
+
+# Waits until a server has written its address into a file.
+written() {
+  for _ in {1..100}; do
+    [[ -s $1 ]] && return 0
+    sleep 0.1
+  done
+  fail "$2 did not start"
 }

@@ -1,96 +1,44 @@
-#include "platform/qt/QtTransfer.h"
+#include "platform/qt/CurlTransfer.h"
 
-#include <QCoreApplication>
-#include <QDeadlineTimer>
-#include <QEvent>
-#include <QNetworkAccessManager>
-#include <QNetworkReply>
-#include <QNetworkRequest>
-#include <QUrl>
-#include <future>
+#include <pthread.h>
+
+#include <algorithm>
+#include <condition_variable>
+#include <deque>
 #include <map>
 #include <mutex>
-#include <optional>
-#include <tuple>
 #include <utility>
 #include <vector>
+
+#include "platform/qt/CurlHandle.h"
 
 namespace leafund {
 
 namespace {
 
-// How much Qt reads ahead, in bytes. Without a bound, what it has read of an endless body piles up
-// between its thread and ours: measured, 311 MB at the peak instead of 155 MB.
-constexpr qint64 kMostUnread = 256 * 1024;
+using Clock = CurlHandle::Clock;
 
-// How long the end waits for Qt's own thread. That one hears nothing while it reads a head, or the
-// size of a chunk, which it does byte by byte for as long as any come; Qt waits 5 s for it.
-constexpr std::chrono::milliseconds kFarewell{300};
+constexpr std::size_t kMostConnections = 6;  // To a host, as browsers have it.
 
 struct Fetch {
-  std::string address;
+  QUrl url;
   CompletionHandler completion;
   int redirects = 0;
-  std::string body = {};
-  std::string refusal = {};  // Why it was broken off here; empty when it was not.
+  Clock::time_point begun = {};
+  std::unique_ptr<CurlHandle> handle = nullptr;  // Null while it waits.
 };
 
-// By way of a whitelist: the network classes of Qt would read a file: address, too.
-bool isFetchable(const QUrl& url) {
-  const bool isWeb = url.scheme() == u"http" || url.scheme() == u"https";
-  return url.isValid() && isWeb && !url.host().isEmpty();
-}
+// What is asked of one host: some under way, the rest in the order of their beginning. libcurl
+// would keep such a line too, but goes through all of it at every step.
+struct Line {
+  std::size_t underWay = 0;
+  std::deque<Fetch> waiting = {};
+};
 
-QNetworkRequest plainRequest(const QUrl& url) {
-  QNetworkRequest request(url);
-  request.setHeader(QNetworkRequest::UserAgentHeader, QByteArrayLiteral("Leafund"));
-  // Otherwise Qt asks for compression, and loses a body that does not decompress.
-  request.setRawHeader("Accept-Encoding", "identity");
-  // Qt cannot be told to leave this header out: without one it sends the user's language. The star
-  // says what its absence would, "any" (RFC 9110, 12.5.4).
-  request.setRawHeader("Accept-Language", "*");
-  request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
-  request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
-  // No credentials of the user's machine (Negotiate, NTLM) for whoever asks for them.
-  request.setAttribute(QNetworkRequest::AuthenticationReuseAttribute, QNetworkRequest::Manual);
-  // What tells a response from an error below was tried on HTTP/1.1.
-  request.setAttribute(QNetworkRequest::Http2AllowedAttribute, false);
-  return request;
-}
-
-int statusOf(const QNetworkReply& reply) {
-  return reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-}
-
-// Qt takes a connection that ended early for the end of the body when it sees the close before it
-// has read the last bytes: 17 of 3,000 bodies cut short at random moments came without an error.
-bool hasSaidLength(const QNetworkReply& reply, const std::string& body) {
-  const int status = statusOf(reply);
-  const bool hasNoBody = status == 204 || status == 304;
-  if (hasNoBody || reply.hasRawHeader("Transfer-Encoding")) return true;
-  const QVariant length = reply.header(QNetworkRequest::ContentLengthHeader);
-  return !length.isValid() || length.toULongLong() == body.size();
-}
-
-// Whether the server's answer arrived whole. Qt also calls a status of 400 and up an error, though
-// by codes of its own: those up to 99 are errors of the network.
-bool isResponse(const QNetworkReply& reply, const std::string& body) {
-  const int status = statusOf(reply);
-  const bool isRefusal = status >= 400 && reply.error() > 99;
-  if (reply.error() != QNetworkReply::NoError && !isRefusal) return false;
-  return status > 0 && hasSaidLength(reply, body);
-}
-
-// Where the answer sends the fetch, an invalid address if it cannot be followed; nothing when it is
-// no redirect or names no target, so that its body counts.
-std::optional<QUrl> redirectTarget(const QNetworkReply& reply) {
-  const int status = statusOf(reply);
-  const bool isRedirect =
-      status == 301 || status == 302 || status == 303 || status == 307 || status == 308;
-  const QByteArray location = reply.rawHeader("Location").trimmed();
-  if (!isRedirect || location.isEmpty()) return std::nullopt;
-  const QUrl target(QString::fromUtf8(location), QUrl::StrictMode);
-  return target.isValid() ? reply.url().resolved(target) : QUrl();
+std::string hostOf(const QUrl& url) {
+  return url
+      .toString(QUrl::RemoveUserInfo | QUrl::RemovePath | QUrl::RemoveQuery | QUrl::RemoveFragment)
+      .toStdString();
 }
 
 void fail(Fetch& fetch, std::string reason) {
@@ -99,152 +47,202 @@ void fail(Fetch& fetch, std::string reason) {
 
 }  // namespace
 
-// Lives on the thread of the fetches. Made, and destroyed after the end of that thread, on the main
-// thread: the fetches that it still holds end there.
-class QtTransfer::Session : public QObject {
+// Made and destroyed on the main thread: the fetches that it still holds end there.
+class CurlTransfer::Session {
  public:
   explicit Session(const Limits& limits) : limits_(limits) {}
 
   // From the main thread.
-  void add(Fetch fetch) {
+  void add(std::string address, CompletionHandler completion) {
+    const std::lock_guard lock(mutex_);
+    const QUrl url(QString::fromStdString(address), QUrl::StrictMode);
+    inbox_.push_back({url, std::move(completion)});
+    wake();
+  }
+
+  // From the main thread, which then waits for the end of run().
+  void end() {
+    const std::lock_guard lock(mutex_);
+    isEnding_ = true;
+    wake();
+  }
+
+  // The life of the thread.
+  void run() {
+    pthread_setname_np(pthread_self(), "session");
+    const CurlLibrary library;
+    if (!library.failure().empty()) return refuseAll(library.failure());
+    curl_ = &library;
     {
-      const std::lock_guard lock(inboxMutex_);
-      inbox_.push_back(std::move(fetch));
-      if (inbox_.size() > 1) return;  // The thread has been woken and has not come yet.
+      const std::lock_guard lock(mutex_);
+      multi_ = library.multiInit();
     }
-    QCoreApplication::postEvent(this, new QEvent(QEvent::User));
-  }
-
-  // The last thing on the thread: what belongs to the network must end where it lived.
-  void closeNetwork() {
-    for (const auto& [reply, fetch] : underWay_) reply->disconnect(this);
-    handOver_.set_value(std::exchange(underWay_, {}));
-    network_.reset();
-  }
-
-  // On the main thread, when the thread was told to end: what comes to nothing.
-  auto takeGivenUp() {
-    auto underWay = handOver_.get_future().get();
-    const std::lock_guard lock(inboxMutex_);
-    return std::pair(std::move(underWay), std::exchange(inbox_, {}));
-  }
-
- protected:
-  void customEvent(QEvent*) override {
-    std::vector<Fetch> added;
-    {
-      const std::lock_guard lock(inboxMutex_);
-      added.swap(inbox_);
+    while (beginAdded()) {
+      endReady();
+      library.multiPoll(multi_, nullptr, 0, endIdle(), nullptr);
     }
-    for (Fetch& fetch : added) {
-      const QUrl url(QString::fromStdString(fetch.address), QUrl::StrictMode);
-      begin(std::move(fetch), url);
-    }
+    closeNetwork();
   }
 
  private:
-  void begin(Fetch fetch, const QUrl& url) {
-    if (!isFetchable(url)) return fail(fetch, "no http or https address: " + fetch.address);
-    QNetworkReply* reply = network().get(plainRequest(url));
-    reply->setReadBufferSize(kMostUnread);
-    underWay_.emplace(reply, std::move(fetch));
-    connect(reply, &QNetworkReply::metaDataChanged, this, [this, reply] { readLength(reply); });
-    connect(reply, &QNetworkReply::readyRead, this, [this, reply] { readBody(reply); });
-    connect(reply, &QNetworkReply::finished, this, [this, reply] { end(reply); });
+  // Under the lock.
+  void wake() {
+    if (multi_ != nullptr) curl_->multiWakeup(multi_);
+    added_.notify_one();
   }
 
-  QNetworkAccessManager& network() {
-    if (!network_) {
-      network_ = std::make_unique<QNetworkAccessManager>();
-      network_->setAutoDeleteReplies(true);
-      network_->setTransferTimeout(static_cast<int>(limits_.idle.count()));
-      // Followed here: Qt loses the body of a redirect that it cannot follow.
-      network_->setRedirectPolicy(QNetworkRequest::ManualRedirectPolicy);
+  void refuseAll(const std::string& reason) {
+    std::unique_lock lock(mutex_);
+    while (!isEnding_) {
+      auto added = std::exchange(inbox_, {});
+      lock.unlock();
+      for (Fetch& fetch : added) fail(fetch, reason);
+      added.clear();
+      lock.lock();
+      added_.wait(lock, [this] { return isEnding_ || !inbox_.empty(); });
     }
-    return *network_;
   }
 
-  void readLength(QNetworkReply* reply) {
-    const auto length = reply->header(QNetworkRequest::ContentLengthHeader).toULongLong();
-    if (length <= limits_.bodyBytes) return;
-    // Later: Qt does not expect an end in the middle of telling what it has read.
-    const auto refuse = [this, reply] { breakOff(reply, "the body is too long"); };
-    QMetaObject::invokeMethod(reply, refuse, Qt::QueuedConnection);
-  }
-
-  void readBody(QNetworkReply* reply) {
-    const auto at = underWay_.find(reply);
-    if (at == underWay_.end()) return;
-    std::string& body = at->second.body;
-    const QByteArray bytes = reply->readAll();
-    if (static_cast<std::size_t>(bytes.size()) > limits_.bodyBytes - body.size()) {
-      return breakOff(reply, "the body is too long");
+  // False at the end, when what was added stays where it is.
+  bool beginAdded() {
+    std::vector<Fetch> added;
+    {
+      const std::lock_guard lock(mutex_);
+      if (isEnding_) return false;
+      added.swap(inbox_);
     }
-    body.append(bytes.data(), static_cast<std::size_t>(bytes.size()));
+    for (Fetch& fetch : added) begin(std::move(fetch));
+    return true;
   }
 
-  // Ends the fetch, before this returns unless the reply is at its end already.
-  void breakOff(QNetworkReply* reply, const char* reason) {
-    const auto at = underWay_.find(reply);
-    if (at == underWay_.end()) return;
-    at->second.refusal = reason;
-    reply->abort();
+  void begin(Fetch fetch) {
+    if (!CurlHandle::isFetchable(fetch.url)) return fail(fetch, "no http or https address");
+    fetch.begun = Clock::now();
+    Line& line = lines_[hostOf(fetch.url)];
+    line.waiting.push_back(std::move(fetch));
+    advance(line);
   }
 
-  void end(QNetworkReply* reply) {
-    if (reply->isOpen()) readBody(reply);  // Closed if it was broken off.
-    auto entry = underWay_.extract(reply);
-    if (entry.empty()) return;
-    Fetch fetch = std::move(entry.mapped());
-    if (!fetch.refusal.empty()) return fail(fetch, fetch.refusal);
-    if (!isResponse(*reply, fetch.body)) {
-      return fail(fetch, "the answer did not arrive whole: " + reply->errorString().toStdString());
+  void advance(Line& line) {
+    while (line.underWay < kMostConnections && !line.waiting.empty()) {
+      Fetch fetch = std::move(line.waiting.front());
+      line.waiting.pop_front();
+      fetch.handle = takeHandle();
+      fetch.handle->aim(fetch.url);
+      CURL* const handle = fetch.handle->get();
+      underWay_.emplace(handle, std::move(fetch));
+      curl_->multiAddHandle(multi_, handle);
+      ++line.underWay;
     }
-    if (const auto target = redirectTarget(*reply)) return follow(std::move(fetch), *target);
-    fetch.completion(std::make_shared<const std::string>(std::move(fetch.body)),
-                     NSURLResponse{statusOf(*reply)}, std::nullopt);
   }
 
-  void follow(Fetch fetch, const QUrl& target) {
-    if (++fetch.redirects > limits_.redirects) return fail(fetch, "too many redirects");
-    fetch.body.clear();
-    begin(std::move(fetch), target);
+  std::unique_ptr<CurlHandle> takeHandle() {
+    if (spare_.empty()) return std::make_unique<CurlHandle>(*curl_, limits_.bodyBytes);
+    auto handle = std::move(spare_.back());
+    spare_.pop_back();
+    return handle;
+  }
+
+  void endReady() {
+    int rest = 0;
+    curl_->multiPerform(multi_, &rest);
+    while (const CURLMsg* message = curl_->multiInfoRead(multi_, &rest)) {
+      CURL* const handle = message->easy_handle;
+      const CURLcode result = message->data.result;
+      if (result == CURLE_OK) {
+        complete(leave(handle));
+      } else {
+        Fetch fetch = leave(handle);
+        fail(fetch, std::string("no whole answer: ") + curl_->easyStrerror(result));
+      }
+    }
+  }
+
+  // Takes the fetch out of what is under way, and lets the next one to its host begin.
+  Fetch leave(CURL* handle) {
+    curl_->multiRemoveHandle(multi_, handle);
+    Fetch fetch = std::move(underWay_.extract(handle).mapped());
+    const auto line = lines_.find(hostOf(fetch.url));
+    --line->second.underWay;
+    advance(line->second);
+    if (line->second.underWay == 0) lines_.erase(line);
+    return fetch;
+  }
+
+  void complete(Fetch fetch) {
+    const auto target = fetch.handle->redirectTarget();
+    if (target && ++fetch.redirects > limits_.redirects) return fail(fetch, "too many redirects");
+    const NSURLResponse response{fetch.handle->status()};
+    if (response.statusCode < 200) return fail(fetch, "no final answer");  // "101", unasked
+    auto body = std::make_shared<const std::string>(fetch.handle->takeBody());
+    if (spare_.size() < kMostConnections) spare_.push_back(std::move(fetch.handle));
+    if (!target) return fetch.completion(std::move(body), response, std::nullopt);
+    fetch.url = *target;
+    begin(std::move(fetch));
+  }
+
+  // Returns the milliseconds until the next fetch could be idle for too long.
+  int endIdle() {
+    const auto now = Clock::now();
+    auto next = now + std::chrono::hours{1};
+    const auto isLate = [&](Clock::time_point lastSign) {
+      if (now - lastSign >= limits_.idle) return true;
+      next = std::min(next, lastSign + limits_.idle);
+      return false;
+    };
+    std::vector<Fetch> late;
+    for (auto& [host, line] : lines_) {
+      while (!line.waiting.empty() && isLate(line.waiting.front().begun)) {
+        late.push_back(std::move(line.waiting.front()));
+        line.waiting.pop_front();
+      }
+    }
+    std::vector<CURL*> silent;
+    for (const auto& [handle, fetch] : underWay_) {
+      if (isLate(fetch.handle->lastSign())) silent.push_back(handle);
+    }
+    for (CURL* handle : silent) late.push_back(leave(handle));
+    for (Fetch& fetch : late) fail(fetch, "silent for too long");
+    return static_cast<int>(std::chrono::ceil<std::chrono::milliseconds>(next - now).count());
+  }
+
+  void closeNetwork() {
+    for (auto& [handle, fetch] : underWay_) {
+      curl_->multiRemoveHandle(multi_, handle);
+      fetch.handle.reset();
+    }
+    spare_.clear();
+    curl_->multiCleanup(multi_);
   }
 
   const Limits limits_;
-  std::mutex inboxMutex_;
+  const CurlLibrary* curl_ = nullptr;
+  std::mutex mutex_;
+  CURLM* multi_ = nullptr;  // Set under the mutex, on the thread.
+  std::condition_variable added_;
   std::vector<Fetch> inbox_;
-  std::map<QNetworkReply*, Fetch> underWay_;
-  std::promise<std::map<QNetworkReply*, Fetch>> handOver_;
-  std::unique_ptr<QNetworkAccessManager> network_;  // Owns the replies.
+  bool isEnding_ = false;
+  std::map<std::string, Line> lines_;
+  std::map<CURL*, Fetch> underWay_;
+  std::vector<std::unique_ptr<CurlHandle>> spare_;
 };
 
-QtTransfer::QtTransfer() : QtTransfer(Limits{}) {}
+CurlTransfer::CurlTransfer() : CurlTransfer(Limits{}) {}
 
-QtTransfer::QtTransfer(const Limits& limits)
-    : limits_(limits), thread_(std::make_unique<QThread>()) {
-  thread_->setObjectName(QStringLiteral("session"));
-}
+CurlTransfer::CurlTransfer(const Limits& limits) : limits_(limits) {}
 
-QtTransfer::~QtTransfer() {
+CurlTransfer::~CurlTransfer() {
   if (!session_) return;
-  thread_->quit();
-  const auto givenUp = session_->takeGivenUp();
-  if (thread_->wait(QDeadlineTimer(kFarewell))) return;
-  // Left to themselves, without a fetch: they end by Qt's own time-out, or with the process.
-  std::ignore = session_.release();
-  std::ignore = thread_.release();
+  session_->end();
+  thread_.join();
 }
 
-void QtTransfer::start(std::string url, CompletionHandler completion) {
+void CurlTransfer::start(std::string url, CompletionHandler completion) {
   if (!session_) {
     session_ = std::make_unique<Session>(limits_);
-    session_->moveToThread(thread_.get());
-    QObject::connect(thread_.get(), &QThread::finished, session_.get(),
-                     [session = session_.get()] { session->closeNetwork(); });
-    thread_->start();
+    thread_ = std::thread([session = session_.get()] { session->run(); });
   }
-  session_->add({std::move(url), std::move(completion)});
+  session_->add(std::move(url), std::move(completion));
 }
 
 }  // namespace leafund

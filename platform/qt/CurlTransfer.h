@@ -1,10 +1,10 @@
 #pragma once
 
-#include <QThread>
 #include <chrono>
 #include <cstddef>
 #include <memory>
 #include <string>
+#include <thread>
 
 #include "platform/Host.h"
 #include "platform/foundation/NSURLSession.h"
@@ -17,38 +17,35 @@ namespace leafund {
 // To be made and destroyed on the main thread. What is still under way is then given up, at once:
 // its completion is not called any more and is destroyed there, on the main thread, because it may
 // own screens. Nothing may be started by then.
-//
-// A body that does not arrive whole is an error, with one exception: a chunked one, whose
-// connection ends between or within two chunks, now and then passes for whole. Only Qt sees the
-// chunks, and it does not always tell (measured: 1 to 12 in 100 when cut at random moments).
-class QtTransfer {
+class CurlTransfer {
  public:
   // Above zero, all of them.
   struct Limits {
     int redirects = NSURLSession::kMostRedirects;
-    // Without a byte, and also without a connection: a host is asked over at most six at once.
+    // Without a byte of a body or a line of a head, and also without a connection: a host is asked
+    // over at most six at once.
     std::chrono::milliseconds idle = std::chrono::seconds{NSURLSession::kIdleSeconds};
     std::size_t bodyBytes = NSURLSession::kMostBodyBytes;
   };
 
-  QtTransfer();
-  explicit QtTransfer(const Limits& limits);
-  QtTransfer(const QtTransfer&) = delete;
-  QtTransfer& operator=(const QtTransfer&) = delete;
-  ~QtTransfer();
+  CurlTransfer();
+  explicit CurlTransfer(const Limits& limits);
+  CurlTransfer(const CurlTransfer&) = delete;
+  CurlTransfer& operator=(const CurlTransfer&) = delete;
+  ~CurlTransfer();
 
   // Returns at once. The completion runs exactly once, on the thread of the fetches, and is
   // destroyed there after it has run. With an error there is neither a body nor a response; else
-  // there are both, and the body may be empty. A status that tells of a failure is no error.
-  // On the main thread only. `url` is UTF-8.
+  // there are both, and the body may be empty. A status that tells of a failure is no error, a body
+  // that does not arrive whole is one. On the main thread only. `url` is UTF-8.
   void start(std::string url, CompletionHandler completion);
 
  private:
   class Session;
 
   Limits limits_;
-  std::unique_ptr<QThread> thread_;
-  std::unique_ptr<Session> session_;  // Null until the first fetch; lives on the thread.
+  std::unique_ptr<Session> session_;  // Null until the first fetch.
+  std::thread thread_;
 };
 
 }  // namespace leafund

@@ -7,8 +7,8 @@
 
 #include "platform/foundation/FatalError.h"
 #include "platform/foundation/NSURLRequest.h"
+#include "platform/qt/CurlTransfer.h"
 #include "platform/qt/ItemAccess.h"
-#include "platform/qt/QtTransfer.h"
 #include "platform/qt/QtWindow.h"
 #include "platform/qt/SceneStage.h"
 #include "platform/uikit/UIApplication.h"
@@ -126,7 +126,7 @@ void QtHost::post(std::function<void()> step) {
 }
 
 void QtHost::transfer(const NSURLRequest& request, CompletionHandler completion) {
-  if (!transfer_) transfer_ = std::make_unique<QtTransfer>();
+  if (!transfer_) transfer_ = std::make_unique<CurlTransfer>();
   transfer_->start(request.URL().absoluteString(), std::move(completion));
 }
 

@@ -10,7 +10,7 @@ class QQmlEngine;
 
 namespace leafund {
 
-class QtTransfer;
+class CurlTransfer;
 class QtWindow;
 class SceneStage;
 
@@ -47,7 +47,7 @@ class QtHost final : public Host {
   std::unique_ptr<QQmlEngine> engine_;
   std::unique_ptr<QtWindow> window_;
   std::unique_ptr<SceneStage> stage_;
-  std::unique_ptr<QtTransfer> transfer_;
+  std::unique_ptr<CurlTransfer> transfer_;
 };
 
 }  // namespace leafund

@@ -42,7 +42,6 @@ void readInput(const UITextInput& input, ViewLook& look) {
   look.placeholder = qtText(input.placeholder());
   look.textColor = qtColor(input.textColor().CGColor());
   look.editing = input.editing();
-  look.editable = input.editable();
   look.showsMessage = input.showsMessage();
   // What was typed is what counts: nothing may be corrected, completed or capitalised on the way.
   auto hints = hintsFor(input.keyboardType()) | Qt::ImhNoPredictiveText | Qt::ImhNoAutoUppercase;

@@ -31,7 +31,6 @@ struct ViewLook {
   bool secure = false;
   bool masked = false;
   bool editing = false;
-  bool editable = false;
   bool showsMessage = false;
 
   // Progress, both from 0 to 1.

@@ -46,7 +46,6 @@ class ViewObject : public QObject, public Skin {
   Q_PROPERTY(bool secure READ secure CONSTANT)
   Q_PROPERTY(bool masked READ masked NOTIFY changed)
   Q_PROPERTY(bool editing READ editing NOTIFY changed)
-  Q_PROPERTY(bool editable READ editable NOTIFY changed)
   Q_PROPERTY(bool showsMessage READ showsMessage NOTIFY changed)
   Q_PROPERTY(double progress READ progress NOTIFY changed)
   Q_PROPERTY(double progressFrom READ progressFrom NOTIFY changed)
@@ -55,7 +54,6 @@ class ViewObject : public QObject, public Skin {
   Q_PROPERTY(QColor tintColor READ tintColor CONSTANT)
   Q_PROPERTY(double contentHeight READ contentHeight NOTIFY changed)
   Q_PROPERTY(double contentOffset READ contentOffset NOTIFY changed)
-  Q_PROPERTY(bool hasImage READ hasImage NOTIFY changed)
   Q_PROPERTY(QVariantMap parts READ parts CONSTANT)
 
  public:
@@ -82,7 +80,6 @@ class ViewObject : public QObject, public Skin {
   bool secure() const { return look_.secure; }
   bool masked() const { return look_.masked; }
   bool editing() const { return look_.editing; }
-  bool editable() const { return look_.editable; }
   bool showsMessage() const { return look_.showsMessage; }
   double progress() const { return look_.progress; }
   double progressFrom() const { return look_.progressFrom; }

@@ -80,8 +80,8 @@ class UITextView : public UITextInput {
  public:
   bool editable() const override { return editable_; }
   void setEditable(bool editable) { editable_ = editable; }
-  // Scrolls so that the range is seen. Only the top is ever asked for, so the view remembers no
-  // more than that its next showing starts there.
+  // Scrolls so that the range is seen. Only the top is ever asked for, where every text begins on
+  // the glass anyhow, so the view remembers no more than that it was asked.
   void scrollRangeToVisible(NSRange range);
   bool scrolledToTop() const { return scrolledToTop_; }
 

@@ -6,7 +6,7 @@
 
 #include "platform/foundation/NSURL.h"
 #include "platform/graphics/Geometry.h"
-#include "platform/uikit/UITableViewCell.h"
+#include "platform/graphics/UIImage.h"
 
 namespace leafund {
 

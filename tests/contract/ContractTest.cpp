@@ -1,22 +1,9 @@
 #include "tests/contract/ContractTest.h"
 
-#include <stdexcept>
-
 #include "platform/dispatch/MainQueue.h"
+#include "tests/support/ViewNamed.h"
 
 namespace leafund {
-
-namespace {
-
-std::shared_ptr<UIView> descendant(const UIView& root, std::string_view name) {
-  for (const auto& each : root.subviews()) {
-    if (each->name() == name) return each;
-    if (auto found = descendant(*each, name)) return found;
-  }
-  return nullptr;
-}
-
-}  // namespace
 
 ContractTest::ContractTest()
     : application(std::make_shared<UIApplication>(underTest->host(), storyboard, delegate)) {
@@ -28,10 +15,7 @@ ContractTest::ContractTest()
 
 ContractTest::~ContractTest() = default;
 
-std::shared_ptr<UIViewController> ContractTest::shown() {
-  const auto tabs = top()->tabContainer();
-  return tabs ? tabs->selectedViewController() : top();
-}
+std::shared_ptr<UIViewController> ContractTest::shown() { return shownScreen(navigation()); }
 
 WatchedLife& ContractTest::life(const std::shared_ptr<UIViewController>& screen) {
   return dynamic_cast<WatchedLife&>(*screen);
@@ -44,9 +28,7 @@ std::vector<std::string> ContractTest::stack() {
 }
 
 std::shared_ptr<UIView> ContractTest::view(std::string_view name) {
-  auto found = descendant(*top()->view(), name);
-  if (!found) throw std::out_of_range("no view is named " + std::string(name));
-  return found;
+  return viewNamed(navigation(), name);
 }
 
 std::shared_ptr<UITextField> ContractTest::field(std::string_view name) {

@@ -1,11 +1,15 @@
 #include <gtest/gtest.h>
 
 #include <cstdio>
+#include <future>
 #include <map>
 
 #include "platform/graphics/PictureHeader.h"
+#include "platform/qt/CurlTransfer.h"
+#include "tests/fuzz/AnsweringHost.h"
 #include "tests/fuzz/CorpusFiles.h"
 #include "tests/fuzz/Fuzzers.h"
+#include "tests/fuzz/NetworkFence.h"
 
 namespace leafund {
 namespace {
@@ -30,6 +34,24 @@ TEST(HostCorporaTest, EveryFormatIsAmongThePictures) {
   EXPECT_GE(pictures[PictureHeader::Format::JPEG], 10);
   EXPECT_GE(pictures[PictureHeader::Format::PNG], 9);
   EXPECT_GE(pictures[PictureHeader::Format::GIF], 7);
+}
+
+// Port 9 answers nobody, and the name would have to be looked up.
+TEST(NetworkFenceTest, AFetchFromAnotherPortLandsOnTheFencedOneAndOneByNameNowhere) {
+  fuzz::AnsweringHost host;
+  fuzz::fenceIn(host.port());
+  fuzz::AnswerScript script("");
+  host.begin(script);
+  for (const auto& [address, connections] :
+       std::map<std::string, std::size_t>{{"http://127.0.0.1:9/", 1}, {"http://name.test/", 0}}) {
+    const std::size_t before = host.connections();
+    CurlTransfer transfer({.idle = std::chrono::milliseconds{300}});
+    std::promise<void> done;
+    transfer.start(address, [&](auto...) { done.set_value(); });
+    const auto end = done.get_future();
+    while (end.wait_for(std::chrono::milliseconds{1}) != std::future_status::ready) host.serve(-1);
+    EXPECT_EQ(host.connections() - before, connections) << address;
+  }
 }
 
 TEST(HostCorporaTest, FetchesEndOnceWhateverTheHostAnswers) { holdFor("stream", fuzz::stream); }

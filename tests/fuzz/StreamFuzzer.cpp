@@ -12,7 +12,7 @@
 #include <string>
 #include <utility>
 
-#include "platform/qt/QtTransfer.h"
+#include "platform/qt/CurlTransfer.h"
 #include "tests/fuzz/AnsweringHost.h"
 #include "tests/fuzz/Discoveries.h"
 #include "tests/fuzz/Fuzzers.h"
@@ -26,13 +26,12 @@ namespace leafund::fuzz {
 namespace {
 
 constexpr std::chrono::seconds generously{30};
-// Qt does not always see a connection end: an answer that is wrong in the size of a chunk is then
-// over with the idle time.
-constexpr QtTransfer::Limits limits{
+// So long may a host that says nothing more hold a run up.
+constexpr CurlTransfer::Limits limits{
     .redirects = 2, .idle = std::chrono::milliseconds{500}, .bodyBytes = 1024};
 constexpr std::size_t connectionsAtOnce = 6;
-// Qt asks again, on another connection, when one ends before the answer begins.
-constexpr std::size_t connectionsForOneAnswer = 8;
+// libcurl asks once more, on another connection, when a used one ends before the answer begins.
+constexpr std::size_t connectionsForOneAnswer = 2;
 
 struct Outcome {
   int calls = 0;
@@ -78,10 +77,10 @@ class Outcomes {
   int wake_;
 };
 
-// The kind of an error is what stands before the address, or what Qt says.
+// The kind of an error is what stands before the colon, and of a broken answer what libcurl says.
 std::size_t kindOf(const std::string& reason) {
-  const bool ofQt = reason.starts_with("the answer did not arrive whole");
-  return std::hash<std::string>{}(ofQt ? reason : reason.substr(0, reason.find(':')));
+  const bool ofLibcurl = reason.starts_with("no whole answer");
+  return std::hash<std::string>{}(ofLibcurl ? reason : reason.substr(0, reason.find(':')));
 }
 
 void tellDiscoveries(const AnsweringHost& host, const Outcome& outcome) {
@@ -117,7 +116,7 @@ void keepsItsPromises(const AnsweringHost& host, const Outcome& outcome, bool pl
 
 // Fetches one address after the other, or all at once, while the host answers.
 void fetchAll(AnsweringHost& host, const AnswerScript& script, Outcomes& outcomes) {
-  QtTransfer transfer(limits);
+  CurlTransfer transfer(limits);
   const std::string address = "http://127.0.0.1:" + std::to_string(host.port()) + "/";
   std::size_t begun = 0;
   auto lastEvent = std::chrono::steady_clock::now();

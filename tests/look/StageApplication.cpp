@@ -4,9 +4,7 @@
 
 #include <QFontInfo>
 #include <QGuiApplication>
-#include <QNetworkProxy>
 #include <QScreen>
-#include <QUrl>
 #include <cmath>
 #include <stdexcept>
 
@@ -16,20 +14,13 @@
 #include "platform/uikit/UITableView.h"
 #include "platform/uikit/UITableViewCell.h"
 #include "tests/look/GlassItems.h"
-#include "tests/look/ProjectPictures.h"
 #include "tests/support/PictureAnswers.h"
+#include "tests/support/ProjectPictures.h"
+#include "tests/support/ViewNamed.h"
 
 namespace leafund {
 
 namespace {
-
-std::shared_ptr<UIView> descendant(const UIView& root, std::string_view name) {
-  for (const auto& view : root.subviews()) {
-    if (view->name() == name) return view;
-    if (auto found = descendant(*view, name)) return found;
-  }
-  return nullptr;
-}
 
 // Without these every figure and every picture would be of something else.
 void requireSurroundings(const Surroundings& wanted, const QQuickWindow& window) {
@@ -61,28 +52,24 @@ StageApplication::StageApplication(Surroundings surroundings, Pictures pictures,
   resize(size);
 }
 
-StageApplication::~StageApplication() {
-  QNetworkProxy::setApplicationProxy(QNetworkProxy::NoProxy);
-}
+StageApplication::~StageApplication() { qunsetenv("http_proxy"); }
 
-// As a proxy the server answers for every address, whichever host the build was made for.
+// As a proxy the server answers for every address, its own and the one that the build was made for.
 void StageApplication::serve(Pictures pictures) {
-  const QUrl server(QString::fromStdString(app_.server().baseAddress()));
-  QNetworkProxy::setApplicationProxy(
-      {QNetworkProxy::HttpProxy, server.host(), static_cast<quint16>(server.port())});
+  qputenv("http_proxy", QByteArray::fromStdString(app_.server().baseAddress()));
+  qunsetenv("no_proxy");
   for (const auto& [name, body] : projectPictures()) {
     const auto answer = pictures == Pictures::Served ? answers::ok(body) : answers::neverAnswers();
-    // Asked for as a proxy by the address, as the host itself by the path.
-    for (const auto& asked : {pictureAddress(name), kOtherHost + ("/" + name), "/" + name}) {
+    const std::string path = "/" + name;
+    for (const auto& asked :
+         {pictureAddress(name), kOtherHost + path, app_.server().address(path)}) {
       app_.server().serve(asked, answer);
     }
   }
 }
 
 std::shared_ptr<UIView> StageApplication::view(std::string_view name) {
-  auto found = descendant(*app_.navigation().topViewController()->view(), name);
-  if (!found) throw std::out_of_range("no view is named " + std::string(name));
-  return found;
+  return viewNamed(app_.navigation(), name);
 }
 
 void StageApplication::tap(std::string_view name) { app_.application->tap(view(name)); }

@@ -176,15 +176,18 @@ class RowsScreen : public UITableViewController {
                                                  NSIndexPath) override {}
 };
 
-TEST(UIApplicationRowTest, ATappedRowStartsItsSegueWithTheCellAsSenderOnce) {
+class UIApplicationRowTest : public testing::Test {
+ protected:
+  static void rows(Scene<RowsScreen>& scene, RowsScreen&) { scene.subtitleCell("row", "open"); }
+
   ProbeLog log;
-  const UIStoryboard storyboard(
-      "Rows",
-      {scene<RowsScreen>("Rows", [](Scene<RowsScreen>& scene,
-                                    RowsScreen&) { scene.subtitleCell("row", "open"); }),
-       probeScene(log, "Detail")},
-      {{"open", "Rows", "Detail", SegueKind::Push}});
-  HeadlessApplication app(storyboard);
+  UIStoryboard storyboard{"Rows",
+                          {scene<RowsScreen>("Rows", rows), probeScene(log, "Detail")},
+                          {{"open", "Rows", "Detail", SegueKind::Push}}};
+  HeadlessApplication app{storyboard};
+};
+
+TEST_F(UIApplicationRowTest, ATappedRowStartsItsSegueWithTheCellAsSenderOnce) {
   const auto rows = app.shownAs<RowsScreen>();
   const auto cell = rows->tableView()->visibleCells().at(2);
   app.application->tap(cell);
@@ -193,15 +196,7 @@ TEST(UIApplicationRowTest, ATappedRowStartsItsSegueWithTheCellAsSenderOnce) {
   EXPECT_THAT(app.stack(), ElementsAre("Rows", "Detail"));
 }
 
-TEST(UIApplicationRowTest, ATappedRowLeavesTheInputThatIsBeingEdited) {
-  ProbeLog log;
-  const UIStoryboard storyboard(
-      "Rows",
-      {scene<RowsScreen>("Rows", [](Scene<RowsScreen>& scene,
-                                    RowsScreen&) { scene.subtitleCell("row", "open"); }),
-       probeScene(log, "Detail")},
-      {{"open", "Rows", "Detail", SegueKind::Push}});
-  HeadlessApplication app(storyboard);
+TEST_F(UIApplicationRowTest, ATappedRowLeavesTheInputThatIsBeingEdited) {
   const auto table = app.shownAs<RowsScreen>()->tableView();
   const auto field = std::make_shared<UITextField>();
   table->addSubview(field);
@@ -211,7 +206,7 @@ TEST(UIApplicationRowTest, ATappedRowLeavesTheInputThatIsBeingEdited) {
   EXPECT_FALSE(field->editing());
 }
 
-TEST(UIApplicationRowTest, APooledRowIsNotReached) {
+TEST(UIApplicationTableTest, APooledRowIsNotReached) {
   ProbeTable probe(20);
   const auto cell = probe.cell(0);
   EXPECT_TRUE(probe.app.application->reachable(*cell));
@@ -224,7 +219,7 @@ TEST(UIApplicationRowTest, APooledRowIsNotReached) {
   EXPECT_THAT(probe.app.stack(), ElementsAre("Table"));
 }
 
-TEST(UIApplicationRowTest, ACoveredTableDoesNotScroll) {
+TEST(UIApplicationTableTest, ACoveredTableDoesNotScroll) {
   ProbeTable probe(20);
   const auto table = std::static_pointer_cast<UITableView>(probe.app.shown()->view());
   probe.app.application->scroll(nullptr, 100);

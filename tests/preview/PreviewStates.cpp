@@ -210,19 +210,13 @@ UIStoryboard previewStoryboard(const PreviewState& state) {
   return {first, std::move(scenes), std::move(segues)};
 }
 
-std::shared_ptr<UIViewController> previewedScreen(const UIApplication& application) {
-  const auto& top = application.navigation()->topViewController();
-  const auto tabs = top->tabContainer();
-  return tabs ? tabs->selectedViewController() : top;
-}
-
 void actPreview(UIApplication& application, const PreviewState& state) {
   if (const auto tabs = application.navigation()->topViewController()->tabContainer()) {
     for (const auto& item : tabs->tabBar()->subviews()) {
       if (item->name() == state.tab) application.tap(item);
     }
   }
-  state.act(application, *previewedScreen(application));
+  state.act(application, *shownScreen(*application.navigation()));
 }
 
 }  // namespace leafund

@@ -13,6 +13,8 @@
 #include "shell/Storyboard.h"
 #include "tests/preview/PreviewHost.h"
 #include "tests/preview/PreviewStates.h"
+#include "tests/support/ViewNamed.h"
+#include "tests/window/WindowApplication.h"
 
 namespace leafund {
 
@@ -22,15 +24,6 @@ static void PrintTo(const PreviewState& state, std::ostream* out) {
 }
 
 namespace {
-
-void failOnWarning(QtMsgType type, const QMessageLogContext&, const QString& message) {
-  const bool mild = type == QtDebugMsg || type == QtInfoMsg;
-  // Said of the surroundings: by the offscreen platform, and where nobody is logged in.
-  for (const auto* surroundings : {"This plugin does not support", "XDG_RUNTIME_DIR"}) {
-    if (message.contains(QLatin1String(surroundings))) return;
-  }
-  if (!mild) ADD_FAILURE() << "warned: " << message.toStdString();
-}
 
 // A state of a scene in its window, with skins from a folder.
 class Preview {
@@ -53,7 +46,7 @@ class Preview {
     qInstallMessageHandler(nullptr);
   }
 
-  std::shared_ptr<UIViewController> shown() { return previewedScreen(*application); }
+  std::shared_ptr<UIViewController> shown() { return shownScreen(*application->navigation()); }
   QQuickItem* page() {
     return host.window()->contentItem()->findChild<QQuickItem*>(
         QString::fromStdString(shown()->className()));

@@ -2,37 +2,19 @@
 
 #include <gtest/gtest.h>
 
-#include <stdexcept>
-
 #include "platform/uikit/UILabel.h"
-#include "platform/uikit/UITabContainer.h"
 #include "platform/uikit/UITableView.h"
 #include "platform/uikit/UITableViewCell.h"
+#include "tests/support/ViewNamed.h"
 
 namespace leafund {
-
-namespace {
-
-std::shared_ptr<UIView> descendant(const UIView& root, std::string_view name) {
-  for (const auto& view : root.subviews()) {
-    if (view->name() == name) return view;
-    if (auto found = descendant(*view, name)) return found;
-  }
-  return nullptr;
-}
-
-}  // namespace
 
 HeadlessApplication::HeadlessApplication(const UIStoryboard& storyboard, CGSize size)
     : host(size), application(std::make_shared<UIApplication>(host, storyboard, delegate)) {
   host.run(*application);
 }
 
-std::shared_ptr<UIViewController> HeadlessApplication::shown() {
-  const auto& top = navigation().topViewController();
-  const auto tabs = top->tabContainer();
-  return tabs ? tabs->selectedViewController() : top;
-}
+std::shared_ptr<UIViewController> HeadlessApplication::shown() { return shownScreen(navigation()); }
 
 std::vector<std::string> HeadlessApplication::stack() {
   std::vector<std::string> names;
@@ -41,9 +23,7 @@ std::vector<std::string> HeadlessApplication::stack() {
 }
 
 std::shared_ptr<UIView> HeadlessApplication::view(std::string_view name) {
-  auto found = descendant(*navigation().topViewController()->view(), name);
-  if (!found) throw std::out_of_range("no view is named " + std::string(name));
-  return found;
+  return viewNamed(navigation(), name);
 }
 
 std::string HeadlessApplication::text(std::string_view name) {

@@ -114,19 +114,9 @@ Answer chunkOfSize(const std::string& size, const std::string& body) {
                "\r\n0\r\n\r\n");
 }
 
-// As fast as a good line and no faster: Qt's thread, which loops for as long as there are bytes to
-// read, would on the loopback address not always come to its end.
 Answer endlessChunks() {
-  std::string many;
-  while (many.size() < 131072) many += chunkOf(std::string(4096, 'x'));
-  return [many](QTcpSocket& client) {
-    send(client, statusLine200 + "Transfer-Encoding: chunked\r\n\r\n");
-    auto* timer = new QTimer(&client);
-    QObject::connect(timer, &QTimer::timeout, &client, [&client, many] {
-      if (client.bytesToWrite() == 0) send(client, many);
-    });
-    timer->start(std::chrono::milliseconds(1));
-  };
+  return endlessly(statusLine200 + "Transfer-Encoding: chunked\r\n\r\n",
+                   chunkOf(std::string(4096, 'x')));
 }
 
 Answer endlessChunkSize() {

@@ -35,8 +35,7 @@ PictureServer::Answer endlessInterim();
 
 // In three chunks, the last one followed by a trailer.
 PictureServer::Answer chunked(const std::string& body);
-// One chunk whose size is told so, on a connection that stays: Qt does not always tell one that is
-// cut within a chunk from one that has ended.
+// One chunk whose size is told so, on a connection that stays.
 PictureServer::Answer chunkOfSize(const std::string& size, const std::string& body);
 PictureServer::Answer endlessChunks();
 PictureServer::Answer endlessChunkSize();

@@ -1,7 +1,6 @@
 #include "tests/window/FaultApplication.h"
 
 #include <QQuickItemGrabResult>
-#include <stdexcept>
 #include <utility>
 
 #include "model/Catalogue.h"
@@ -9,21 +8,10 @@
 #include "platform/qt/ViewObject.h"
 #include "platform/uikit/UITableView.h"
 #include "platform/uikit/UITableViewCell.h"
+#include "tests/support/ViewNamed.h"
 #include "tests/window/FaultBodies.h"
 
 namespace leafund {
-
-namespace {
-
-std::shared_ptr<UIView> descendant(const UIView& root, const std::string& name) {
-  for (const auto& view : root.subviews()) {
-    if (view->name() == name) return view;
-    if (auto found = descendant(*view, name)) return found;
-  }
-  return nullptr;
-}
-
-}  // namespace
 
 int WatchedHost::ended(const std::string& address) const {
   const auto found = ended_.find(address);
@@ -60,9 +48,7 @@ FaultApplication::~FaultApplication() {
 }
 
 std::shared_ptr<UIView> FaultApplication::view(const std::string& name) {
-  auto found = descendant(*window.navigation().topViewController()->view(), name);
-  if (!found) throw std::out_of_range("no view is named " + name);
-  return found;
+  return viewNamed(window.navigation(), name);
 }
 
 void FaultApplication::tap(const std::string& name) { window.application->tap(view(name)); }

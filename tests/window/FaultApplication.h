@@ -4,7 +4,7 @@
 #include <memory>
 #include <string>
 
-#include "platform/qt/QtTransfer.h"
+#include "platform/qt/CurlTransfer.h"
 #include "platform/uikit/UIImageView.h"
 #include "tests/window/FaultHosts.h"
 #include "tests/window/FaultTable.h"
@@ -22,7 +22,9 @@ class WatchedHost final : public Host {
   void stop() { limited_.reset(); }
 
   // From now on fetches have limits of their own.
-  void limit(const QtTransfer::Limits& limits) { limited_ = std::make_unique<QtTransfer>(limits); }
+  void limit(const CurlTransfer::Limits& limits) {
+    limited_ = std::make_unique<CurlTransfer>(limits);
+  }
   int started() const { return started_; }
   // How many fetches of that address have ended, with all that they do on the main thread.
   int ended(const std::string& address) const;
@@ -37,7 +39,7 @@ class WatchedHost final : public Host {
 
  private:
   QtHost& host_;
-  std::unique_ptr<QtTransfer> limited_;
+  std::unique_ptr<CurlTransfer> limited_;
   int started_ = 0;
   std::map<std::string, int> ended_;
 };

@@ -13,7 +13,7 @@
 #include <utility>
 #include <vector>
 
-#include "platform/qt/QtTransfer.h"
+#include "platform/qt/CurlTransfer.h"
 #include "tests/support/PictureAnswers.h"
 #include "tests/support/PictureServer.h"
 
@@ -33,7 +33,7 @@ struct Outcome {
   }
 };
 
-inline std::future<Outcome> started(QtTransfer& transfer, const std::string& url) {
+inline std::future<Outcome> started(CurlTransfer& transfer, const std::string& url) {
   auto promise = std::make_shared<std::promise<Outcome>>();
   transfer.start(url, [promise](NSData body, std::optional<NSURLResponse> response,
                                 std::optional<NSError> error) {
@@ -47,14 +47,14 @@ inline Outcome outcomeOf(std::future<Outcome> future) {
   return future.get();
 }
 
-inline Outcome fetched(QtTransfer& transfer, const std::string& url) {
+inline Outcome fetched(CurlTransfer& transfer, const std::string& url) {
   return outcomeOf(started(transfer, url));
 }
 
-class QtTransferTest : public testing::Test {
+class CurlTransferTest : public testing::Test {
  protected:
-  Outcome answered(PictureServer::Answer answer, QtTransfer::Limits limits = {}) {
-    QtTransfer transfer(limits);
+  Outcome answered(PictureServer::Answer answer, CurlTransfer::Limits limits = {}) {
+    CurlTransfer transfer(limits);
     return fetched(transfer, server_.serve("/picture", std::move(answer)));
   }
 

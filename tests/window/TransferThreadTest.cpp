@@ -9,8 +9,8 @@ namespace {
 
 // The policy that is in force when nobody asks for another one.
 
-TEST_F(QtTransferTest, TheLimitsAreTheSessionsUnlessToldOtherwise) {
-  const QtTransfer::Limits limits;
+TEST_F(CurlTransferTest, TheLimitsAreTheSessionsUnlessToldOtherwise) {
+  const CurlTransfer::Limits limits;
 
   EXPECT_EQ(limits.redirects, 20);
   EXPECT_EQ(limits.idle, 60s);
@@ -27,8 +27,8 @@ bool hasSessionThread() {
   return false;
 }
 
-TEST_F(QtTransferTest, TheThreadIsStartedByTheFirstFetch) {
-  QtTransfer transfer;
+TEST_F(CurlTransferTest, TheThreadIsStartedByTheFirstFetch) {
+  CurlTransfer transfer;
   EXPECT_FALSE(hasSessionThread());
 
   fetched(transfer, server_.serve("/picture", answers::ok("bytes")));
@@ -36,8 +36,8 @@ TEST_F(QtTransferTest, TheThreadIsStartedByTheFirstFetch) {
   EXPECT_TRUE(hasSessionThread());
 }
 
-TEST_F(QtTransferTest, EveryCompletionRunsOnTheOneThreadOfTheFetches) {
-  QtTransfer transfer;
+TEST_F(CurlTransferTest, EveryCompletionRunsOnTheOneThreadOfTheFetches) {
+  CurlTransfer transfer;
   const Outcome good = fetched(transfer, server_.serve("/picture", answers::ok("bytes")));
   const Outcome bad = fetched(transfer, server_.serve("/bad", answers::resetAtOnce()));
   const Outcome refused = fetched(transfer, "file:///etc/passwd");
@@ -47,8 +47,8 @@ TEST_F(QtTransferTest, EveryCompletionRunsOnTheOneThreadOfTheFetches) {
   EXPECT_EQ(refused.thread, good.thread);
 }
 
-TEST_F(QtTransferTest, StartReturnsWhileTheThreadIsBusyWithACompletion) {
-  QtTransfer transfer;
+TEST_F(CurlTransferTest, StartReturnsWhileTheThreadIsBusyWithACompletion) {
+  CurlTransfer transfer;
   std::promise<void> entered, release;
   transfer.start(server_.serve("/picture", answers::ok("bytes")), [&](auto...) {
     entered.set_value();
@@ -66,10 +66,10 @@ TEST_F(QtTransferTest, StartReturnsWhileTheThreadIsBusyWithACompletion) {
   EXPECT_TRUE(outcomeOf(std::move(refused)).isError());
 }
 
-TEST_F(QtTransferTest, EveryCompletionRunsExactlyOnceWhateverTheAnswer) {
+TEST_F(CurlTransferTest, EveryCompletionRunsExactlyOnceWhateverTheAnswer) {
   std::map<std::string, std::atomic<int>> calls;
   {
-    QtTransfer transfer({.idle = 500ms, .bodyBytes = 1000});
+    CurlTransfer transfer({.idle = 500ms, .bodyBytes = 1000});
     std::vector<std::future<void>> completions;
     const auto start = [&](const std::string& name, const std::string& url) {
       auto done = std::make_shared<std::promise<void>>();
@@ -96,7 +96,7 @@ TEST_F(QtTransferTest, EveryCompletionRunsExactlyOnceWhateverTheAnswer) {
   for (const auto& [name, count] : calls) EXPECT_EQ(count, 1) << name;
 }
 
-TEST_F(QtTransferTest, TheCompletionIsNeverCopied) {
+TEST_F(CurlTransferTest, TheCompletionIsNeverCopied) {
   struct CountsCopies {
     explicit CountsCopies(std::atomic<int>& count) : copies(&count) {}
     CountsCopies(const CountsCopies& other) : copies(other.copies) { ++*copies; }
@@ -111,7 +111,7 @@ TEST_F(QtTransferTest, TheCompletionIsNeverCopied) {
     done.set_value();
   };
   copies = 0;
-  QtTransfer transfer;
+  CurlTransfer transfer;
 
   transfer.start(serveHops(2), std::move(completion));
 
@@ -129,9 +129,9 @@ std::shared_ptr<int> tellingItsEnd(std::thread::id& thread) {
           }};
 }
 
-TEST_F(QtTransferTest, WhatIsUnderWayAtTheEndIsGivenUpWithinASecond) {
+TEST_F(CurlTransferTest, WhatIsUnderWayAtTheEndIsGivenUpWithinASecond) {
   std::atomic<int> calls = 0;
-  auto transfer = std::make_unique<QtTransfer>();
+  auto transfer = std::make_unique<CurlTransfer>();
   const std::string url = server_.serve("/picture", answers::neverAnswers());
   for (int i = 0; i < 200; ++i) transfer->start(url, [&](auto...) { ++calls; });
   ASSERT_TRUE(server_.waitForRequests(6));
@@ -146,9 +146,9 @@ TEST_F(QtTransferTest, WhatIsUnderWayAtTheEndIsGivenUpWithinASecond) {
   EXPECT_TRUE(server_.waitForConnections(0));
 }
 
-TEST_F(QtTransferTest, ACompletionThatIsGivenUpEndsOnTheMainThread) {
+TEST_F(CurlTransferTest, ACompletionThatIsGivenUpEndsOnTheMainThread) {
   std::thread::id thread;
-  auto transfer = std::make_unique<QtTransfer>();
+  auto transfer = std::make_unique<CurlTransfer>();
   transfer->start(server_.serve("/picture", answers::neverAnswers()),
                   [owned = tellingItsEnd(thread)](auto...) { FAIL() << "called"; });
   ASSERT_TRUE(server_.waitForRequests(1));
@@ -158,12 +158,12 @@ TEST_F(QtTransferTest, ACompletionThatIsGivenUpEndsOnTheMainThread) {
   EXPECT_EQ(thread, std::this_thread::get_id());
 }
 
-TEST_F(QtTransferTest, ACompletionIsNotLostWhenTheEndComesRightAfterTheStart) {
+TEST_F(CurlTransferTest, ACompletionIsNotLostWhenTheEndComesRightAfterTheStart) {
   const std::string url = server_.serve("/picture", answers::neverAnswers());
   for (int round = 0; round < 100; ++round) {
     std::thread::id thread;
     {
-      QtTransfer transfer;
+      CurlTransfer transfer;
       transfer.start(url, [owned = tellingItsEnd(thread)](auto...) { FAIL() << "called"; });
     }
     ASSERT_EQ(thread, std::this_thread::get_id());

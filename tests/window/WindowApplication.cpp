@@ -9,30 +9,15 @@
 
 #include "model/Catalogue.h"
 #include "model/PictureHost.h"
-#include "platform/uikit/UITabContainer.h"
 #include "tests/support/PictureAnswers.h"
+#include "tests/support/ProjectPictures.h"
+#include "tests/support/ViewNamed.h"
 
 namespace leafund {
 
 namespace {
 
 constexpr int kPatience = 10'000;  // milliseconds; reached only by what never happens
-
-void failOnWarning(QtMsgType type, const QMessageLogContext&, const QString& message) {
-  if (type == QtDebugMsg || type == QtInfoMsg) return;
-  // Said of the surroundings: by the offscreen platform, and where nobody is logged in. And said by
-  // Qt of itself, when a fetch is given up while its thread is about to tell of the end.
-  for (const auto* nobodysFault : {"This plugin does not support", "XDG_RUNTIME_DIR",
-                                   "Internal problem, this method must only be called once"}) {
-    if (message.contains(QLatin1String(nobodysFault))) return;
-  }
-  ADD_FAILURE() << "warned: " << message.toStdString();
-}
-
-std::string contents(const std::filesystem::path& path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), {}};
-}
 
 QtHost makeHost() {
   static int argc = 1;
@@ -42,6 +27,15 @@ QtHost makeHost() {
 }
 
 }  // namespace
+
+void failOnWarning(QtMsgType type, const QMessageLogContext&, const QString& message) {
+  if (type == QtDebugMsg || type == QtInfoMsg) return;
+  // Said of the surroundings: by the offscreen platform, and where nobody is logged in.
+  for (const auto* nobodysFault : {"This plugin does not support", "XDG_RUNTIME_DIR"}) {
+    if (message.contains(QLatin1String(nobodysFault))) return;
+  }
+  ADD_FAILURE() << "warned: " << message.toStdString();
+}
 
 WindowApplication::WindowApplication(const UIStoryboard& storyboard)
     : host(makeHost()),
@@ -71,11 +65,7 @@ void WindowApplication::servePictures() {
     return address.starts_with(built) ? server_->address("/").append(address, built.size())
                                       : address;
   };
-  for (const auto& file : std::filesystem::directory_iterator(LEAFUND_PICTURES_DIR)) {
-    if (file.path().extension() != ".jpg") continue;
-    const std::string path = std::string("/").append(file.path().filename().string());
-    server_->serve(path, answers::ok(contents(file.path())));
-  }
+  for (const auto& [name, body] : projectPictures()) server_->serve("/" + name, answers::ok(body));
   for (const auto* list : {&otherCampaigns(), &campaignsIFunded()}) {
     for (const auto& campaign : *list) {
       campaign->setPhoto(moved(campaign->photo()));
@@ -84,11 +74,7 @@ void WindowApplication::servePictures() {
   }
 }
 
-std::shared_ptr<UIViewController> WindowApplication::shown() {
-  const auto& top = navigation().topViewController();
-  const auto tabs = top->tabContainer();
-  return tabs ? tabs->selectedViewController() : top;
-}
+std::shared_ptr<UIViewController> WindowApplication::shown() { return shownScreen(navigation()); }
 
 bool WindowApplication::waitUntil(const std::function<bool()>& done) {
   return QTest::qWaitFor(done, kPatience);

@@ -15,6 +15,9 @@
 
 namespace leafund {
 
+// A handler of Qt's messages: a warning fails the test, unless it is one of the surroundings.
+void failOnWarning(QtMsgType type, const QMessageLogContext& context, const QString& message);
+
 // The whole application in its real window, with the project's pictures on a real server. Every
 // warning of the interface fails the test.
 class WindowApplication {

@@ -2,7 +2,7 @@
 
 #include <QGuiApplication>
 
-// Window tests run where there may be no display; whoever wants to watch them names a platform.
+// For tests without a window that need an application object: Qt finds its decoders beside one.
 int main(int argc, char** argv) {
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   const QGuiApplication application(argc, argv);

@@ -24,6 +24,7 @@ LIBRARIES = (
     ("Qt", r"<(Q[A-Z]|Qt[A-Z])", "platform/qt"),
     ("ICU", r"<unicode/", "platform/foundation"),
     ("uriparser", r"<uriparser/", "platform/foundation"),
+    ("libcurl", r"<curl/", "platform/qt"),
 )
 
 

@@ -28,11 +28,12 @@ def metainfo(project):
 
 
 def one_name(project):
-    """The name under which desktops know the app stands in four places."""
+    """The name under which desktops know the app stands in five places."""
     names = {
         "packaging/CMakeLists.txt": r"set\(appId (\S+)\)",
         "packaging/app.leafund.Leafund.desktop": r"^Icon=(\S+)",
         "packaging/app.leafund.Leafund.metainfo.xml": r"<id>(\S+)</id>",
+        "packaging/app.leafund.Leafund.yaml": r"^id: (\S+)",
         "platform/qt/QtHost.cpp": r'setDesktopFileName\(\D+?"([^"]+)"',
     }
     said = {path: re.findall(pattern, project.text(path), re.M)[:1]

@@ -1,0 +1,1 @@
+// Nothing: the headers that all suites share are precompiled with it.
