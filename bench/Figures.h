@@ -1,5 +1,7 @@
 #pragma once
 
+#include <time.h>
+
 #include <algorithm>
 #include <chrono>
 #include <cstddef>
@@ -26,7 +28,20 @@ class Figures {
   std::ofstream file_;
 };
 
+// The processor time that work takes on this thread: what else the machine does is not in it.
 inline double secondsOf(const std::function<void()>& work) {
+  const auto now = [] {
+    timespec time{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
+  };
+  const double start = now();
+  work();
+  return now() - start;
+}
+
+// The time that passes meanwhile, for what several threads do, and what waits.
+inline double wallSecondsOf(const std::function<void()>& work) {
   const auto start = std::chrono::steady_clock::now();
   work();
   return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();

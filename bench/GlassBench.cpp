@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <QTimer>
 #include <chrono>
 
 #include "bench/Campaigns.h"
@@ -63,8 +64,11 @@ void GlassBench::frame() {
 
 void GlassBench::waitUntil(const std::function<bool()>& done) {
   const auto patience = std::chrono::steady_clock::now() + std::chrono::seconds(30);
+  QTimer heartbeat;  // Wakes it where nothing else does.
+  heartbeat.start(20);
   while (!done()) {
-    QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
+    // Without a time limit, which would be used up even when it is done before.
+    QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     demand(std::chrono::steady_clock::now() < patience, "what was waited for came to be");
   }
 }
@@ -75,6 +79,13 @@ void GlassBench::settle() {
     for (const auto* each : window().contentItem()->childItems()) visible += each->isVisible();
     return visible == 1 && page().x() == 0;
   });
+  frame();
+}
+
+void GlassBench::rest() {
+  settle();
+  const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(300);
+  waitUntil([&] { return std::chrono::steady_clock::now() > end; });
   frame();
 }
 

@@ -24,6 +24,7 @@ class Screen:
     """A virtual screen whose pixels lie in a file."""
 
     def __init__(self, folder):
+        self.folder = folder
         read, write = os.pipe()
         self.process = subprocess.Popen(
             ["Xvfb", "-displayfd", str(write), "-screen", "0", f"{WIDTH}x{HEIGHT}x24",
@@ -65,7 +66,8 @@ def peak_memory(process):
 
 def start(screen, program):
     environment = {**os.environ, "DISPLAY": screen.name, "QT_QPA_PLATFORM": "xcb",
-                   "DBUS_SESSION_BUS_ADDRESS": "disabled:", "NO_AT_BRIDGE": "1"}
+                   "DBUS_SESSION_BUS_ADDRESS": "disabled:", "NO_AT_BRIDGE": "1",
+                   "XDG_RUNTIME_DIR": screen.folder}
     environment.pop("WAYLAND_DISPLAY", None)
     while screen.shows_button():
         time.sleep(0.01)

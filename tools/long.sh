@@ -2,7 +2,7 @@
 # What ./test long runs beside the short form, sourced by it: an hour or two, not minutes.
 
 # Every suite, with the memory watched, and without a window also what nobody holds any more at the
-# end. With one, Qt's threads of the network end when they like, and the leak check fails on a thread
+# end. With one, threads of Qt end when they like, and the leak check fails on a thread
 # that is ending ("Tracer caught signal 11", about once in 50 runs).
 runAddressSuites() {
   enter asan-ubsan
@@ -35,12 +35,13 @@ runThreadSuites() {
 outliveDisplay() {
   local display=$results/display
   start Xvfb -displayfd 3 -screen 0 390x844x24 -nolisten tcp 3>"$display" 2>/dev/null
-  until [[ -s $display ]]; do sleep 0.1; done
-  DISPLAY=:$(<"$display") QT_QPA_PLATFORM=xcb setsid -- "$folder/shell/leafund" >/dev/null 2>&1 &
-  local app=$!
+  written "$display" "the virtual screen"
+  local screen=$job
+  DISPLAY=:$(<"$display") QT_QPA_PLATFORM=xcb start "$folder/shell/leafund" >/dev/null 2>&1
   DISPLAY=:$(<"$display") timeout 60 xdotool search --sync --onlyvisible --name Leafund >/dev/null
-  endLast
-  wait "$app"
+  kill -TERM -- "-$screen"
+  wait "$screen" "$job"
+  started=("${started[@]:2}")
 }
 
 # How much of each room all suites together run.
@@ -63,7 +64,16 @@ runMany() {
   runTool "random actions" '^[0-9]+ sequences, ' '^seed .* diverges' "$random" --actions 500000 --seed "$RANDOM" --jobs "$jobs"
 }
 
+# What the work inside takes, in instructions: the same however busy the machine is.
+runCounts() {
+  installMissing bench
+  enter bench
+  build release counted_bench -DLEAFUND_BENCH=ON -DLEAFUND_TESTS=OFF
+  runTool counts '^OK ' '^FAIL ' bench/count "$folder"
+}
+
 runMany
+runCounts
 runTool fuzz ' 0 findings' ' [1-9][0-9]* findings' tools/fuzz all 60
 runAddressSuites
 runThreadSuites
