@@ -27,6 +27,8 @@ class GlassBench {
   void waitUntil(const std::function<bool()>& done);
   // Until nothing slides.
   void settle();
+  // As long as a user at least looks at a screen before the next tap.
+  void rest();
 
   // The topmost screen, and an item on it; fatal where there is none.
   QQuickItem& page();

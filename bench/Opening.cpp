@@ -24,7 +24,7 @@ UIStoryboard storyboard() {
 
 // Opens a screen with its first frame, checks that it is there, and goes back.
 double opened(GlassBench& glass, const std::function<void()>& open, const char* className) {
-  glass.settle();
+  glass.rest();
   const QImage before = glass.picture();
   const double seconds = secondsOf([&] {
     open();

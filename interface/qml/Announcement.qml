@@ -29,6 +29,8 @@ Item {
     }
 
     Component.onCompleted: tell()
+    // What is taken back in the meantime is not read.
+    onMessageChanged: if (message === "") visible = false
 
     // That the user enters or leaves the input is a change of the view and none of the message.
     Connections {

@@ -19,15 +19,19 @@ Item {
     implicitHeight: Theme.bar
 
     readonly property real goal: view.progress
-    onGoalChanged: fill.restart()
-    Component.onCompleted: fill.restart()
+    onGoalChanged: refill()
+    Component.onCompleted: refill()
+
+    function refill() {
+        fill.from = view.progressFrom;
+        fill.to = view.progress;
+        fill.restart();
+    }
 
     NumberAnimation {
         id: fill
         target: progress
         property: "shown"
-        from: progress.view.progressFrom
-        to: progress.view.progress
         duration: Theme.fillDuration
         easing.type: Easing.OutCubic
     }

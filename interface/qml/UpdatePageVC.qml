@@ -24,7 +24,9 @@ Page {
                 Words {
                     view: page.views.updateOneDate
                     width: parent.width
-                    height: text ? implicitHeight : 0
+                    height: text ? whole : 0
+                    // Read also where there is no text: the first reading lays it out.
+                    readonly property real whole: implicitHeight
                     color: Theme.quiet
                 }
             }

@@ -11,12 +11,20 @@ namespace leafund {
 
 namespace {
 
+// A pane whose items are not to be met, as long as they are in it.
+class ClosedAccess final : public ItemAccess {
+ public:
+  using ItemAccess::ItemAccess;
+  QAccessible::Role role() const override { return QAccessible::Pane; }
+};
+
 QAccessibleInterface* accessFor(const QString&, QObject* object) {
   auto* item = qobject_cast<QQuickItem*>(object);
   if (item == nullptr) return nullptr;
   if (item->inherits("QQuickTextInput") || item->inherits("QQuickTextEdit")) {
     return new InputAccess(item);
   }
+  if (item->metaObject()->indexOfProperty("closed") >= 0) return new ClosedAccess(item);
   if (item->metaObject()->indexOfProperty("maximumValue") >= 0) return new ProgressAccess(item);
   return nullptr;
 }

@@ -20,18 +20,30 @@ bool isRootOfChild(const UIView& view, const UIViewController& controller) {
 SceneObject::SceneObject(UIViewController& controller)
     : root_(new ViewObject(controller.view(), this)),
       title_(qtText(controller.navigationItem().title())) {
-  addViews(*controller.view(), controller);
+  readViews(*controller.view(), controller);
+}
+
+void SceneObject::show(UIViewController& controller) {
+  root_->show(controller.view());
+  readViews(*controller.view(), controller);
 }
 
 // Neither into a table, whose rows come and go, nor into another screen's views.
-void SceneObject::addViews(const UIView& parent, const UIViewController& controller) {
+void SceneObject::readViews(const UIView& parent, const UIViewController& controller) {
   if (dynamic_cast<const UITableView*>(&parent) != nullptr) return;
   for (const auto& view : parent.subviews()) {
     if (isRootOfChild(*view, controller)) continue;
-    if (!view->name().empty()) {
-      views_.insert(qtText(view->name()), QVariant::fromValue(new ViewObject(view, this)));
-    }
-    addViews(*view, controller);
+    if (!view->name().empty()) readView(view);
+    readViews(*view, controller);
+  }
+}
+
+void SceneObject::readView(const std::shared_ptr<UIView>& view) {
+  auto& known = views_[qtText(view->name())];
+  if (auto* bridge = known.value<ViewObject*>()) {
+    bridge->show(view);
+  } else {
+    known = QVariant::fromValue(new ViewObject(view, this));
   }
 }
 

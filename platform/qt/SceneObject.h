@@ -27,6 +27,8 @@ class SceneObject : public QObject {
   // The controller's view must be loaded.
   explicit SceneObject(UIViewController& controller);
 
+  // Shows another screen of the same scene from now on, whose view must be loaded.
+  void show(UIViewController& controller);
   // Takes over what the bar shows; the screen must be on the stack.
   void readBar(const UINavigationController& navigation, const UIViewController& controller);
 
@@ -43,7 +45,8 @@ class SceneObject : public QObject {
   void changed();
 
  private:
-  void addViews(const UIView& parent, const UIViewController& controller);
+  void readViews(const UIView& parent, const UIViewController& controller);
+  void readView(const std::shared_ptr<UIView>& view);
 
   QVariantMap views_;
   ViewObject* root_;

@@ -1,8 +1,13 @@
 #include "platform/qt/SceneStage.h"
 
+#include <QQuickWindow>
 #include <algorithm>
 #include <iterator>
 #include <utility>
+
+#include "platform/uikit/UIApplication.h"
+#include "platform/uikit/UIStoryboard.h"
+#include "platform/uikit/UITabContainer.h"
 
 namespace leafund {
 
@@ -11,11 +16,19 @@ namespace {
 // The lower of the two screens moves a third of the way, which shows which one lies on top.
 constexpr double kLowerShare = 1.0 / 3;
 
+// A glass without a new frame for so long, in milliseconds, is at rest.
+constexpr int kRest = 50;
+
 double between(double from, double to, double share) { return from + (to - from) * share; }
 
 }  // namespace
 
-SceneStage::SceneStage(QQmlEngine& engine, QQuickItem& glass) : glass_(glass), loader_(engine) {
+SceneStage::SceneStage(QQmlEngine& engine, QQuickItem& glass)
+    : glass_(glass), loader_(engine, glass) {
+  rest_.setSingleShot(true);
+  rest_.setInterval(kRest);
+  connect(&rest_, &QTimer::timeout, this, &SceneStage::lookAhead);
+  connect(glass.window(), &QQuickWindow::frameSwapped, &rest_, qOverload<>(&QTimer::start));
   animation_.setStartValue(0.0);
   animation_.setEndValue(1.0);
   animation_.setEasingCurve(QEasingCurve::OutCubic);
@@ -54,7 +67,6 @@ ScenePage& SceneStage::pageFor(UIViewController& controller) {
                                   [&](const auto& page) { return page->shows(controller); });
   if (found != pages_.end()) return **found;
   pages_.push_back(std::make_unique<ScenePage>(loader_, controller, &glass_));
-  pages_.back()->item()->setVisible(false);
   return *pages_.back();
 }
 
@@ -104,6 +116,24 @@ void SceneStage::endSlide() {
     gone->setX(0);
   }
   leaving_.clear();
+}
+
+void SceneStage::lookAhead() {
+  auto* application = UIApplication::current();
+  if (application == nullptr || application->navigation() == nullptr) return;
+  const auto& navigation = *application->navigation();
+  const auto& top = navigation.topViewController();
+  const auto* storyboard = top->storyboard();
+  if (storyboard == nullptr) return;
+  auto next = storyboard->scenesAfter(top->className());
+  if (const auto tabs = top->tabContainer()) {
+    std::ranges::copy(storyboard->scenesAfter(tabs->selectedViewController()->className()),
+                      std::back_inserter(next));
+  }
+  const auto missing = std::ranges::find_if(
+      next, [&](const auto& className) { return !loader_.hasAhead(className); });
+  if (missing == next.end()) return;
+  application->turn([&] { loader_.makeAhead(navigation, *storyboard->draft(*missing)); });
 }
 
 }  // namespace leafund

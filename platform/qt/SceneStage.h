@@ -3,6 +3,7 @@
 #include <QObject>
 #include <QQmlEngine>
 #include <QQuickItem>
+#include <QTimer>
 #include <QVariantAnimation>
 #include <memory>
 #include <vector>
@@ -27,9 +28,12 @@ class SceneStage : public QObject {
   void exchangeFor(QQuickItem& incoming, bool forward);
   void slide(QQuickItem& incoming, bool forward);
   void endSlide();
+  // While nothing moves: makes ahead a skin that the screen shown may lead to.
+  void lookAhead();
 
   QQuickItem& glass_;
   SceneLoader loader_;
+  QTimer rest_;
   std::vector<std::unique_ptr<ScenePage>> pages_;
   std::vector<std::unique_ptr<ScenePage>> leaving_;  // until their slide has ended
   QQuickItem* shown_ = nullptr;

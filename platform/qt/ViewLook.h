@@ -49,6 +49,8 @@ struct ViewLook {
   // Pictures.
   std::shared_ptr<const UIImage> image;
   UIViewContentMode contentMode = UIViewContentMode::ScaleToFill;
+
+  bool operator==(const ViewLook&) const = default;
 };
 
 ViewLook lookOf(const UIView& view);

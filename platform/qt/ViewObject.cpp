@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <typeinfo>
+#include <utility>
 
 #include "platform/uikit/UIApplication.h"
 #include "platform/uikit/UITableView.h"
@@ -19,15 +20,30 @@ bool isCard(const UIView& view) {
 }  // namespace
 
 ViewObject::ViewObject(const std::shared_ptr<UIView>& view, QObject* parent)
-    : QObject(parent), view_(view) {
+    : QObject(parent), view_(view), look_(lookOf(*view)) {
   view->setSkin(this);
   addParts(*view);
-  ViewObject::refresh();
+  takeParts(*view);
 }
 
-ViewObject::~ViewObject() {
+ViewObject::~ViewObject() { leaveView(); }
+
+void ViewObject::leaveView() {
   const auto view = view_.lock();
   if (view && view->skin() == this) view->setSkin(nullptr);
+}
+
+void ViewObject::show(const std::shared_ptr<UIView>& view) {
+  leaveView();
+  view_ = view;
+  view->setSkin(this);
+  cards_.clear();
+  knownSubviews_ = 0;
+  takeParts(*view);
+  auto look = lookOf(*view);
+  if (look == look_) return;
+  look_ = std::move(look);
+  emit changed();
 }
 
 void ViewObject::addParts(UIView& view) {
@@ -46,12 +62,16 @@ void ViewObject::refresh() {
   const auto view = view_.lock();
   if (!view) return;
   look_ = lookOf(*view);
-  if (dynamic_cast<const UITableView*>(view.get()) != nullptr) {
-    takeNewCells(*view);
-  } else {
-    takeNewCards(*view);
-  }
+  takeParts(*view);
   emit changed();
+}
+
+void ViewObject::takeParts(const UIView& view) {
+  if (dynamic_cast<const UITableView*>(&view) != nullptr) {
+    takeNewCells(view);
+  } else {
+    takeNewCards(view);
+  }
 }
 
 // A row gathers a card a showing and keeps them all, each new one at the back. So those added since

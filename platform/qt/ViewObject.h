@@ -38,20 +38,20 @@ class ViewObject : public QObject, public Skin {
   Q_PROPERTY(QColor borderColor READ borderColor NOTIFY changed)
   Q_PROPERTY(double cornerRadius READ cornerRadius NOTIFY changed)
   Q_PROPERTY(QString text READ text NOTIFY changed)
-  Q_PROPERTY(QString placeholder READ placeholder CONSTANT)
+  Q_PROPERTY(QString placeholder READ placeholder NOTIFY changed)
   Q_PROPERTY(QColor textColor READ textColor NOTIFY changed)
   // Whether the text has a colour of its own, which is then the toolkit's and no skin's.
   Q_PROPERTY(bool coloured READ coloured NOTIFY changed)
-  Q_PROPERTY(int inputHints READ inputHints CONSTANT)
-  Q_PROPERTY(bool secure READ secure CONSTANT)
+  Q_PROPERTY(int inputHints READ inputHints NOTIFY changed)
+  Q_PROPERTY(bool secure READ secure NOTIFY changed)
   Q_PROPERTY(bool masked READ masked NOTIFY changed)
   Q_PROPERTY(bool editing READ editing NOTIFY changed)
   Q_PROPERTY(bool showsMessage READ showsMessage NOTIFY changed)
   Q_PROPERTY(double progress READ progress NOTIFY changed)
   Q_PROPERTY(double progressFrom READ progressFrom NOTIFY changed)
   Q_PROPERTY(bool selected READ selected NOTIFY changed)
-  Q_PROPERTY(QColor selectedTitleColor READ selectedTitleColor CONSTANT)
-  Q_PROPERTY(QColor tintColor READ tintColor CONSTANT)
+  Q_PROPERTY(QColor selectedTitleColor READ selectedTitleColor NOTIFY changed)
+  Q_PROPERTY(QColor tintColor READ tintColor NOTIFY changed)
   Q_PROPERTY(double contentHeight READ contentHeight NOTIFY changed)
   Q_PROPERTY(double contentOffset READ contentOffset NOTIFY changed)
   Q_PROPERTY(QVariantMap parts READ parts CONSTANT)
@@ -60,6 +60,8 @@ class ViewObject : public QObject, public Skin {
   explicit ViewObject(const std::shared_ptr<UIView>& view, QObject* parent);
   ~ViewObject() override;
 
+  // Shows another view from now on: that of the same name in another screen of the scene.
+  void show(const std::shared_ptr<UIView>& view);
   void refresh() override;
 
   QString name() const { return look_.name; }
@@ -111,6 +113,8 @@ class ViewObject : public QObject, public Skin {
   void changed();
 
  private:
+  void leaveView();
+  void takeParts(const UIView& view);
   void addParts(UIView& view);
   void takeNewCards(const UIView& view);
   void takeNewCells(const UIView& view);

@@ -89,10 +89,14 @@ void UINavigationController::appear(bool animated) {
 
 void UINavigationController::layOutShown() const {
   const auto& top = topViewController();
-  const double bar = showsBar(*top) ? kBarHeight : 0;
-  top->view()->setFrame({0, bar, size_.width, std::max(0.0, size_.height - bar)});
+  top->view()->setFrame(rootFrame(*top));
   if (const auto tabs = top->tabContainer()) tabs->layOut();
   top->viewDidLayoutSubviews();
+}
+
+CGRect UINavigationController::rootFrame(const UIViewController& controller) const {
+  const double bar = showsBar(controller) ? kBarHeight : 0;
+  return {0, bar, size_.width, std::max(0.0, size_.height - bar)};
 }
 
 }  // namespace leafund

@@ -46,6 +46,8 @@ class UINavigationController : public std::enable_shared_from_this<UINavigationC
   void setSize(CGSize size);
   // Frames the shown screen's views: by the size, and by whether the screen has a bar.
   void layOutShown() const;
+  // Where the root view of a screen lies while the screen is shown.
+  CGRect rootFrame(const UIViewController& controller) const;
 
  private:
   void appear(bool animated);

@@ -32,6 +32,22 @@ std::shared_ptr<UIViewController> UIStoryboard::instantiateViewControllerWithIde
   return controller;
 }
 
+std::shared_ptr<UIViewController> UIStoryboard::draft(std::string_view sceneName) const {
+  auto controller = instantiateViewControllerWithIdentifier(sceneName);
+  controller->buildView();
+  return controller;
+}
+
+std::vector<std::string> UIStoryboard::scenesAfter(std::string_view sceneName) const {
+  std::vector<std::string> scenes;
+  for (const auto& segue : segues_) {
+    if (segue.source == sceneName && segue.kind == SegueKind::Push) {
+      scenes.push_back(segue.destination);
+    }
+  }
+  return scenes;
+}
+
 const SegueDescription& UIStoryboard::segue(std::string_view source,
                                             std::string_view identifier) const {
   const auto found = std::find_if(segues_.begin(), segues_.end(), [&](const auto& each) {

@@ -61,6 +61,11 @@ class UIStoryboard {
   std::shared_ptr<UIViewController> instantiateInitialViewController() const;
   std::shared_ptr<UIViewController> instantiateViewControllerWithIdentifier(
       std::string_view sceneName) const;
+  // A screen with the views of its scene, whose logic never runs: for a host that makes ahead how
+  // the scene looks.
+  std::shared_ptr<UIViewController> draft(std::string_view sceneName) const;
+  // The scenes that can be pushed from that one.
+  std::vector<std::string> scenesAfter(std::string_view sceneName) const;
 
   const SegueDescription& segue(std::string_view source, std::string_view identifier) const;
   // Prepares the segue, then moves the stack; the destination's view loads after that.

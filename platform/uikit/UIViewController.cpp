@@ -40,11 +40,15 @@ void UIViewController::performSegueWithIdentifierSender(std::string_view identif
 
 const std::shared_ptr<UIView>& UIViewController::view() {
   if (view_) return view_;
+  buildView();
+  viewDidLoad();
+  return view_;
+}
+
+void UIViewController::buildView() {
   view_ = makeRootView();
   if (scene_ != nullptr) scene_->build(*this);
   checkOutlets();
-  viewDidLoad();
-  return view_;
 }
 
 void UIViewController::releaseView() { view_.reset(); }

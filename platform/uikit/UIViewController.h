@@ -65,6 +65,8 @@ class UIViewController : public UIResponder {
 
   // The name of its scene, which is its class's name.
   const std::string& className() const { return className_; }
+  // What it was made from; null for a screen made by hand.
+  const UIStoryboard* storyboard() const { return storyboard_; }
   // Its tabs, when its scene holds some.
   std::shared_ptr<UITabContainer> tabContainer() const { return tabContainer_.lock(); }
   // The tab's screen of that scene, made at first use and kept.
@@ -84,6 +86,7 @@ class UIViewController : public UIResponder {
   friend class UIStoryboard;
   friend class UITabContainer;
 
+  void buildView();
   void checkOutlets() const;
 
   std::string className_;

@@ -11,6 +11,7 @@
 #include "screens/create/NewCampaignVC.h"
 #include "shell/Storyboard.h"
 #include "tests/preview/PreviewRecords.h"
+#include "tests/support/ViewNamed.h"
 
 namespace leafund {
 

@@ -34,7 +34,4 @@ UIStoryboard previewStoryboard(const PreviewState& state);
 // Once that is launched: selects the tab, and does what a user does.
 void actPreview(UIApplication& application, const PreviewState& state);
 
-// The screen that is looked at: the topmost one, or the one on its selected tab.
-std::shared_ptr<UIViewController> previewedScreen(const UIApplication& application);
-
 }  // namespace leafund
