@@ -43,7 +43,7 @@ std::map<std::string, Make> watchedScreens(ContractLog& log) {
 }
 
 std::string line(const char* what, NSIndexPath path) {
-  return what + (" " + std::to_string(path.row));
+  return std::string(what).append(" ").append(std::to_string(path.row));
 }
 
 }  // namespace
