@@ -8,6 +8,7 @@ set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_COMPONENTS_ALL app ${demo})
 set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_CURRENT_SOURCE_DIR}/NeedTools.cmake)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION misc)
 
@@ -19,7 +20,9 @@ set(CPACK_DEBIAN_APP_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_APP_PACKAGE_DEPENDS
   "qml6-module-qtquick, qml6-module-qtqml-workerscript, fonts-inter, libcurl4 (>= 7.87)")
 set(CPACK_DEBIAN_APP_PACKAGE_RECOMMENDS "qt6-wayland, ca-certificates")
-set(CPACK_DEBIAN_APP_PACKAGE_SUGGESTS leafund-demo)
+if(demo)
+  set(CPACK_DEBIAN_APP_PACKAGE_SUGGESTS leafund-demo)
+endif()
 set(CPACK_COMPONENT_APP_DESCRIPTION "small pledges, green changes
 Leafund is a phone app for crowdfunding personal environmental pledges: browse
 what people promise, put money behind it, and start a campaign of your own.")
@@ -27,7 +30,7 @@ what people promise, put money behind it, and start a campaign of your own.")
 # The app of the same build only: the address of the pictures is compiled into it.
 set(CPACK_DEBIAN_DEMO_PACKAGE_NAME leafund-demo)
 set(CPACK_DEBIAN_DEMO_PACKAGE_ARCHITECTURE all)
-set(CPACK_DEBIAN_DEMO_PACKAGE_DEPENDS "leafund (= ${PROJECT_VERSION}), busybox, util-linux")
+set(CPACK_DEBIAN_DEMO_PACKAGE_DEPENDS "leafund (= ${PROJECT_VERSION}), busybox")
 set(CPACK_COMPONENT_DEMO_DESCRIPTION "demonstration of Leafund with its pictures
 The pictures of the demonstration campaigns, and a launcher that serves them to
 the app on the loopback address for as long as it is open.")
