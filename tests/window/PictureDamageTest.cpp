@@ -7,9 +7,13 @@ namespace {
 std::string withQuarterTurn(const std::string& jpeg) {
   using namespace std::string_literals;
   const std::string tiff = "II*\0\x08\0\0\0\x01\0\x12\x01\x03\0\x01\0\0\0\x06\0\0\0\0\0\0\0"s;
-  const std::string exif = "Exif\0\0"s + tiff;
-  const std::string length{'\0', static_cast<char>(exif.size() + 2)};
-  return jpeg.substr(0, 2) + "\xFF\xE1" + length + exif + jpeg.substr(2);
+  const std::string exif = "Exif\0\0"s;
+  std::string turned = jpeg.substr(0, 2);
+  turned += "\xFF\xE1"s;
+  turned += '\0';
+  turned += static_cast<char>(2 + exif.size() + tiff.size());
+  turned.append(exif).append(tiff).append(jpeg, 2);
+  return turned;
 }
 
 TEST(PicturePixelsTest, ARotationThatThePictureTellsIsNotApplied) {
