@@ -68,27 +68,21 @@ Pressable {
         anchors { verticalCenter: parent.verticalCenter; verticalCenterOffset: Theme.cardOffset }
         spacing: Theme.half
 
-        Text {
+        StillText {
             id: title
             width: parent.width
             text: row.view.parts.title.text
-            textFormat: Text.PlainText
-            wrapMode: Text.Wrap
             maximumLineCount: 2
-            elide: Text.ElideRight
             color: Theme.ink
             font { pointSize: row.share * Theme.lead; weight: Font.Bold }
             Accessible.ignored: true
         }
-        Text {
+        StillText {
             id: pitch
             width: parent.width
             text: row.view.parts.detail.text
-            textFormat: Text.PlainText
-            wrapMode: Text.Wrap
             maximumLineCount: Math.max(1, Math.min(Theme.pitchLines, Math.floor(room / line.height)))
             readonly property real room: Theme.cardRoom - title.height - Theme.half
-            elide: Text.ElideRight
             color: Theme.quiet
             font.pointSize: row.share * Theme.body
             Accessible.ignored: true

@@ -8,7 +8,9 @@ namespace leafund {
 
 namespace {
 
-bool isWrittenText(const QQuickItem& item) { return item.inherits("QQuickText"); }
+bool isWrittenText(const QQuickItem& item) {
+  return item.inherits("QQuickText") || isStillText(item);
+}
 
 void collect(QQuickItem& item, std::vector<QQuickItem*>& shown) {
   if (!item.isVisible() || item.opacity() == 0) return;
@@ -66,6 +68,8 @@ bool isPane(const QQuickItem& item) { return item.inherits("QQuickFlickable"); }
 bool isInput(const QQuickItem& item) {
   return item.inherits("QQuickTextInput") || item.inherits("QQuickTextEdit");
 }
+
+bool isStillText(const QQuickItem& item) { return item.inherits("leafund::StillText"); }
 
 bool isText(const QQuickItem& item) {
   if (!isWrittenText(item) && !isInput(item)) return false;

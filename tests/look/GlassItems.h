@@ -25,9 +25,10 @@ std::string figure(const QRectF& rectangle);
 // Everything shown below an item, itself included, parents first.
 std::vector<QQuickItem*> shownItems(QQuickItem& root);
 
-bool isPane(const QQuickItem& item);   // scrolls what is in it
-bool isInput(const QQuickItem& item);  // of one line or of several
-bool isText(const QQuickItem& item);   // written words, an input's included; not empty
+bool isPane(const QQuickItem& item);       // scrolls what is in it
+bool isInput(const QQuickItem& item);      // of one line or of several
+bool isStillText(const QQuickItem& item);  // a row's words, which wrap and end in an ellipsis
+bool isText(const QQuickItem& item);       // written words, an input's included; not empty
 bool isControl(const QQuickItem& item);
 
 // Its name, or that of what it is in, and its words.

@@ -10,15 +10,20 @@ namespace {
 constexpr double kRounding = 0.5;
 
 bool elides(const QQuickItem& text) {
+  if (isStillText(text)) return true;
   const QVariant elide = text.property("elide");
   return elide.isValid() && elide.toInt() != Qt::ElideNone;
 }
 
 constexpr int kNoWrap = 0;  // of texts and of inputs alike
 
+bool wraps(const QQuickItem& text) {
+  return isStillText(text) || text.property("wrapMode").toInt() != kNoWrap;
+}
+
 // An input of one line scrolls along it, as far as its cursor goes.
 bool scrollsAlong(const QQuickItem& text) {
-  return text.inherits("QQuickTextInput") && text.property("wrapMode").toInt() == kNoWrap;
+  return text.inherits("QQuickTextInput") && !wraps(text);
 }
 
 void addCut(const QQuickItem& text, std::vector<Fault>& faults) {
@@ -31,8 +36,7 @@ void addCut(const QQuickItem& text, std::vector<Fault>& faults) {
   if (!scrollsAlong(text) && width > text.width() + kRounding) {
     cut("is wider than its place", width - text.width());
   }
-  const bool wraps = text.property("wrapMode").toInt() != kNoWrap;
-  if (elides(text) && wraps && text.property("truncated").toBool() &&
+  if (elides(text) && wraps(text) && text.property("truncated").toBool() &&
       text.property("lineCount").toInt() < kFewestLines) {
     cut("is cut to too few lines", 0);
   }

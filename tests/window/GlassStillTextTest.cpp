@@ -1,0 +1,132 @@
+#include <QQuickWindow>
+#include <QSignalSpy>
+
+#include "platform/qt/StillText.h"
+#include "tests/window/GlassFixture.h"
+
+namespace leafund {
+namespace {
+
+// Words on a white window of their own.
+class GlassStillTextTest : public GlassTest {
+ protected:
+  GlassStillTextTest() {
+    window_.setColor(Qt::white);
+    window_.resize(300, 200);
+    text_.setParentItem(window_.contentItem());
+    QFont font;
+    font.setPixelSize(16);
+    text_.setFont(font);
+    text_.setColor(Qt::black);
+    text_.setWidth(120);
+    text_.setMaximumLineCount(3);
+  }
+
+  // As tall as it wants to be, as a row shows it.
+  QImage drawn() {
+    text_.setHeight(text_.implicitHeight());
+    return window_.grabWindow();
+  }
+
+  // The darkest pixel's lightness.
+  static int darkest(const QImage& image) {
+    int least = 255;
+    for (int y = 0; y < image.height(); ++y) {
+      for (int x = 0; x < image.width(); ++x) least = std::min(least, qGray(image.pixel(x, y)));
+    }
+    return least;
+  }
+
+  double lineHeight() {
+    text_.setText("One");
+    return text_.contentHeight();
+  }
+
+  QQuickWindow window_;
+  StillText text_;
+};
+
+TEST_F(GlassStillTextTest, WordsThatFitAreOneLineAndWhole) {
+  text_.setText("One");
+  EXPECT_EQ(text_.lineCount(), 1);
+  EXPECT_FALSE(text_.truncated());
+  EXPECT_GT(text_.contentWidth(), 0);
+  EXPECT_LT(darkest(drawn()), 80);
+}
+
+TEST_F(GlassStillTextTest, WordsWrapAtTheWidthAndAgainWhenItChanges) {
+  const double line = lineHeight();
+  text_.setText("Five words stand here");
+  EXPECT_EQ(text_.lineCount(), 2);
+  EXPECT_LE(text_.contentWidth(), text_.width());
+  EXPECT_EQ(text_.implicitHeight(), std::ceil(2 * line));
+  text_.setWidth(300);
+  EXPECT_EQ(text_.lineCount(), 1);
+}
+
+TEST_F(GlassStillTextTest, AnEndlessWordIsBrokenInItsMiddle) {
+  text_.setText(QString(20, 'm'));
+  EXPECT_EQ(text_.lineCount(), 3);
+  EXPECT_LE(text_.contentWidth(), text_.width());
+}
+
+TEST_F(GlassStillTextTest, MoreThanItsLinesHoldEndsInAnEllipsisWithinTheWidth) {
+  text_.setText(QString("words and ").repeated(200));
+  EXPECT_EQ(text_.lineCount(), 3);
+  EXPECT_TRUE(text_.truncated());
+  EXPECT_TRUE(text_.shownText().endsWith(QChar(0x2026)));
+  EXPECT_LE(text_.contentWidth(), text_.width());
+  EXPECT_EQ(text_.text().size(), 2000);  // what is said of it stays whole
+}
+
+TEST_F(GlassStillTextTest, EachParagraphBeginsALine) {
+  text_.setText("One\nTwo");
+  EXPECT_EQ(text_.lineCount(), 2);
+  EXPECT_FALSE(text_.truncated());
+}
+
+TEST_F(GlassStillTextTest, AParagraphThatIsLeftOutIsToldByAnEllipsisToo) {
+  text_.setText("One\nTwo\nThree\nFour");
+  EXPECT_EQ(text_.lineCount(), 3);
+  EXPECT_TRUE(text_.truncated());
+  EXPECT_TRUE(text_.shownText().endsWith(QString("Three") + QChar(0x2026)));
+}
+
+TEST_F(GlassStillTextTest, NoWordsAreAsHighAsALineAndDrawNothing) {
+  const double line = lineHeight();
+  text_.setText({});
+  EXPECT_EQ(text_.implicitHeight(), std::ceil(line));
+  EXPECT_FALSE(text_.truncated());
+  EXPECT_EQ(darkest(drawn()), 255);
+}
+
+TEST_F(GlassStillTextTest, OtherWordsAnotherColourAnotherFontAndFewerLinesAreDrawnAnew) {
+  text_.setText("Nine short words stand here");
+  const QImage first = drawn();
+  text_.setText("Five short words stand here");
+  const QImage second = drawn();
+  EXPECT_NE(second, first);
+  text_.setColor(Qt::red);
+  const QImage third = drawn();
+  EXPECT_NE(third, second);
+  QFont font = text_.font();
+  font.setBold(true);
+  text_.setFont(font);
+  const QImage fourth = drawn();
+  EXPECT_NE(fourth, third);
+  text_.setMaximumLineCount(1);
+  EXPECT_NE(drawn(), fourth);
+}
+
+TEST_F(GlassStillTextTest, TheSameAgainDrawsAndTellsNothing) {
+  text_.setText("One");
+  const QSignalSpy told(&text_, &StillText::laidOut);
+  text_.setText("One");
+  text_.setColor(text_.color());
+  text_.setFont(text_.font());
+  text_.setMaximumLineCount(text_.maximumLineCount());
+  EXPECT_EQ(told.count(), 0);
+}
+
+}  // namespace
+}  // namespace leafund
