@@ -30,6 +30,7 @@ void StillText::setColor(const QColor& color) {
 }
 
 void StillText::setMaximumLineCount(int count) {
+  count = std::max(count, 1);
   if (count == maximumLineCount_) return;
   maximumLineCount_ = count;
   layOut();

@@ -21,7 +21,7 @@ class StillText : public ImageItem {
   Q_PROPERTY(QString text READ text WRITE setText NOTIFY textChanged REQUIRED)
   Q_PROPERTY(QFont font READ font WRITE setFont NOTIFY fontChanged REQUIRED)
   Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged REQUIRED)
-  // At least 1.
+  // Fewer than 1 count as 1.
   Q_PROPERTY(int maximumLineCount READ maximumLineCount WRITE setMaximumLineCount NOTIFY
                  maximumLineCountChanged REQUIRED)
   Q_PROPERTY(int lineCount READ lineCount NOTIFY laidOut)

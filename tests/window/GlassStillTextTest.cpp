@@ -118,6 +118,13 @@ TEST_F(GlassStillTextTest, OtherWordsAnotherColourAnotherFontAndFewerLinesAreDra
   EXPECT_NE(drawn(), fourth);
 }
 
+TEST_F(GlassStillTextTest, FewerLinesThanOneAreTakenForOne) {
+  text_.setMaximumLineCount(0);
+  text_.setText(QString("words and ").repeated(200));
+  EXPECT_EQ(text_.maximumLineCount(), 1);
+  EXPECT_EQ(text_.lineCount(), 1);
+}
+
 TEST_F(GlassStillTextTest, TheSameAgainDrawsAndTellsNothing) {
   text_.setText("One");
   const QSignalSpy told(&text_, &StillText::laidOut);
