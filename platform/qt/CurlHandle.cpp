@@ -18,6 +18,9 @@ CurlHandle::CurlHandle(const CurlLibrary& curl, std::size_t mostBodyBytes)
   // What an answer is told from an error by below was tried on HTTP/1.1.
   set(CURLOPT_HTTP_VERSION, long{CURL_HTTP_VERSION_1_1});
   set(CURLOPT_PROTOCOLS_STR, "http,https");
+  // Nothing around the application decides whom it asks, and no picture host on the loopback is
+  // beyond reach because the system has a proxy, whose refusal would be taken for a picture.
+  set(CURLOPT_PROXY, "");
   set(CURLOPT_USERAGENT, "Leafund");
   // Said in a header and not by libcurl's option, with which it would unpack what comes packed all
   // the same.

@@ -2,8 +2,8 @@
 
 namespace leafund {
 
-// The names carry the version 4 of the binary interface, unchanged since 2006.
-CurlLibrary::CurlLibrary() : library_(QStringLiteral("curl"), 4) {
+// The version 4 of the binary interface is unchanged since 2006.
+CurlLibrary::CurlLibrary(const QString& name) : library_(name, 4) {
   resolve(easyInit, "curl_easy_init");
   resolve(easySetopt, "curl_easy_setopt");
   resolve(easyGetinfo, "curl_easy_getinfo");

@@ -12,7 +12,8 @@ namespace leafund {
 // screen is seen.
 class CurlLibrary {
  public:
-  CurlLibrary();
+  // `name` is the file's, without what the system puts around it.
+  explicit CurlLibrary(const QString& name);
 
   // Why there is none; empty when there is one.
   const std::string& failure() const { return failure_; }

@@ -50,7 +50,7 @@ void fail(Fetch& fetch, std::string reason) {
 // Made and destroyed on the main thread: the fetches that it still holds end there.
 class CurlTransfer::Session {
  public:
-  explicit Session(const Limits& limits) : limits_(limits) {}
+  Session(const Limits& limits, std::string name) : limits_(limits), library_(std::move(name)) {}
 
   // From the main thread.
   void add(std::string address, CompletionHandler completion) {
@@ -70,7 +70,7 @@ class CurlTransfer::Session {
   // The life of the thread.
   void run() {
     pthread_setname_np(pthread_self(), "session");
-    const CurlLibrary library;
+    const CurlLibrary library(QString::fromStdString(library_));
     if (!library.failure().empty()) return refuseAll(library.failure());
     curl_ = &library;
     {
@@ -216,6 +216,7 @@ class CurlTransfer::Session {
   }
 
   const Limits limits_;
+  const std::string library_;
   const CurlLibrary* curl_ = nullptr;
   std::mutex mutex_;
   CURLM* multi_ = nullptr;  // Set under the mutex, on the thread.
@@ -229,7 +230,8 @@ class CurlTransfer::Session {
 
 CurlTransfer::CurlTransfer() : CurlTransfer(Limits{}) {}
 
-CurlTransfer::CurlTransfer(const Limits& limits) : limits_(limits) {}
+CurlTransfer::CurlTransfer(const Limits& limits, std::string library)
+    : limits_(limits), library_(std::move(library)) {}
 
 CurlTransfer::~CurlTransfer() {
   if (!session_) return;
@@ -239,7 +241,7 @@ CurlTransfer::~CurlTransfer() {
 
 void CurlTransfer::start(std::string url, CompletionHandler completion) {
   if (!session_) {
-    session_ = std::make_unique<Session>(limits_);
+    session_ = std::make_unique<Session>(limits_, library_);
     thread_ = std::thread([session = session_.get()] { session->run(); });
   }
   session_->add(std::move(url), std::move(completion));

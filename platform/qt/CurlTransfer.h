@@ -29,7 +29,8 @@ class CurlTransfer {
   };
 
   CurlTransfer();
-  explicit CurlTransfer(const Limits& limits);
+  // Where there is no such library, each fetch is an error.
+  explicit CurlTransfer(const Limits& limits, std::string library = "curl");
   CurlTransfer(const CurlTransfer&) = delete;
   CurlTransfer& operator=(const CurlTransfer&) = delete;
   ~CurlTransfer();
@@ -44,6 +45,7 @@ class CurlTransfer {
   class Session;
 
   Limits limits_;
+  std::string library_;
   std::unique_ptr<Session> session_;  // Null until the first fetch.
   std::thread thread_;
 };

@@ -11,7 +11,7 @@ ImageItem::ImageItem(QQuickItem* parent) : QQuickItem(parent) { setFlag(ItemHasC
 
 QSize ImageItem::pixelSize() const {
   const double scale = window() ? window()->effectiveDevicePixelRatio() : 1.0;
-  return (size() * scale).toSize();
+  return (imageRect().size() * scale).toSize();
 }
 
 void ImageItem::repaint() {
@@ -50,7 +50,7 @@ QSGNode* ImageItem::updatePaintNode(QSGNode* node, UpdatePaintNodeData*) {
     }
     imageNode->setTexture(window()->createTextureFromImage(image_));
   }
-  imageNode->setRect(boundingRect());
+  imageNode->setRect(imageRect());
   return imageNode.release();
 }
 

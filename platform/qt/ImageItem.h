@@ -20,6 +20,8 @@ class ImageItem : public QQuickItem {
  protected:
   // The image for that many pixels, `scale` of them a point. Never called with an empty size.
   virtual QImage paint(QSize pixels, double scale) = 0;
+  // Where the image lies: on the item, unless it reaches beyond it.
+  virtual QRectF imageRect() const { return boundingRect(); }
   void repaint();
 
   void updatePolish() override;

@@ -8,6 +8,14 @@
 
 namespace leafund {
 
+namespace {
+
+// How far letters may reach beyond their lines, in points: marks above capitals, and tails of
+// letters that stand first. Whole pixels at every usual scale.
+constexpr double kOverhang = 4;
+
+}  // namespace
+
 void StillText::setText(const QString& text) {
   if (text == text_) return;
   text_ = text;
@@ -64,17 +72,23 @@ void StillText::layOut() {
   layout_.setFont(font_);
   layout_.setText(QString(text_).replace('\n', QChar::LineSeparator));
   truncated_ = !breakLines();
-  if (truncated_) {
-    const QString whole = layout_.text();
-    const int start = layout_.lineAt(layout_.lineCount() - 1).textStart();
-    const QString rest = whole.mid(start).section(QChar::LineSeparator, 0, 0) + QChar(0x2026);
-    layout_.setText(whole.left(start) +
-                    QFontMetricsF(font_).elidedText(rest, Qt::ElideRight, width()));
-    breakLines();
-  }
+  if (truncated_) elide();
   setImplicitHeight(std::ceil(contentHeight()));
   repaint();
   emit laidOut();
+}
+
+void StillText::elide() {
+  const QString whole = layout_.text();
+  const int start = layout_.lineAt(layout_.lineCount() - 1).textStart();
+  const QString rest = whole.mid(start).section(QChar::LineSeparator, 0, 0) + QChar(0x2026);
+  const QFontMetricsF metrics(font_);
+  // What it measures may be narrower than the line that is then laid out, whose letters are not
+  // rounded to whole pixels. It is shortened until the ellipsis finds room.
+  for (double room = width(); room >= 0; --room) {
+    layout_.setText(whole.left(start) + metrics.elidedText(rest, Qt::ElideRight, room));
+    if (breakLines()) return;
+  }
 }
 
 bool StillText::breakLines() {
@@ -93,13 +107,22 @@ bool StillText::breakLines() {
   return end >= layout_.text().size();
 }
 
+QString StillText::shownText() const {
+  const QTextLine last = layout_.lineAt(layout_.lineCount() - 1);
+  return layout_.text().left(last.textStart() + last.textLength());
+}
+
+QRectF StillText::imageRect() const {
+  return boundingRect().adjusted(-kOverhang, -kOverhang, kOverhang, kOverhang);
+}
+
 QImage StillText::paint(QSize pixels, double scale) {
   QImage image(pixels, QImage::Format_ARGB32_Premultiplied);
   image.fill(Qt::transparent);
   QPainter painter(&image);
   painter.scale(scale, scale);
   painter.setPen(color_);
-  layout_.draw(&painter, {0, 0});
+  layout_.draw(&painter, {kOverhang, kOverhang});
   return image;
 }
 

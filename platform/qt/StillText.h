@@ -45,8 +45,8 @@ class StillText : public ImageItem {
   bool truncated() const { return truncated_; }
   double contentWidth() const;
   double contentHeight() const { return layout_.boundingRect().height(); }
-  // As it stands there, with a line separator for each line break of its own.
-  QString shownText() const { return layout_.text(); }
+  // What its lines hold, with a line separator for each line break of its own.
+  QString shownText() const;
 
  signals:
   void textChanged();
@@ -57,11 +57,14 @@ class StillText : public ImageItem {
 
  protected:
   QImage paint(QSize pixels, double scale) override;
+  QRectF imageRect() const override;
   void componentComplete() override;
   void geometryChange(const QRectF& now, const QRectF& before) override;
 
  private:
   void layOut();
+  // Puts an ellipsis where the last line ends.
+  void elide();
   // Breaks into as many lines as there may be; whether that was all of it.
   bool breakLines();
 

@@ -9,7 +9,6 @@
 #include <stdexcept>
 
 #include "model/Catalogue.h"
-#include "model/PictureHost.h"
 #include "platform/qt/ViewObject.h"
 #include "platform/uikit/UITableView.h"
 #include "platform/uikit/UITableViewCell.h"
@@ -46,25 +45,19 @@ StageApplication::Prepared::Prepared(const Surroundings& surroundings) {
 }
 
 StageApplication::StageApplication(Surroundings surroundings, Pictures pictures, QSize size)
-    : prepared_(surroundings), pictures_(pictures) {
+    : prepared_(surroundings), host_(app_.host, app_.server().baseAddress()), pictures_(pictures) {
   requireSurroundings(surroundings, window());
+  setCurrentHost(&host_);
   serve(pictures);
   resize(size);
 }
 
-StageApplication::~StageApplication() { qunsetenv("http_proxy"); }
+StageApplication::~StageApplication() { setCurrentHost(&app_.host); }
 
-// As a proxy the server answers for every address, its own and the one that the build was made for.
 void StageApplication::serve(Pictures pictures) {
-  qputenv("http_proxy", QByteArray::fromStdString(app_.server().baseAddress()));
-  qunsetenv("no_proxy");
   for (const auto& [name, body] : projectPictures()) {
     const auto answer = pictures == Pictures::Served ? answers::ok(body) : answers::neverAnswers();
-    const std::string path = "/" + name;
-    for (const auto& asked :
-         {pictureAddress(name), kOtherHost + path, app_.server().address(path)}) {
-      app_.server().serve(asked, answer);
-    }
+    app_.server().serve("/" + name, answer);
   }
 }
 

@@ -4,6 +4,7 @@
 #include <QSize>
 #include <string>
 
+#include "tests/look/RoutedHost.h"
 #include "tests/window/WindowApplication.h"
 
 namespace leafund {
@@ -20,7 +21,7 @@ struct Surroundings {
 class StageApplication {
  public:
   enum class Pictures { Served, Silent };
-  // Has the project's pictures, too. Its name does not change with the build, as a port does.
+  // Its name does not change with the build, as a port does.
   static constexpr const char* kOtherHost = "http://pictures.example";
 
   StageApplication(Surroundings surroundings, Pictures pictures, QSize size);
@@ -57,6 +58,7 @@ class StageApplication {
 
   Prepared prepared_;
   WindowApplication app_;
+  RoutedHost host_;
   Pictures pictures_;
 };
 

@@ -36,6 +36,10 @@ TEST_F(CampaignTableDeathTest, AMissingTableOrRootViewIsFatal) {
   const auto shown = cell(0);
   screen->releaseView();
   EXPECT_DEATH(screen->viewWillAppear(false), "the table view is absent");
+  EXPECT_DEATH(screen->tableViewCellForRowAtIndexPath(*table, {0, 0}), "the table view is absent");
+  const auto update = makeScreen<UpdatePageVC>("UpdatePageVC");
+  UIStoryboardSegue segue("campaignSegue", screen, update);
+  EXPECT_DEATH(screen->prepareForSegueSender(segue, shown), "the table view is absent");
   EXPECT_DEATH(screen->tableViewWillDisplayCellForRowAtIndexPath(*table, shown, {0, 0}),
                "the root view is absent");
 }

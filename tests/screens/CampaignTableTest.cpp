@@ -59,6 +59,20 @@ TEST_F(CampaignTableTest, EveryRowIs160HighAlthoughTheTableIsTold100) {
   EXPECT_EQ(cell(1)->frame(), (CGRect{0, 160, 390, 160}));
 }
 
+TEST_F(CampaignTableTest, WhicheverTableAsksTheScreensOwnIsToldTheHeight) {
+  open("browseTab");
+  UITableView other;
+  other.registerPrototype("abc", [] {
+    return std::make_shared<UITableViewCell>(UITableViewCellStyle::Subtitle, "abc");
+  });
+  const double before = other.rowHeight();
+  table->setRowHeight(7);
+  screen->tableViewCellForRowAtIndexPath(other, {0, 0});
+  EXPECT_EQ(table->rowHeight(), 100.0);
+  EXPECT_EQ(other.rowHeight(), before);
+  ASSERT_NE(before, 100.0);
+}
+
 TEST_F(CampaignTableTest, ThePictureIsFramedSmallAndRound) {
   open("browseTab");
   const auto& picture = *cell(0)->imageView();

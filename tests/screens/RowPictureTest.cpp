@@ -119,13 +119,14 @@ TEST(RowPictureOwnerTest, ADownloadKeepsItsCellAndItsScreenUntilItEnds) {
   EXPECT_TRUE(watchedScreen.expired());
 }
 
-TEST(RowPictureOwnerTest, TheDownloadCallsTheResizeOfASubclass) {
+TEST(RowPictureOwnerTest, TheDownloadCallsTheResizeOfASubclassWhileTheCellShowsThePictureAsItCame) {
   struct Counting : FundCampaignVC {
     int calls = 0;
     std::shared_ptr<const UIImage> imageResizeWithImageSizeChange(
         const std::shared_ptr<const UIImage>& image, CGSize size) override {
       ++calls;
       EXPECT_EQ(size, (CGSize{128, 128}));
+      EXPECT_EQ(tableView()->visibleCells().at(0)->imageView()->image(), image);
       return image;
     }
   };

@@ -1,7 +1,10 @@
 #include <gtest/gtest.h>
 
 #include <QAccessible>
+#include <algorithm>
+#include <set>
 
+#include "model/Catalogue.h"
 #include "screens/accounts/SignUpVC.h"
 #include "tests/window/GlassFixture.h"
 
@@ -153,6 +156,39 @@ TEST(GlassAheadLogicTest, NoLogicRunsForAScreenMadeAhead) {
   app.click(app.require("signUpButton"));
   app.settle();
   EXPECT_EQ(CountedSignUp::loads, 1);
+}
+
+// As a user who looks at each screen for long before going on.
+class GlassAheadRestTest : public GlassAheadTest {
+ protected:
+  void rest(const std::set<QString>& next) {
+    EXPECT_TRUE(app.waitUntil([&] {
+      return std::ranges::all_of(next, [&](const auto& name) { return waiting(name) != nullptr; });
+    }));
+  }
+};
+
+TEST_F(GlassAheadRestTest, ScreensMadeAheadPrintNothingFetchNothingAndMakeNoListOfTheCatalogue) {
+  testing::internal::CaptureStdout();
+  rest({"SignUpVC", "TabBarVC"});
+  click("signUpButton");
+  rest({"TabBarVC"});
+  EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
+  EXPECT_TRUE(app.server().requests().empty());
+  // Made at their first use, and with the name of that moment.
+  currentUserName() = "Wren";
+  EXPECT_EQ(myUnfundedCampaigns().front()->creator(), "Wren");
+}
+
+TEST_F(GlassAheadRestTest, ScreensMadeAheadFromAListPrintAndFetchNothing) {
+  signIn();
+  click("mineTab");
+  app.settle();
+  const auto asked = app.server().requests().size();
+  testing::internal::CaptureStdout();
+  rest({"OneCampaignViewController", "NewCampaignVC"});
+  EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
+  EXPECT_EQ(app.server().requests().size(), asked);
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 #include <QSignalSpy>
 
 #include "platform/qt/StillText.h"
+#include "tests/support/ProcessorTime.h"
 #include "tests/window/GlassFixture.h"
 
 namespace leafund {
@@ -77,6 +78,39 @@ TEST_F(GlassStillTextTest, MoreThanItsLinesHoldEndsInAnEllipsisWithinTheWidth) {
   EXPECT_TRUE(text_.shownText().endsWith(QChar(0x2026)));
   EXPECT_LE(text_.contentWidth(), text_.width());
   EXPECT_EQ(text_.text().size(), 2000);  // what is said of it stays whole
+}
+
+TEST_F(GlassStillTextTest, TheEllipsisFindsRoomWhateverTheLettersAndTheWidth) {
+  for (const char letter : std::string("nuhilzmWj.")) {
+    text_.setText(QString(300, letter));
+    for (int width = 40; width < 300; width += 7) {
+      text_.setWidth(width);
+      EXPECT_TRUE(text_.shownText().endsWith(QChar(0x2026))) << letter << " in " << width;
+    }
+  }
+}
+
+TEST_F(GlassStillTextTest, WhatReachesBeyondALetterAtTheEdgeIsDrawnToo) {
+  text_.setPosition({20, 20});
+  text_.setFont(QFont("Inter", 30, QFont::Bold));
+  text_.setText("j\u00ce\u1ea8");  // a tail to the left, and marks on capitals
+  const QImage image = drawn();
+  EXPECT_LT(darkest(image.copy(16, 0, 4, 200)), 255) << "nothing stands beside it";
+  EXPECT_LT(darkest(image.copy(0, 16, 300, 4)), 255) << "nothing stands above it";
+}
+
+TEST_F(GlassStillTextTest, BetweenPixelsItIsAsSharpAsOnThem) {
+  text_.setText("One");
+  const QImage on = drawn();
+  text_.setY(0.4);
+  EXPECT_EQ(drawn(), on);
+}
+
+TEST_F(GlassStillTextTest, TwentyThousandLettersAreLaidOutAtOnce) {
+  const double before = processorSeconds();
+  text_.setText(QString(20'000, 'm'));
+  EXPECT_LT(processorSeconds() - before, 0.5);
+  EXPECT_TRUE(text_.truncated());
 }
 
 TEST_F(GlassStillTextTest, EachParagraphBeginsALine) {

@@ -29,6 +29,15 @@ TEST_F(CurlTransferTest, NothingElseIsSent) {
   for (const auto& [name, value] : headers) ADD_FAILURE() << name << ": " << value;
 }
 
+TEST_F(CurlTransferTest, NoProxyOfTheEnvironmentIsAsked) {
+  for (const char* variable : {"http_proxy", "all_proxy", "ALL_PROXY"}) {
+    setenv(variable, "http://127.0.0.1:9", 1);
+  }
+  unsetenv("no_proxy");
+  unsetenv("NO_PROXY");
+  EXPECT_TRUE(answered(answers::ok("bytes")).isResponse(200, "bytes"));
+}
+
 TEST_F(CurlTransferTest, ANameAndAPasswordInTheAddressAreNotSent) {
   CurlTransfer transfer;
   server_.serve("/picture",

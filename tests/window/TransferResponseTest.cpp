@@ -161,6 +161,18 @@ TEST_F(CurlTransferTest, AHeadMayBeThreeHundredKilobytesLong) {
   EXPECT_TRUE(answered(head(400'000)).isError());
 }
 
+TEST_F(CurlTransferTest, WithoutALibraryEachFetchIsAnErrorAndTheEndIsAtOnce) {
+  CurlTransfer transfer({}, "no-such-library");
+  const std::string url = server_.serve("/picture", answers::ok("bytes"));
+
+  EXPECT_TRUE(fetched(transfer, url).isError());
+  auto second = started(transfer, url);
+  auto third = started(transfer, url);
+  EXPECT_TRUE(outcomeOf(std::move(second)).isError());
+  EXPECT_TRUE(outcomeOf(std::move(third)).isError());
+  EXPECT_TRUE(server_.requests().empty());
+}
+
 TEST_F(CurlTransferTest, AnEndlessBodyIsBrokenOffAndItsConnectionClosed) {
   CurlTransfer transfer;
 
