@@ -23,7 +23,6 @@ Item {
 
     // What a message has just come for, the topmost of several, is in sight until the user goes on.
     property Item told: null
-    property bool revealing: false
     function bringIntoSight(item) {
         if (!told || item.mapToItem(column, 0, 0).y < told.mapToItem(column, 0, 0).y)
             told = item;
@@ -45,15 +44,14 @@ Item {
         const top = column.y + shown.y - Theme.wide;
         const bottom = column.y + shown.y + shown.height + Theme.space;
         const lowest = Math.max(0, flickable.contentHeight - flickable.height);
-        revealing = true;
         if (bottom > flickable.contentY + flickable.height)
             flickable.contentY = Math.min(lowest, bottom - flickable.height);
         if (top < flickable.contentY)
             flickable.contentY = Math.max(0, top);
-        revealing = false;
     }
 
     function scrollBy(distance) {
+        told = null;
         const lowest = Math.max(0, flickable.contentHeight - flickable.height);
         flickable.contentY = Math.max(0, Math.min(lowest, flickable.contentY + distance));
     }
@@ -80,7 +78,8 @@ Item {
         interactive: contentHeight > height
         clip: true
         onContentHeightChanged: Qt.callLater(pane.reveal)
-        onContentYChanged: if (!pane.revealing) pane.told = null
+        // Not wherever its content moves: it rounds a place between pixels by itself.
+        onMovementStarted: pane.told = null
 
         // A tap beside the controls, which the pane would keep to itself where it scrolls.
         MouseArea {

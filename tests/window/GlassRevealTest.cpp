@@ -74,6 +74,21 @@ TEST_F(GlassRevealTest, OfSeveralMessagesTheTopmostIsScrolledIntoSight) {
   expectInSight([&] { return seenAt("nameOfCreator"); }, "the first message");
 }
 
+TEST_F(GlassRevealTest, AMessageStaysInSightThoughItsPlaceIsRoundedToWholePixels) {
+  openForm();
+  resizeTo({390, 568});
+  click("createButton");
+  expectInSight([&] { return seenAt("nameOfCreator"); }, "the first message");
+  QObject* pane = nullptr;
+  for (auto* each = app.require("nameOfCreator").parentItem(); pane == nullptr;
+       each = each->parentItem()) {
+    if (each->inherits("QQuickFlickable")) pane = each;
+  }
+  pane->setProperty("contentY", 0.4);  // by the pane itself, and not by a user who goes on
+  resizeTo({390, 520});
+  expectInSight([&] { return seenAt("nameOfCreator"); }, "the first message, after all");
+}
+
 TEST_F(GlassRevealTest, AReasonBelowAnInputIsScrolledIntoSight) {
   openForm();
   resizeTo({390, 568});
