@@ -23,6 +23,7 @@ Item {
 
     // What a message has just come for, the topmost of several, is in sight until the user goes on.
     property Item told: null
+    property real placed: 0  // where the content was last moved for it
     function bringIntoSight(item) {
         if (!told || item.mapToItem(column, 0, 0).y < told.mapToItem(column, 0, 0).y)
             told = item;
@@ -44,14 +45,15 @@ Item {
         const top = column.y + shown.y - Theme.wide;
         const bottom = column.y + shown.y + shown.height + Theme.space;
         const lowest = Math.max(0, flickable.contentHeight - flickable.height);
-        if (bottom > flickable.contentY + flickable.height)
-            flickable.contentY = Math.min(lowest, bottom - flickable.height);
-        if (top < flickable.contentY)
-            flickable.contentY = Math.max(0, top);
+        placed = flickable.contentY;
+        if (bottom > placed + flickable.height)
+            placed = Math.min(lowest, bottom - flickable.height);
+        if (top < placed)
+            placed = Math.max(0, top);
+        flickable.contentY = placed;
     }
 
     function scrollBy(distance) {
-        told = null;
         const lowest = Math.max(0, flickable.contentHeight - flickable.height);
         flickable.contentY = Math.max(0, Math.min(lowest, flickable.contentY + distance));
     }
@@ -78,8 +80,8 @@ Item {
         interactive: contentHeight > height
         clip: true
         onContentHeightChanged: Qt.callLater(pane.reveal)
-        // Not wherever its content moves: it rounds a place between pixels by itself.
-        onMovementStarted: pane.told = null
+        // By less it is moved by itself: a place between pixels is rounded.
+        onContentYChanged: if (Math.abs(contentY - pane.placed) >= 1) pane.told = null
 
         // A tap beside the controls, which the pane would keep to itself where it scrolls.
         MouseArea {
