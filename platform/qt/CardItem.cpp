@@ -48,7 +48,21 @@ void CardItem::catchUp() {
   repaint();
 }
 
+// The cards of a list look alike: what was painted for one row serves the next, and their frames
+// read one image instead of as many as there are rows in sight.
 QImage CardItem::paint(QSize pixels, double scale) {
+  static Painted last;
+  if (!last.isOf(*this, pixels, scale)) {
+    last = {looks_, ground(), pixels, scale, painted(pixels, scale)};
+  }
+  return last.image;
+}
+
+bool CardItem::Painted::isOf(const CardItem& item, QSize size, double scaled) const {
+  return pixels == size && scale == scaled && ground == item.ground() && looks == item.looks_;
+}
+
+QImage CardItem::painted(QSize pixels, double scale) const {
   QImage image(pixels, QImage::Format_RGB32);
   image.fill(ground());
   QPainter painter(&image);

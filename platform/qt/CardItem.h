@@ -23,6 +23,18 @@ class CardItem : public ViewImageItem {
   void catchUp() override;
 
  private:
+  // An image and all that it depends on.
+  struct Painted {
+    std::vector<CardLook> looks;
+    QColor ground;
+    QSize pixels;
+    double scale = 0;
+    QImage image;
+    bool isOf(const CardItem& item, QSize size, double scaled) const;
+  };
+
+  QImage painted(QSize pixels, double scale) const;
+
   std::vector<CardLook> looks_;  // of width 0: each spans the row
 };
 

@@ -55,14 +55,6 @@ void StillText::geometryChange(const QRectF& now, const QRectF& before) {
   if (now.width() != before.width()) layOut();
 }
 
-double StillText::contentWidth() const {
-  double widest = 0;
-  for (int i = 0; i < layout_.lineCount(); ++i) {
-    widest = std::max(widest, layout_.lineAt(i).naturalTextWidth());
-  }
-  return widest;
-}
-
 void StillText::layOut() {
   if (!isComponentComplete()) return;
   QTextOption option;
@@ -73,6 +65,8 @@ void StillText::layOut() {
   layout_.setText(QString(text_).replace('\n', QChar::LineSeparator));
   truncated_ = !breakLines();
   if (truncated_) elide();
+  words_ = {};
+  for (int i = 0; i < layout_.lineCount(); ++i) words_ |= layout_.lineAt(i).naturalTextRect();
   setImplicitHeight(std::ceil(contentHeight()));
   repaint();
   emit laidOut();
@@ -113,7 +107,8 @@ QString StillText::shownText() const {
 }
 
 QRectF StillText::imageRect() const {
-  return boundingRect().adjusted(-kOverhang, -kOverhang, kOverhang, kOverhang);
+  const QRectF words = words_.toAlignedRect();
+  return words.adjusted(-kOverhang, -kOverhang, kOverhang, kOverhang);
 }
 
 QImage StillText::paint(QSize pixels, double scale) {
@@ -122,7 +117,7 @@ QImage StillText::paint(QSize pixels, double scale) {
   QPainter painter(&image);
   painter.scale(scale, scale);
   painter.setPen(color_);
-  layout_.draw(&painter, {kOverhang, kOverhang});
+  layout_.draw(&painter, -imageRect().topLeft());
   return image;
 }
 

@@ -43,7 +43,7 @@ class StillText : public ImageItem {
 
   int lineCount() const { return layout_.lineCount(); }
   bool truncated() const { return truncated_; }
-  double contentWidth() const;
+  double contentWidth() const { return words_.width(); }
   double contentHeight() const { return layout_.boundingRect().height(); }
   // What its lines hold, with a line separator for each line break of its own.
   QString shownText() const;
@@ -74,6 +74,7 @@ class StillText : public ImageItem {
   int maximumLineCount_ = 1;
   QTextLayout layout_;
   bool truncated_ = false;
+  QRectF words_;  // what its lines take
 };
 
 }  // namespace leafund
