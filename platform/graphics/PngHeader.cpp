@@ -117,6 +117,17 @@ bool pixelsBegin(ByteReader& bytes, bool needsPalette) {
 
 bool beginsAsPng(std::string_view body) { return body.starts_with(signature); }
 
+std::string_view pngWholeChunks(std::string_view body) {
+  constexpr std::size_t around = 12;  // its length, its name and its checksum
+  std::size_t end = signature.size();
+  for (;;) {
+    ByteReader chunk{body.substr(end)};
+    const std::size_t length = chunk.big32();
+    if (!chunk.good() || body.size() - end < around + length) return body.substr(0, end);
+    end += around + length;
+  }
+}
+
 std::optional<PixelSize> pngSize(std::string_view body) {
   ByteReader bytes{body.substr(signature.size())};
   const auto header = readImageHeader(bytes);

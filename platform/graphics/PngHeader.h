@@ -14,4 +14,8 @@ bool beginsAsPng(std::string_view body);
 // the beginning of the pixel data. The body begins as a PNG.
 std::optional<PixelSize> pngSize(std::string_view body);
 
+// The beginning of a PNG, up to the first chunk that is not there whole. A decoder takes room for
+// all that such a chunk announces, up to 2 GB, before it looks for the bytes.
+std::string_view pngWholeChunks(std::string_view body);
+
 }  // namespace leafund

@@ -9,6 +9,7 @@
 #include <mutex>
 
 #include "platform/graphics/PictureHeader.h"
+#include "platform/graphics/PngHeader.h"
 
 namespace leafund {
 
@@ -57,7 +58,9 @@ QImage decoded(const std::string& body, PictureHeader::Format format, QSize size
   std::call_once(silenced, [] {
     QLoggingCategory::setFilterRules(QStringLiteral("qt.gui.imageio*.warning=false"));
   });
-  auto bytes = QByteArray::fromRawData(body.data(), static_cast<qsizetype>(body.size()));
+  const std::string_view sound =
+      format == PictureHeader::Format::PNG ? pngWholeChunks(body) : std::string_view(body);
+  auto bytes = QByteArray::fromRawData(sound.data(), static_cast<qsizetype>(sound.size()));
   QBuffer buffer(&bytes);
   QImageReader reader(&buffer, readerName(format));
   reader.setAutoDetectImageFormat(false);

@@ -93,5 +93,17 @@ TEST(PngHeaderTest, RefusesAChunkLongerThanTheBody) {
   EXPECT_FALSE(isReadable(imageHeader(2, 2) + big32(0x80000000) + "IDAT"));
 }
 
+TEST(PngHeaderTest, TheChunksThatAreThereWholeEndWhereOneIsCut) {
+  const std::string first = pngStart + imageHeader(2, 2) + pixels;
+  const std::string whole = first + chunk("tEXt", "a") + chunk("IEND", "");
+  EXPECT_EQ(pngWholeChunks(whole), whole);
+  EXPECT_EQ(pngWholeChunks(whole + big32(0x7FFFFFFF) + "tEXt"), whole);
+  EXPECT_EQ(pngWholeChunks(whole + big32(0xFFFFFFFF) + "tEXt" + whole), whole);
+  EXPECT_EQ(pngWholeChunks(whole + "\x01\x02"), whole);
+  EXPECT_EQ(pngWholeChunks(whole.substr(0, first.size() + 12)), first) << "a byte is missing";
+  EXPECT_EQ(pngWholeChunks(whole.substr(0, first.size() + 13)), first + chunk("tEXt", "a"));
+  EXPECT_EQ(pngWholeChunks(pngStart), pngStart);
+}
+
 }  // namespace
 }  // namespace leafund

@@ -1,3 +1,5 @@
+#include <fstream>
+
 #include "tests/window/PixelsFixture.h"
 
 namespace leafund {
@@ -68,6 +70,33 @@ TEST(PicturePixelsTest, AHeaderThatClaimsAHugePictureIsNoPicture) {
   huge.replace(frame + 5, 4, "\xFD\xE8\xFD\xE8");  // 65,000 by 65,000
 
   EXPECT_FALSE(UIImage::initWithData(std::make_shared<const std::string>(huge)));
+}
+
+// In kilobytes, of addresses: room that was taken and never filled counts, too.
+long mostRoomTaken() {
+  std::ifstream status("/proc/self/status");
+  std::string word;
+  while (status >> word && word != "VmPeak:") continue;
+  long kilobytes = 0;
+  status >> kilobytes;
+  return kilobytes;
+}
+
+TEST(PicturePixelsTest, NoRoomIsTakenForWhatAPngOnlyAnnounces) {
+  const std::string announced = "\x3D\x01\x01\x01tEXt";  // a gigabyte of words
+  std::string body = *written(quadrants({64, 64}), "png");
+  const std::size_t end = body.find("IEND");
+  ASSERT_NE(end, std::string::npos);
+  body.insert(end - 4, announced);
+  picturePixels(*picture({64, 64}, "png"), {16, 16}, stretch);
+  const long before = mostRoomTaken();
+  const auto image = UIImage::initWithData(std::make_shared<const std::string>(body));
+  ASSERT_TRUE(image);
+
+  picturePixels(*image, {16, 16}, stretch);
+
+  ASSERT_GT(before, 0);
+  EXPECT_LT(mostRoomTaken(), before + 100'000);
 }
 
 TEST(PicturePixelsTest, TheReaderRefusesWhatWouldTakeMoreThan128Megabytes) {
