@@ -95,7 +95,7 @@ TEST(CanonicalEquivalenceTest, BytesThatAreNotUtf8EqualOnlyThemselves) {
 // Far above what a linear comparison needs, far below what a quadratic one takes.
 class CanonicalEquivalenceOfLongTextsTest : public testing::Test {
  protected:
-  void TearDown() override { EXPECT_LT(processorSeconds() - start_, 10); }
+  void TearDown() override { EXPECT_LT(processorSeconds() - start_, 30); }
 
  private:
   double start_ = processorSeconds();
