@@ -21,28 +21,26 @@ FocusScope {
         flickable.contentY = Math.max(0, Math.min(lowest, flickable.contentY + distance));
     }
 
-    // The row in focus stays in sight, and some of the next: only rows in sight can be reached.
+    // The row in focus is brought into sight, and some of the next: only rows in sight can be reached.
     readonly property Item focused: Window.activeFocusItem
-    property bool settling: false
-    onFocusedChanged: {
-        if (focused === list)
-            Qt.callLater(settleFocus);
-        if (settling || !focused || focused.parent !== rows)
-            return;
-        const top = focused.y - flickable.contentY;
+    onFocusedChanged: if (focused === list) Qt.callLater(giveFocusToRow)
+    function bringIntoSight(row) {
+        const top = row.y - flickable.contentY;
         const above = top - Theme.peek;
-        const below = top + focused.height + Theme.peek - flickable.height;
+        const below = top + row.height + Theme.peek - flickable.height;
         scrollBy(above < 0 ? above : Math.max(0, below));
     }
 
     // When the screen comes, and when the row in focus has gone or was scrolled away, a row in sight
     // takes the focus, and nothing scrolls for it.
+    function giveFocusToRow() {
+        if (focused === list)
+            settleFocus();
+    }
     function settleFocus() {
         if (!list.activeFocus)
             return;
-        settling = true;
         rows.focusSeen(flickable.contentY, flickable.contentY + flickable.height);
-        settling = false;
         if (list.table.contentHeight === 0)
             flickable.forceActiveFocus(Qt.ActiveWindowFocusReason);
     }
@@ -81,11 +79,14 @@ FocusScope {
         activeFocusOnTab: contentHeight === 0
         boundsBehavior: Flickable.StopAtBounds
         clip: true
-        onContentYChanged: list.table.scroll(contentY)
 
-        // No binding: it would end a flick at each refresh.
-        readonly property real offset: list.table.contentOffset
-        onOffsetChanged: if (offset !== contentY) contentY = offset
+        // The item owns the offset. What logic or layout placed anew is taken over once.
+        onContentYChanged: list.table.scroll(contentY)
+        readonly property int placement: list.table.placement
+        onPlacementChanged: contentY = list.table.contentOffset
+        // A fling ends where its list is covered.
+        readonly property bool covered: !enabled || !visible
+        onCoveredChanged: if (covered) cancelFlick()
 
         Accessible.role: Accessible.List
         Accessible.name: list.scene.title
@@ -97,6 +98,7 @@ FocusScope {
             width: flickable.width
             height: flickable.contentHeight
             table: list.table
+            onRowFocused: row => list.bringIntoSight(row)
             delegate: Component { CampaignRow {} }
         }
     }

@@ -15,6 +15,7 @@ Pressable {
     height: view.height
     visible: view.visible
     ringOutset: -Theme.half
+    steady: true
 
     onPressed: view.tap()
 

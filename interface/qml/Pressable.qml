@@ -7,7 +7,9 @@ Item {
     id: pressable
 
     signal pressed
-    readonly property bool held: area.pressed
+    readonly property bool held: area.pressed && !area.drawn
+    // In a list a finger that is drawn along wants to scroll, even where the list has ended.
+    property bool steady: false
     property alias ringOutset: ring.outset
 
     activeFocusOnTab: true
@@ -37,7 +39,17 @@ Item {
         id: area
         anchors.fill: parent
         cursorShape: Qt.PointingHandCursor
-        onClicked: pressable.press()
+        property real start
+        property bool drawn: false
+        onPressed: mouse => {
+            start = mouse.y;
+            drawn = false;
+        }
+        onPositionChanged: mouse => {
+            if (pressable.steady && Math.abs(mouse.y - start) >= Qt.styleHints.startDragDistance)
+                drawn = true;
+        }
+        onClicked: if (!drawn) pressable.press()
     }
 
     FocusRing {

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "platform/foundation/FatalError.h"
 #include "platform/foundation/NSURLRequest.h"
 #include "platform/uikit/UIApplication.h"
 
@@ -25,6 +26,10 @@ int HeadlessHost::run(UIApplication& application) {
 bool HeadlessHost::onMain() const { return std::this_thread::get_id() == main_; }
 
 void HeadlessHost::post(std::function<void()> step) {
+  // It has no loop that would go on, and draining would never end.
+  if (onMain() && application_ != nullptr && application_->stalled()) {
+    fatalError("turn", "the layout does not settle");
+  }
   const std::lock_guard lock(mutex_);
   steps_.push_back(std::move(step));
 }

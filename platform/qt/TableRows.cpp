@@ -1,5 +1,6 @@
 #include "platform/qt/TableRows.h"
 
+#include <QFocusEvent>
 #include <QQmlContext>
 #include <algorithm>
 #include <map>
@@ -38,7 +39,18 @@ void TableRows::makeItem(ViewObject* cell) {
   if (item == nullptr) fatalError("TableRows", delegate_->errorString().toStdString());
   item->setParent(this);
   item->setParentItem(this);
+  item->installEventFilter(this);
   items_.push_back(item);
+}
+
+bool TableRows::eventFilter(QObject* row, QEvent* event) {
+  if (event->type() == QEvent::FocusIn) {
+    const auto reason = static_cast<QFocusEvent*>(event)->reason();
+    if (reason != Qt::ActiveWindowFocusReason && reason != Qt::MouseFocusReason) {
+      emit rowFocused(static_cast<QQuickItem*>(row));
+    }
+  }
+  return false;
 }
 
 void TableRows::nameAndStack() {

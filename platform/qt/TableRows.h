@@ -36,8 +36,12 @@ class TableRows : public QQuickItem {
  signals:
   void tableChanged();
   void delegateChanged();
+  // By keyboard or assistive technology. Who points at a row sees it, and a focus that the host
+  // gives moves no list.
+  void rowFocused(QQuickItem* row);
 
  protected:
+  bool eventFilter(QObject* row, QEvent* event) override;
   void componentComplete() override;
 
  private:

@@ -73,6 +73,7 @@ void readControl(const UIControl& control, ViewLook& look) {
 void readTable(const UITableView& table, ViewLook& look) {
   look.contentHeight = table.contentHeight();
   look.contentOffset = table.contentOffset().y;
+  look.placements = table.placements();
 }
 
 void readPicture(const UIImageView& picture, ViewLook& look) {

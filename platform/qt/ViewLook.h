@@ -45,6 +45,7 @@ struct ViewLook {
   // Tables.
   double contentHeight = 0;
   double contentOffset = 0;
+  unsigned placements = 0;
 
   // Pictures.
   std::shared_ptr<const UIImage> image;

@@ -40,8 +40,9 @@ void ViewObject::show(const std::shared_ptr<UIView>& view) {
   cards_.clear();
   knownSubviews_ = 0;
   takeParts(*view);
+  ++aims_;
   auto look = lookOf(*view);
-  if (look == look_) return;
+  if (look == look_ && dynamic_cast<const UITableView*>(view.get()) == nullptr) return;
   look_ = std::move(look);
   emit changed();
 }
@@ -129,7 +130,7 @@ void ViewObject::pressReturn() {
 
 void ViewObject::scroll(double y) {
   const auto table = std::dynamic_pointer_cast<UITableView>(view_.lock());
-  if (auto* application = UIApplication::current()) application->scroll(table, y);
+  if (auto* application = UIApplication::current()) application->scroll(table, y, look_.placements);
 }
 
 }  // namespace leafund

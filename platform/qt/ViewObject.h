@@ -54,6 +54,8 @@ class ViewObject : public QObject, public Skin {
   Q_PROPERTY(QColor tintColor READ tintColor NOTIFY changed)
   Q_PROPERTY(double contentHeight READ contentHeight NOTIFY changed)
   Q_PROPERTY(double contentOffset READ contentOffset NOTIFY changed)
+  // Of a table: the item takes its offset over when this changes, and only then.
+  Q_PROPERTY(unsigned placement READ placement NOTIFY changed)
   Q_PROPERTY(QVariantMap parts READ parts CONSTANT)
 
  public:
@@ -90,6 +92,7 @@ class ViewObject : public QObject, public Skin {
   QColor tintColor() const { return look_.tintColor; }
   double contentHeight() const { return look_.contentHeight; }
   double contentOffset() const { return look_.contentOffset; }
+  unsigned placement() const { return look_.placements + aims_; }
   bool hasImage() const { return look_.image != nullptr; }
 
   // Of a row its content, picture, title and detail, by these names.
@@ -107,6 +110,7 @@ class ViewObject : public QObject, public Skin {
   Q_INVOKABLE void beginEditing();
   Q_INVOKABLE void endEditing();
   Q_INVOKABLE void pressReturn();
+  // The user scrolled the item there.
   Q_INVOKABLE void scroll(double y);
 
  signals:
@@ -125,6 +129,7 @@ class ViewObject : public QObject, public Skin {
   std::vector<CardLook> cards_;
   std::vector<ViewObject*> cells_;
   std::size_t knownSubviews_ = 0;
+  unsigned aims_ = 0;  // how often another view was shown
 };
 
 }  // namespace leafund

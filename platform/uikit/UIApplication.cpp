@@ -1,9 +1,9 @@
 #include "platform/uikit/UIApplication.h"
 
 #include <algorithm>
+#include <cstdio>
 #include <utility>
 
-#include "platform/foundation/FatalError.h"
 #include "platform/uikit/UINavigationController.h"
 #include "platform/uikit/UITabContainer.h"
 #include "platform/uikit/UITableView.h"
@@ -16,8 +16,18 @@ namespace {
 
 UIApplication* theApplication = nullptr;
 
-// A layout or a refresh that goes on for ever is a mistake in a screen or a skin.
+// Of rounds that took no waiting work: a layout or a refresh that goes on for ever is a mistake in
+// a screen or a skin.
 constexpr int kMostRounds = 100;
+// Of waiting work that one turn takes: more than any user raises, and soon over if work raises work
+// for ever.
+constexpr int kMostWork = 10'000;
+
+void complain() {
+#ifndef NDEBUG
+  std::fputs("turn: the layout does not settle\n", stderr);
+#endif
+}
 
 }  // namespace
 
@@ -41,20 +51,33 @@ void UIApplication::launch(const std::optional<LaunchOptions>& options) {
   navigation_->setSize(size_);
   // Ahead of what was raised before the launch: nothing from outside meets a stack without a
   // screen.
-  pending_.emplace_front(
-      [this] { navigation_->pushViewController(storyboard_.instantiateInitialViewController()); });
-  turn([] {});
+  pending_.push_front({[this] {
+    navigation_->pushViewController(storyboard_.instantiateInitialViewController());
+  }});
+  run();
 }
 
-void UIApplication::turn(std::function<void()> work) {
-  pending_.push_back(std::move(work));
-  if (running_ || !navigation_) return;
+void UIApplication::turn(std::function<void()> work) { add({std::move(work)}); }
+
+void UIApplication::add(Waiting waiting) {
+  if (waiting.about != nullptr && !pending_.empty() && pending_.back().about == waiting.about) {
+    pending_.back() = std::move(waiting);
+  } else {
+    pending_.push_back(std::move(waiting));
+  }
+  if (!running_ && navigation_) run();
+}
+
+void UIApplication::run() {
   running_ = true;
-  for (int round = 0; !settled(); ++round) {
-    if (round == kMostRounds) fatalError("turn", "the layout does not settle");
+  for (int work = 0, rounds = 0; !settled() && work < kMostWork && rounds < kMostRounds;) {
+    ++(pending_.empty() ? rounds : work);
     runRound();
   }
   running_ = false;
+  if (settled()) return;
+  complain();
+  host_.post([] {});
 }
 
 bool UIApplication::settled() const {
@@ -63,9 +86,9 @@ bool UIApplication::settled() const {
 
 void UIApplication::runRound() {
   if (!pending_.empty()) {
-    auto work = std::move(pending_.front());
+    const auto waiting = std::move(pending_.front());
     pending_.pop_front();
-    work();
+    waiting.work();
   }
   for (const auto& waiting : std::exchange(needLayout_, {})) {
     const auto view = std::static_pointer_cast<UIView>(waiting.lock());
@@ -172,17 +195,24 @@ void UIApplication::pressReturn(const std::shared_ptr<UITextField>& field) {
   });
 }
 
-void UIApplication::scroll(const std::shared_ptr<UITableView>& table, double offset) {
-  turn([this, table, offset] {
-    if (!table || !reachable(*table)) return;
-    table->setContentOffset({0, std::clamp(offset, 0.0, table->greatestOffset())});
-  });
+void UIApplication::scroll(const std::shared_ptr<UITableView>& table, double offset,
+                           std::optional<unsigned> placements) {
+  if (!table) return;
+  const auto seen = placements.value_or(table->placements());
+  const auto follow = [this, table, offset, seen] {
+    if (table->placements() != seen || table->contentOffset().y == offset) return;
+    const double nearest = std::clamp(offset, 0.0, table->greatestOffset());
+    const bool reached = reachable(*table);
+    if (reached) table->followUser({table->contentOffset().x, nearest});
+    if (!reached || nearest != offset) table->placeAnew();
+  };
+  add({follow, table.get()});
 }
 
 void UIApplication::resize(CGSize size) {
   size_ = size;
   if (!navigation_) return;  // the first size comes before launch
-  turn([this, size] { navigation_->setSize(size); });
+  add({[this, size] { navigation_->setSize(size); }, this});
 }
 
 void UIApplication::goBack() {
@@ -214,30 +244,6 @@ void UIApplication::receiveMemoryWarning() {
       for (const auto& child : screen->childViewControllers()) child->didReceiveMemoryWarning();
     }
   });
-}
-
-namespace {
-std::map<std::string, DelegateMaker, std::less<>>& delegateClasses() {
-  static std::map<std::string, DelegateMaker, std::less<>> classes;
-  return classes;
-}
-}  // namespace
-
-void registerDelegateClass(std::string_view className, DelegateMaker make) {
-  delegateClasses().insert_or_assign(std::string(className), make);
-}
-
-int UIApplicationMain(int, char**, std::optional<std::string>, std::string_view delegateClassName,
-                      Host& host, const UIStoryboard& storyboard) {
-  const auto make = delegateClasses().find(delegateClassName);
-  if (make == delegateClasses().end()) {
-    fatalError("UIApplicationMain", "no class is named " + std::string(delegateClassName));
-  }
-  setCurrentHost(&host);
-  // Never freed: a host may return from run() and go on, or leave by exit() from within.
-  static auto& application = *new std::shared_ptr<UIApplication>;
-  application = std::make_shared<UIApplication>(host, storyboard, make->second());
-  return host.run(*application);
 }
 
 }  // namespace leafund

@@ -49,8 +49,10 @@ class UIApplicationDelegate {
 //
 // A turn: logic runs to its end, then tables lay out, then the host shows the stack, then the skins
 // of changed views refresh; and all that again until nothing is left. What is raised meanwhile
-// waits for the next round, so no skin hears anything in the middle of logic. All on the main
-// thread.
+// waits for the next round, so no skin hears anything in the middle of logic. A layout or a skin
+// that never comes to rest is a mistake, but not one that a user should lose the window for: after
+// 100 rounds the rest waits for the next pass of the host's loop, and debug builds say so on
+// standard error. All on the main thread.
 class UIApplication : public UIResponder {
  public:
   UIApplication(Host& host, const UIStoryboard& storyboard,
@@ -63,15 +65,22 @@ class UIApplication : public UIResponder {
   // Once: makes the window, tells the delegate, and only then loads the first screen.
   void launch(const std::optional<LaunchOptions>& options = std::nullopt);
   void turn(std::function<void()> work);
+  // A turn was given up before it came to rest. A host without a loop takes that for fatal.
+  bool stalled() const { return !running_ && !settled(); }
 
   // What a user can do, each one turn. What is hidden, covered, out of sight or on its way out is
-  // not reached. A view that is gone (null) is passed over.
+  // not reached. A view that is gone (null) is passed over. Of consecutive scrolls of one table
+  // that wait only the latest counts, and of consecutive resizes; no other event passes them or is
+  // passed.
   void tap(const std::shared_ptr<UIView>& view);
   void beginEditing(const std::shared_ptr<UITextInput>& input);
   void edit(const std::shared_ptr<UITextInput>& input, std::string text);
   void endEditing(const std::shared_ptr<UITextInput>& input);
   void pressReturn(const std::shared_ptr<UITextField>& field);
-  void scroll(const std::shared_ptr<UITableView>& table, double offset);
+  // `placements` is the table's number that the user's item saw: a scroll of a place that is no
+  // more is dropped.
+  void scroll(const std::shared_ptr<UITableView>& table, double offset,
+              std::optional<unsigned> placements = std::nullopt);
   void resize(CGSize size);
   void goBack();
 
@@ -96,7 +105,14 @@ class UIApplication : public UIResponder {
   void noteEditingEnded() { firstResponder_.reset(); }
 
  private:
+  // Work that waits for its round. Of consecutive entries about the same thing the last one stays.
+  struct Waiting {
+    std::function<void()> work;
+    const void* about = nullptr;
+  };
+  void add(Waiting waiting);
   bool settled() const;
+  void run();
   void runRound();
   UIViewController* controllerOf(const UIView& view) const;
   void tapReached(const std::shared_ptr<UIView>& view);
@@ -108,7 +124,7 @@ class UIApplication : public UIResponder {
   std::shared_ptr<UINavigationController> navigation_;
   std::weak_ptr<UITextInput> firstResponder_;
   CGSize size_;
-  std::deque<std::function<void()>> pending_;
+  std::deque<Waiting> pending_;
   std::vector<std::weak_ptr<UIResponder>> needLayout_;
   std::vector<std::weak_ptr<UIResponder>> changed_;
   bool stackChanged_ = false;

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/uikit/UINavigationController.h"
+#include "tests/support/HeadlessApplication.h"
 #include "tests/support/ProbeDelegate.h"
 #include "tests/support/ProbeHost.h"
 #include "tests/support/ProbeScreen.h"
@@ -12,6 +13,20 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::SizeIs;
+
+// What debug builds say; a user's build keeps quiet.
+#ifdef NDEBUG
+constexpr const char* kComplaint = "";
+#else
+constexpr const char* kComplaint = "turn: the layout does not settle\n";
+#endif
+
+std::string complaintOf(const std::function<void()>& work) {
+  testing::internal::CaptureStderr();
+  work();
+  return testing::internal::GetCapturedStderr();
+}
 
 class LayoutProbe : public UIView {
  public:
@@ -136,18 +151,63 @@ TEST_F(UIApplicationTurnTest, AViewThatGoesBeforeItsLayoutIsPassedOver) {
   EXPECT_THAT(log, IsEmpty());
 }
 
-using UIApplicationTurnDeathTest = UIApplicationTurnTest;
-
-TEST_F(UIApplicationTurnDeathTest, ALayoutThatNeverSettlesIsFatal) {
-  view->onLayout = [this] { view->setNeedsLayout(); };
-  EXPECT_DEATH(application->turn([&] { view->setNeedsLayout(); }),
-               "Leafund stopped: turn: the layout does not settle");
+// A user keeps the window: what is left waits for the next pass of the host's loop.
+TEST_F(UIApplicationTurnTest, ALayoutThatNeverSettlesIsGivenUpAndGoesOnInTheNextPass) {
+  int layouts = 0;
+  view->onLayout = [&] {
+    ++layouts;
+    view->setNeedsLayout();
+  };
+  EXPECT_EQ(complaintOf([&] { application->turn([&] { view->setNeedsLayout(); }); }), kComplaint);
+  EXPECT_TRUE(application->stalled());
+  EXPECT_EQ(layouts, 101);  // with the round that took the work
+  ASSERT_THAT(host.steps, SizeIs(1));
+  view->onLayout = [&] { ++layouts; };
+  application->turn(host.steps[0]);
+  EXPECT_EQ(layouts, 102);
+  EXPECT_FALSE(application->stalled());
 }
 
-TEST_F(UIApplicationTurnDeathTest, ASkinThatChangesItsViewAtEveryRefreshIsFatal) {
+TEST_F(UIApplicationTurnTest, ASkinThatChangesItsViewAtEveryRefreshIsGivenUp) {
   ProbeSkin restless(view, [this] { view->setHidden(!view->hidden()); });
-  EXPECT_DEATH(application->turn([&] { view->setHidden(true); }),
+  EXPECT_EQ(complaintOf([&] { application->turn([&] { view->setHidden(true); }); }), kComplaint);
+  EXPECT_THAT(host.steps, SizeIs(1));
+}
+
+TEST_F(UIApplicationTurnTest, WorkThatRaisesWorkForEverIsGivenUp) {
+  const std::function<void()> again = [&] { application->turn(again); };
+  EXPECT_EQ(complaintOf([&] { application->turn(again); }), kComplaint);
+  EXPECT_TRUE(application->stalled());
+}
+
+TEST_F(UIApplicationTurnTest, MuchWorkThatWaitsIsNoFault) {
+  int done = 0;
+  application->turn([&] {
+    for (int i = 0; i < 1000; ++i) application->turn([&] { ++done; });
+  });
+  EXPECT_EQ(done, 1000);
+  std::function<void(int)> chain = [&](int left) {
+    if (left > 0) application->turn([&, left] { chain(left - 1); });
+  };
+  application->turn([&] { chain(1000); });
+  EXPECT_FALSE(application->stalled());
+  EXPECT_THAT(host.steps, IsEmpty());
+}
+
+using UIApplicationTurnDeathTest = UIApplicationTurnTest;
+
+// It has no loop that could go on.
+TEST_F(UIApplicationTurnDeathTest, OnAHostWithoutALoopALayoutThatNeverSettlesIsFatal) {
+  HeadlessApplication app(storyboard);
+  app.shown()->view()->addSubview(view);
+  view->onLayout = [this] { view->setNeedsLayout(); };
+  EXPECT_DEATH(app.application->turn([&] { view->setNeedsLayout(); }),
                "Leafund stopped: turn: the layout does not settle");
+  const auto drain = [&] {
+    app.host.post([&] { view->setNeedsLayout(); });
+    app.host.drainMainQueue();
+  };
+  EXPECT_DEATH(drain(), "Leafund stopped: turn: the layout does not settle");
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <iterator>
 #include <utility>
 
+#include "platform/foundation/FatalError.h"
 #include "platform/foundation/NSURLRequest.h"
 #include "platform/uikit/UIApplication.h"
 
@@ -13,6 +14,14 @@ int PromptHost::run(UIApplication& application) {
   application.launch();
   application.becomeActive();
   return 0;
+}
+
+// It has no loop that would go on after a turn that never settles.
+void PromptHost::post(std::function<void()> step) {
+  if (application_ != nullptr && application_->stalled()) {
+    fatalError("turn", "the layout does not settle");
+  }
+  steps_.push_back(std::move(step));
 }
 
 void PromptHost::transfer(const NSURLRequest& request, CompletionHandler completion) {

@@ -19,7 +19,7 @@ class PromptHost final : public Host {
 
   int run(UIApplication& application) override;
   bool onMain() const override { return true; }
-  void post(std::function<void()> step) override { steps_.push_back(std::move(step)); }
+  void post(std::function<void()> step) override;
   void transfer(const NSURLRequest& request, CompletionHandler completion) override;
   double screenScale() const override { return 2; }
   void show(const UINavigationController&) override {}
