@@ -74,7 +74,7 @@ Rectangle {
     PointHandler {
         parent: box.input
         acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
-        onActiveChanged: if (active) box.input.forceActiveFocus(Qt.MouseFocusReason)
+        onActiveChanged: if (active && !watch.pressContinues()) box.input.forceActiveFocus(Qt.MouseFocusReason)
     }
     MouseArea {
         anchors.fill: parent

@@ -30,6 +30,11 @@ void FocusWatch::setTarget(QQuickItem* target) {
   emit targetChanged();
 }
 
+bool FocusWatch::pressContinues() const {
+  const auto* window = target_ ? qobject_cast<QtWindow*>(target_->window()) : nullptr;
+  return window != nullptr && window->pressContinues();
+}
+
 bool FocusWatch::eventFilter(QObject*, QEvent* event) {
   switch (event->type()) {
     case QEvent::FocusIn:
@@ -40,7 +45,7 @@ bool FocusWatch::eventFilter(QObject*, QEvent* event) {
       break;
     case QEvent::MouseButtonPress:
     case QEvent::TouchBegin:
-      if (target_->hasActiveFocus()) enter();
+      if (target_->hasActiveFocus() && !pressContinues()) enter();
       break;
     case QEvent::KeyPress:
       if (writes(*static_cast<QKeyEvent*>(event))) enter();

@@ -25,6 +25,8 @@ class FocusWatch : public QObject {
   void setTarget(QQuickItem* target);
   bool ring() const { return ring_; }
 
+  // The pointer's press is part of an earlier one, which was meant for another screen.
+  Q_INVOKABLE bool pressContinues() const;
   // Whatever comes next is a new entering: the editing was ended while the window was put aside.
   Q_INVOKABLE void leave() { inside_ = false; }
 

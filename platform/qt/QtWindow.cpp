@@ -3,10 +3,13 @@
 #include <QGuiApplication>
 #include <QInputMethod>
 #include <QKeyEvent>
+#include <QPointingDevice>
 #include <QResizeEvent>
+#include <QStyleHints>
 #include <algorithm>
 
 #include "platform/uikit/UIApplication.h"
+#include "platform/uikit/UINavigationController.h"
 
 namespace leafund {
 
@@ -14,6 +17,39 @@ namespace {
 
 constexpr QSize kStartSize{390, 844};
 constexpr QSize kLeastSize{320, 568};
+
+// For comparison alone.
+const void* topScreen() {
+  const auto* application = UIApplication::current();
+  if (application == nullptr || application->navigation() == nullptr) return nullptr;
+  return application->navigation()->topViewController().get();
+}
+
+bool leadsBack(const QKeyEvent& key) {
+  return key.key() == Qt::Key_Escape || key.key() == Qt::Key_Back ||
+         (key.key() == Qt::Key_Left && key.modifiers() == Qt::AltModifier);
+}
+
+bool presses(const QKeyEvent& key) {
+  return leadsBack(key) || key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter ||
+         key.key() == Qt::Key_Space;
+}
+
+void goBack() {
+  if (auto* application = UIApplication::current()) application->goBack();
+}
+
+// Takes what is lifted from whatever would take it for a tap; what scrolls or drags keeps it.
+void cancelTaps(QPointerEvent& event) {
+  for (const auto& point : event.points()) {
+    const auto* holder = event.exclusiveGrabber(point);
+    const bool drags = holder != nullptr && (holder->inherits("QQuickFlickable") ||
+                                             holder->inherits("QQuickDragHandler"));
+    if (point.state() != QEventPoint::Released || drags) continue;
+    event.setExclusiveGrabber(point, nullptr);
+    event.clearPassiveGrabbers(point);
+  }
+}
 
 }  // namespace
 
@@ -41,11 +77,55 @@ void QtWindow::fit() {
 }
 
 bool QtWindow::event(QEvent* event) {
-  if (event->type() == QEvent::KeyPress) usedByKeys_ = true;
-  if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::TouchBegin) {
-    usedByKeys_ = false;
+  if (!event->isInputEvent()) return QQuickWindow::event(event);
+  const auto* before = topScreen();
+  const bool taken = takePress(*event) || QQuickWindow::event(event);
+  if (topScreen() != before) (usedByKeys_ ? keys_ : pointer_).changedTop();
+  return taken;
+}
+
+// Answers whether the event has come to its end here.
+bool QtWindow::takePress(QEvent& event) {
+  switch (event.type()) {
+    case QEvent::KeyPress:
+      return takeKey(static_cast<QKeyEvent&>(event));
+    case QEvent::KeyRelease:
+      keys_.released(static_cast<QKeyEvent&>(event).timestamp());
+      return false;
+    case QEvent::MouseButtonPress:
+      notePointer(static_cast<QPointerEvent&>(event), static_cast<QMouseEvent&>(event).button());
+      if (static_cast<QMouseEvent&>(event).button() != Qt::BackButton) return false;
+      if (!pressContinues_) goBack();
+      return true;
+    case QEvent::TouchBegin:
+      notePointer(static_cast<QPointerEvent&>(event), 0);
+      return false;
+    case QEvent::MouseButtonRelease:
+    case QEvent::TouchUpdate:
+    case QEvent::TouchEnd:
+      if (pressContinues_) cancelTaps(static_cast<QPointerEvent&>(event));
+      return false;
+    default:
+      return false;
   }
-  return QQuickWindow::event(event);
+}
+
+bool QtWindow::takeKey(QKeyEvent& key) {
+  usedByKeys_ = true;
+  const Press press{nullptr, key.key(), key.timestamp(), {}, 0, key.isAutoRepeat()};
+  const int interval = QGuiApplication::styleHints()->mouseDoubleClickInterval();
+  return keys_.continues(press, interval) && presses(key);
+}
+
+void QtWindow::notePointer(const QPointerEvent& event, int button) {
+  usedByKeys_ = false;
+  const auto* hints = QGuiApplication::styleHints();
+  const int reach = event.type() == QEvent::TouchBegin ? hints->touchDoubleTapDistance()
+                                                       : hints->mouseDoubleClickDistance();
+  const Press press{event.pointingDevice(),     button,
+                    event.timestamp(),          event.points().first().position(),
+                    static_cast<double>(reach), false};
+  pressContinues_ = pointer_.continues(press, hints->mouseDoubleClickInterval());
 }
 
 void QtWindow::resizeEvent(QResizeEvent* event) {
@@ -56,11 +136,14 @@ void QtWindow::resizeEvent(QResizeEvent* event) {
 void QtWindow::keyPressEvent(QKeyEvent* event) {
   QQuickWindow::keyPressEvent(event);
   // Without an item in focus nobody has refused the event.
-  const bool taken = activeFocusItem() != nullptr && event->isAccepted();
-  if (taken || (event->key() != Qt::Key_Escape && event->key() != Qt::Key_Back)) return;
-  event->accept();
-  if (event->isAutoRepeat()) return;  // a key that is held down leaves one screen
-  if (auto* application = UIApplication::current()) application->goBack();
+  if (activeFocusItem() != nullptr && event->isAccepted()) return;
+  const bool quits = event->key() == Qt::Key_Q && event->modifiers() == Qt::ControlModifier;
+  event->setAccepted(quits || leadsBack(*event));
+  if (quits) {
+    close();
+  } else if (leadsBack(*event) && !event->isAutoRepeat()) {  // a held key leaves one screen
+    goBack();
+  }
 }
 
 }  // namespace leafund

@@ -2,9 +2,15 @@
 
 #include <QQuickWindow>
 
+#include "platform/qt/PressSeries.h"
+
 namespace leafund {
 
-// The application's window. Its content size and the keys that lead back go to the toolkit.
+// The application's window. Its content size and whatever leads back go to the toolkit: Escape, the
+// back keys, Alt with Left, and a pointer's back button. Ctrl+Q closes it.
+//
+// Presses that are part of one which changed the top screen come to nothing (PressSeries): a key is
+// dropped; a pointer may still scroll or drag, but taps nothing.
 // A keyboard on the glass that covers the window's lower end makes the content shorter.
 class QtWindow : public QQuickWindow {
   Q_OBJECT
@@ -14,6 +20,8 @@ class QtWindow : public QQuickWindow {
 
   // Whether the user's last touch of the window was a key.
   bool usedByKeys() const { return usedByKeys_; }
+  // The pointer's present press is part of an earlier one, and taps nothing.
+  bool pressContinues() const { return pressContinues_; }
   // Where the keyboard on the glass lies, in points of the window; empty where there is none.
   void setKeyboardArea(const QRectF& area);
 
@@ -24,9 +32,15 @@ class QtWindow : public QQuickWindow {
 
  private:
   void fit();
+  bool takePress(QEvent& event);
+  bool takeKey(QKeyEvent& key);
+  void notePointer(const QPointerEvent& event, int button);
 
   QRectF keyboardArea_;
   bool usedByKeys_ = false;
+  PressSeries keys_;
+  PressSeries pointer_;
+  bool pressContinues_ = false;
 };
 
 }  // namespace leafund

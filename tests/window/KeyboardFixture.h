@@ -15,7 +15,7 @@ class KeyboardTest : public GlassTest {
   std::string focusedName() { return focused() ? focused()->objectName().toStdString() : ""; }
 
   void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
-    QTest::keyClick(&app.window(), key, modifiers);
+    app.press(key, modifiers);
     app.settle();
     expectFocusSeen();
   }

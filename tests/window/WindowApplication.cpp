@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QStyleHints>
 #include <QTest>
 #include <filesystem>
 #include <fstream>
@@ -140,8 +141,13 @@ void WindowApplication::typeKeys(const std::string& text) {
   for (const char letter : text) QTest::keyClick(&window(), letter);
 }
 
-void WindowApplication::press(Qt::Key key) {
-  QTest::keyClick(&window(), key);
+void WindowApplication::press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+  pressedAt_ += 2 * static_cast<quint64>(QGuiApplication::styleHints()->mouseDoubleClickInterval());
+  for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+    QKeyEvent event(type, key, modifiers);
+    event.setTimestamp(pressedAt_);
+    QCoreApplication::sendEvent(&window(), &event);
+  }
   QCoreApplication::processEvents();
 }
 

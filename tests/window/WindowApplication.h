@@ -49,12 +49,14 @@ class WindowApplication {
   // With the pointer, in the item's middle, which is first scrolled into sight.
   void click(QQuickItem& item);
   void typeKeys(const std::string& text);
-  void press(Qt::Key key);
+  // A press of its own, however fast the test goes.
+  void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {});
 
  private:
   void servePictures();
 
   std::unique_ptr<PictureServer> server_;
+  quint64 pressedAt_ = 0;  // milliseconds, by the events
 };
 
 }  // namespace leafund
