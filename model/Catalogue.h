@@ -25,6 +25,7 @@ std::string& currentUserName();
 CampaignList* campaignListNamed(std::string_view listName);
 
 // Writes the demonstration updates into the campaigns at positions 0 and 1 of `campaignsIFunded`.
+// Fatal at the first position that the list does not have.
 void writeSeedUpdates();
 
 }  // namespace leafund

@@ -1,6 +1,8 @@
 // Every test counts on a fresh process: the catalogue is created once and never reset.
 #include <gtest/gtest.h>
 
+#include <csignal>
+#include <cstdio>
 #include <string>
 #include <tuple>
 #include <vector>
@@ -94,10 +96,25 @@ TEST(SeedUpdatesTest, AfterAPledgeTheyLandOnWhicheverCampaignsStandInFront) {
   EXPECT_EQ(updateOf(*campaignsIFunded()[2]), noUpdate);
 }
 
-TEST(SeedUpdatesDeathTest, APositionTheListDoesNotHaveStopsTheProcess) {
+TEST(SeedUpdatesDeathTest, APositionTheListDoesNotHaveStopsTheProcessWithTheLineOfEveryFatalError) {
   campaignsIFunded().resize(1);
+  EXPECT_EXIT(writeSeedUpdates(), testing::KilledBySignal(SIGABRT),
+              "^Leafund stopped: writeSeedUpdates: position 1 is outside a list of 1\n$");
+  campaignsIFunded().clear();
+  EXPECT_DEATH(writeSeedUpdates(), "writeSeedUpdates: position 0 is outside a list of 0");
+}
 
-  EXPECT_DEATH(writeSeedUpdates(), "out_of_range");
+// Told by the dying process.
+void tellFirstDate(int) { std::fputs(campaignsIFunded()[0]->updateOneDate().c_str(), stderr); }
+
+TEST(SeedUpdatesDeathTest, TheFirstUpdateIsWrittenBeforeTheSecondStops) {
+  campaignsIFunded().resize(1);
+  EXPECT_DEATH(
+      {
+        std::signal(SIGABRT, tellFirstDate);
+        writeSeedUpdates();
+      },
+      "is outside a list of 1\nDecember 1");
 }
 
 }  // namespace
