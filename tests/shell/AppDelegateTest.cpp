@@ -3,6 +3,7 @@
 #include "model/Catalogue.h"
 #include "platform/uikit/UITabContainer.h"
 #include "shell/AppDelegate.h"
+#include "tests/support/CatalogueRecords.h"
 #include "tests/support/HeadlessApplication.h"
 
 namespace leafund {
@@ -64,8 +65,7 @@ TEST(AppDelegateTest, GoingToTheBackgroundAndBackChangesNothing) {
   HeadlessApplication app;
   app.signIn();
   const auto titles = app.rowTitles();
-  const auto others = otherCampaigns();
-  const auto funded = campaignsIFunded();
+  const auto records = catalogueRecords();
   const auto showings = app.host.showings();
   testing::internal::CaptureStdout();
   app.application->resignActive();
@@ -74,18 +74,17 @@ TEST(AppDelegateTest, GoingToTheBackgroundAndBackChangesNothing) {
   app.application->becomeActive();
   EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
   EXPECT_EQ(app.rowTitles(), titles);
-  EXPECT_EQ(otherCampaigns(), others);
-  EXPECT_EQ(campaignsIFunded(), funded);
-  EXPECT_EQ(currentUserName(), "Quillon");
+  EXPECT_EQ(catalogueRecords(), records);
   EXPECT_EQ(app.host.showings(), showings);
 }
 
-TEST(AppDelegateTest, TerminatingPrintsNothingAndChangesNoList) {
+TEST(AppDelegateTest, TerminatingPrintsNothingAndChangesNoRecord) {
   HeadlessApplication app;
+  const auto records = catalogueRecords();
   testing::internal::CaptureStdout();
   app.application->terminate();
   EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
-  EXPECT_EQ(otherCampaigns().size(), 7U);
+  EXPECT_EQ(catalogueRecords(), records);
 }
 
 TEST(AppDelegateTest, AWholePledgeRoadTouchesNoCampaignOfTheUser) {

@@ -1,10 +1,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "model/Catalogue.h"
 #include "platform/uikit/UITabContainer.h"
 #include "shell/NewsFeedVC.h"
 #include "shell/TabBarVC.h"
+#include "tests/support/CatalogueRecords.h"
 #include "tests/support/HeadlessApplication.h"
 
 namespace leafund {
@@ -99,8 +99,7 @@ TEST(TabBarTest, LoadingAgainRepeatsTheSameAndChangesNoData) {
   app.tap("newsTab");
   const auto home = app.navigation().topViewController();
   const auto news = app.shown();
-  const auto others = otherCampaigns();
-  const auto funded = campaignsIFunded();
+  const auto records = catalogueRecords();
   home->navigationItem().setHidesBackButton(false);
   home->releaseView();
   news->releaseView();
@@ -108,9 +107,7 @@ TEST(TabBarTest, LoadingAgainRepeatsTheSameAndChangesNoData) {
   news->view();
   EXPECT_TRUE(home->navigationItem().hidesBackButton());
   EXPECT_THAT(tabTitles(app), ElementsAre("Browse", "Funded", "Mine", "News"));
-  EXPECT_EQ(otherCampaigns(), others);
-  EXPECT_EQ(campaignsIFunded(), funded);
-  EXPECT_EQ(currentUserName(), "Quillon");
+  EXPECT_EQ(catalogueRecords(), records);
 }
 
 TEST(TabBarTest, AMemoryWarningChangesNothing) {
