@@ -2,13 +2,13 @@
 #include <gtest/gtest.h>
 
 #include <csignal>
-#include <cstdio>
 #include <string>
 #include <tuple>
 #include <vector>
 
 #include "model/Catalogue.h"
 #include "model/PictureHost.h"
+#include "tests/support/LastWords.h"
 
 namespace leafund {
 namespace {
@@ -104,17 +104,13 @@ TEST(SeedUpdatesDeathTest, APositionTheListDoesNotHaveStopsTheProcessWithTheLine
   EXPECT_DEATH(writeSeedUpdates(), "writeSeedUpdates: position 0 is outside a list of 0");
 }
 
-// Told by the dying process.
-void tellFirstDate(int) { std::fputs(campaignsIFunded()[0]->updateOneDate().c_str(), stderr); }
-
 TEST(SeedUpdatesDeathTest, TheFirstUpdateIsWrittenBeforeTheSecondStops) {
   campaignsIFunded().resize(1);
-  EXPECT_DEATH(
-      {
-        std::signal(SIGABRT, tellFirstDate);
-        writeSeedUpdates();
-      },
-      "is outside a list of 1\nDecember 1");
+  const auto write = [] {
+    sayWhenStopped([] { return campaignsIFunded()[0]->updateOneDate(); });
+    writeSeedUpdates();
+  };
+  EXPECT_DEATH(write(), "is outside a list of 1\nDecember 1");
 }
 
 }  // namespace

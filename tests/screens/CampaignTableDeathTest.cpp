@@ -11,6 +11,12 @@ TEST_F(CampaignTableDeathTest, ARowPastTheEndIsFatal) {
                "OtherCampaignsTableViewController: position 7 is outside a list of 7");
 }
 
+TEST_F(CampaignTableDeathTest, ARowBeforeTheFirstIsFatal) {
+  open("browseTab");
+  EXPECT_DEATH(screen->tableViewCellForRowAtIndexPath(*table, {-1, 0}),
+               "OtherCampaignsTableViewController: position -1 is outside a list of 7");
+}
+
 TEST_F(CampaignTableDeathTest, ACellWithoutLabelsIsFatal) {
   open("browseTab");
   table->registerPrototype(

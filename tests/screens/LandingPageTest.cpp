@@ -99,6 +99,15 @@ TEST_F(LandingPageTest, SignUpPerformsItsSegueWhateverTheInputsHold) {
   EXPECT_EQ(landing->userEmail->textColor(), UIColor::blackColor());
 }
 
+TEST_F(LandingPageTest, SignUpNamesTheScreenAsSenderAndPrintsNothing) {
+  landing->userEmail->setText("wren@example.org");
+  testing::internal::CaptureStdout();
+  landing->signUpButton->sendActionsForControlEvents(UIControlEvent::TouchUpInside);
+  EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
+  EXPECT_EQ(landing->segues, Segues{"signUpSegue"});
+  EXPECT_EQ(landing->lastSender, landing.screen);
+}
+
 TEST_F(LandingPageTest, SigningInStoresNoUserName) {
   signIn("wren@example.org", "x");
   EXPECT_EQ(currentUserName(), "Quillon");

@@ -1,8 +1,3 @@
-#include <gtest/gtest.h>
-
-#include <csignal>
-#include <cstdio>
-
 #include "tests/screens/OneCampaignFixture.h"
 
 namespace leafund {
@@ -24,25 +19,6 @@ TEST_F(OneCampaignDeathTest, ANegativePositionIsFatal) {
 TEST_F(OneCampaignDeathTest, AListNameWithoutAPositionIsFatal) {
   detail->campaignSendingYou = "otherCampaigns";
   EXPECT_DEATH(detail->view(), "OneCampaignViewController: no campaign position was given");
-}
-
-// Told by the dying process: how far the screen had come.
-OneCampaignViewController* dying = nullptr;
-void tellLastWords(int) {
-  const auto words = dying->labelAboveSlider->text() + " " +
-                     std::to_string(dying->slider->animatedFrom()) + " " +
-                     (dying->campaignUpdates->hidden() ? "hidden" : "shown") + "\n";
-  std::fputs(words.c_str(), stderr);
-}
-
-TEST_F(OneCampaignDeathTest, WithoutACampaignTheFundedTestPassesAndOnlyTheSecondProgressIsFatal) {
-  EXPECT_DEATH(
-      {
-        dying = detail.screen.get();
-        std::signal(SIGABRT, tellLastWords);
-        detail->view();
-      },
-      "OneCampaignViewController: there is no campaign to show\nFunded! 0.000000 shown");
 }
 
 TEST_F(OneCampaignDeathTest, AnAddressThatIsNoUrlIsFatal) {

@@ -120,6 +120,18 @@ TEST_F(OneCampaignTest, WithoutAListNameThePresentersCampaignIsShownAndCannotBeF
   EXPECT_TRUE(detail->FundButton->hidden());
 }
 
+TEST_F(OneCampaignTest, AListNameReplacesThePresentersCampaign) {
+  for (const auto* list : {"otherCampaigns", "campaignsIFunded", "myUnfundedCampaigns"}) {
+    RecordedScreen<OneCampaignViewController> screen("OneCampaignViewController");
+    screen->campaign = otherCampaigns()[3];
+    screen->campaignSendingYou = list;
+    screen->campaignNum = 1;
+    screen->view();
+    EXPECT_EQ(screen->campaign, (*campaignListNamed(list))[1]);
+    EXPECT_EQ(screen->campaignTitle->text(), (*campaignListNamed(list))[1]->title());
+  }
+}
+
 TEST_F(OneCampaignTest, AReuseIdentifierNamesNoListAndKeepsThePresentersCampaign) {
   detail->campaign = campaignsIFunded()[2];
   detail->campaignSendingYou = "MyCampaigns";

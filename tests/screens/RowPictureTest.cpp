@@ -163,6 +163,40 @@ TEST_F(RowPictureDeathTest, AnErrorPageInARowIsFatal) {
                "FundCampaignVC: the downloaded body is not a picture");
 }
 
+TEST_F(RowPictureDeathTest, GarbageIsFatalToARowThatShowsAnOlderPicture) {
+  app.host.answer(0, pictureBody(640, 480));
+  app.tap("newsTab");
+  app.tap("fundedTab");
+  while (app.host.fetches().front() != campaignsIFunded()[0]->photo()) app.host.fail(0);
+  ASSERT_NE(picture(0), nullptr);
+  EXPECT_DEATH(app.host.answer(0, "<html>"), "the downloaded body is not a picture");
+}
+
+TEST_F(RowPictureDeathTest, GarbageIsFatalToARowOnATabThatWasLeftAndOnACoveredScreen) {
+  app.tap("newsTab");
+  EXPECT_DEATH(app.host.answer(0, "<html>"), "the downloaded body is not a picture");
+  app.tap("fundedTab");
+  app.tapRow(1);
+  EXPECT_DEATH(app.host.answer(0, "<html>"), "the downloaded body is not a picture");
+}
+
+TEST_F(RowPictureDeathTest, GarbageIsFatalToACellInThePool) {
+  const auto pooled = cell(2);
+  app.application->resize({390, 200});
+  ASSERT_TRUE(pooled->hidden());
+  ASSERT_EQ(app.host.fetches()[2], campaignsIFunded()[2]->photo());
+  EXPECT_DEATH(app.host.answer(2, "<html>"), "the downloaded body is not a picture");
+}
+
+TEST(RowPictureOwnerDeathTest, GarbageIsFatalToACellThatNoTableShows) {
+  HeadlessHost host;
+  auto screen = makeScreen<CampaignTableViewController>("OtherCampaignsTableViewController");
+  screen->view();
+  screen->tableViewCellForRowAtIndexPath(*screen->tableView(), {0, 0});
+  screen.reset();
+  EXPECT_DEATH(host.answer(0, "<html>"), "the downloaded body is not a picture");
+}
+
 TEST_F(RowPictureDeathTest, AResizeWhoseContextHoldsNoImageIsFatal) {
   const auto image = UIImage::initWithData(std::make_shared<std::string>(pictureBody(8, 8)));
   EXPECT_DEATH(screen->imageResizeWithImageSizeChange(image, {0, 128}),

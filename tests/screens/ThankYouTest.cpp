@@ -26,6 +26,16 @@ TEST(ThankYouTest, WithoutASendingScreenTheLabelKeepsItsText) {
   EXPECT_EQ(thanksFrom(std::nullopt)->thankYouLabel->text(), "Thank you for your pledge!");
 }
 
+TEST(ThankYouTest, AnyOtherSendingScreenLeavesWhateverTheLabelSays) {
+  const auto thanks = thanksFrom(std::nullopt);
+  for (const auto& page : {std::optional<std::string>("ConfirmPageVC"), {"SignUpVC"}, {""}, {}}) {
+    thanks->thankYouLabel->setText("Thanks!");
+    thanks->pageFrom = page;
+    thanks->viewDidLoad();
+    EXPECT_EQ(thanks->thankYouLabel->text(), "Thanks!");
+  }
+}
+
 TEST(ThankYouTest, ANameThatDiffersInLetterCaseDoesNotMatch) {
   EXPECT_EQ(thanksFrom("newcampaignvc")->thankYouLabel->text(), "Thank you for your pledge!");
   EXPECT_EQ(thanksFrom("NewCampaignVc")->thankYouLabel->text(), "Thank you for your pledge!");
