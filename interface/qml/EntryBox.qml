@@ -9,8 +9,10 @@ Rectangle {
     required property ViewObject view
     required property Item input
     default property alias content: place.data
-    // Whether what it holds was refused, where the reason is told elsewhere.
-    property bool wrong: view.coloured
+    // The label that says why what it holds was refused; null where the input itself says so.
+    property ViewObject reason: null
+    readonly property bool wrong: reason ? reason.visible : view.coloured
+    readonly property string accessibleReason: reason && reason.visible ? reason.text : ""
     readonly property bool userIsIn: input.activeFocus
     // Nothing in it and nobody: the caption stands where the text will.
     readonly property bool resting: !userIsIn && !input.text && !input.preeditText

@@ -27,7 +27,7 @@ Page {
             spacing: Theme.unit
             TextEntry {
                 view: page.views.desiredFunding
-                wrong: page.views.moneyErrorField.visible
+                reason: page.views.moneyErrorField
                 width: parent.width
             }
             ErrorWords {

@@ -19,7 +19,7 @@ Page {
             visible: page.views.dollarAmountField.visible || page.views.errorLabel.visible
             TextEntry {
                 view: page.views.dollarAmountField
-                wrong: page.views.errorLabel.visible
+                reason: page.views.errorLabel
                 width: parent.width
             }
             ErrorWords {

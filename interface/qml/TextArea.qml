@@ -45,6 +45,7 @@ EntryBox {
 
         Accessible.role: Accessible.EditableText
         Accessible.name: area.view.accessibleName
+        Accessible.description: area.accessibleReason
         Accessible.multiLine: true
     }
 }

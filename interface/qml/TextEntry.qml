@@ -66,6 +66,7 @@ EntryBox {
 
         Accessible.role: Accessible.EditableText
         Accessible.name: entry.view.accessibleName
+        Accessible.description: entry.accessibleReason
         // Not Accessible.passwordEdit: it takes the name away, and the role follows the echo mode.
     }
 }

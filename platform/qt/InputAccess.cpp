@@ -15,6 +15,14 @@ constexpr QChar kDot(0x2022);
 // An item without an echo mode hides nothing.
 bool InputAccess::secret() const { return number("echoMode") != 0; }
 
+QRectF InputAccess::area() const {
+  for (auto* each = item()->parentItem(); each != nullptr; each = each->parentItem()) {
+    if (each->property("input").value<QQuickItem*>() != item()) continue;
+    return item()->mapRectFromItem(each, each->boundingRect());
+  }
+  return ItemAccess::area();
+}
+
 QString InputAccess::shownText() const {
   const QString typed = item()->property("text").toString();
   return secret() ? QString(typed.size(), kDot) : typed;

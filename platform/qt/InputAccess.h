@@ -39,6 +39,10 @@ class InputAccess final : public ItemAccess,
   void deleteText(int start, int end) override { replaceText(start, end, {}); }
   void replaceText(int start, int end, const QString& text) override;
 
+ protected:
+  // The box that the input stands in, all of which takes a tap for it.
+  QRectF area() const override;
+
  private:
   int number(const char* property) const { return item()->property(property).toInt(); }
   bool secret() const;

@@ -52,7 +52,17 @@ QRect ItemAccess::onScreen(const QRectF& area) const {
 
 // What is hidden has no place.
 QRect ItemAccess::rect() const {
-  return item()->isVisible() ? onScreen({0, 0, item()->width(), item()->height()}) : QRect();
+  return item()->isVisible() ? onScreen(area()) : QRect();
+}
+
+// Whether neither the window nor a scrolled pane cuts off all of it.
+bool ItemAccess::inSight() const {
+  QRectF seen = area();
+  for (const auto* each = item(); each->parentItem() != nullptr; each = each->parentItem()) {
+    if (each->clip() && each != item()) seen &= each->boundingRect();
+    seen = each->mapRectToItem(each->parentItem(), seen);
+  }
+  return item()->window() != nullptr && seen.intersects(QRectF({0, 0}, item()->window()->size()));
 }
 
 QString ItemAccess::text(QAccessible::Text kind) const {
@@ -68,6 +78,7 @@ QAccessible::State ItemAccess::state() const {
   QAccessible::State state;
   const auto* window = item()->window();
   state.invisible = window == nullptr || !window->isVisible() || !item()->isVisible();
+  state.offscreen = !inSight();
   state.disabled = !item()->isEnabled();
   state.focusable = item()->activeFocusOnTab();
   state.focused = item()->hasActiveFocus();

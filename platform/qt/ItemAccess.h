@@ -30,7 +30,12 @@ class ItemAccess : public QAccessibleObject, public QAccessibleActionInterface {
 
  protected:
   QQuickItem* item() const { return static_cast<QQuickItem*>(object()); }
+  // What the user takes for the item, in its own coordinates.
+  virtual QRectF area() const { return item()->boundingRect(); }
   QRect onScreen(const QRectF& area) const;
+
+ private:
+  bool inSight() const;
 };
 
 // From here on, inputs and progress bars are described by the classes of this folder. Doing it

@@ -1,73 +1,8 @@
-#include <gtest/gtest.h>
-
-#include <QAccessible>
-
 #include "model/Catalogue.h"
-#include "tests/window/WindowApplication.h"
+#include "tests/window/AccessibilityFixture.h"
 
 namespace leafund {
 namespace {
-
-// What assistive technology meets: the tree of what is shown.
-class AccessibilityTest : public testing::Test {
- protected:
-  static void SetUpTestSuite() { QAccessible::setActive(true); }
-
-  static void collect(QAccessibleInterface* root, std::vector<QAccessibleInterface*>& all) {
-    for (int i = 0; i < root->childCount(); ++i) {
-      auto* child = root->child(i);
-      if (child == nullptr) continue;
-      all.push_back(child);
-      collect(child, all);
-    }
-  }
-  // Also what is hidden, which a curious program can see.
-  std::vector<QAccessibleInterface*> everything() {
-    app.settle();
-    std::vector<QAccessibleInterface*> all;
-    collect(QAccessible::queryAccessibleInterface(&app.window()), all);
-    return all;
-  }
-  std::vector<QAccessibleInterface*> shown() {
-    auto all = everything();
-    std::erase_if(all, [](auto* each) { return each->state().invisible; });
-    return all;
-  }
-  QStringList notifications() {
-    QStringList messages;
-    for (auto* each : shown()) {
-      if (each->role() == QAccessible::Notification) messages << each->text(QAccessible::Name);
-    }
-    return messages;
-  }
-  QAccessibleInterface* named(const QString& name, QAccessible::Role role) {
-    for (auto* each : shown()) {
-      if (each->role() == role && each->text(QAccessible::Name).startsWith(name)) return each;
-    }
-    ADD_FAILURE() << "nothing is called " << name.toStdString();
-    return nullptr;
-  }
-  void press(const QString& name, QAccessible::Role role = QAccessible::Button) {
-    auto* control = named(name, role);
-    ASSERT_NE(control, nullptr);
-    ASSERT_NE(control->actionInterface(), nullptr) << name.toStdString();
-    control->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-  }
-  std::string focusedName() {
-    app.settle();
-    auto* focus = QAccessible::queryAccessibleInterface(app.window().activeFocusItem());
-    return focus ? focus->text(QAccessible::Name).toStdString() : "";
-  }
-  // Focus over the bus, text by keys: that is how it goes in.
-  void enter(const QString& name, const std::string& text) {
-    auto* input = named(name, QAccessible::EditableText);
-    ASSERT_NE(input, nullptr);
-    input->actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
-    app.typeKeys(text);
-  }
-
-  WindowApplication app;
-};
 
 TEST_F(AccessibilityTest, ThePledgeRoadCanBeGoneByRolesNamesAndPressesAlone) {
   enter("E-mail", "wren@example.org");

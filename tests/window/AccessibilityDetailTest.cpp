@@ -1,0 +1,78 @@
+#include "model/Catalogue.h"
+#include "tests/window/AccessibilityFixture.h"
+
+namespace leafund {
+namespace {
+
+// What a screen reader is told of single items: words, actions, extents and descriptions.
+class AccessibilityDetailTest : public AccessibilityTest {
+ protected:
+  void signIn() {
+    enter("E-mail", "wren");
+    enter("Password", "secret");
+    press("Sign in");
+  }
+  void openForm() {
+    signIn();
+    press("Mine", QAccessible::PageTab);
+    press("New");
+  }
+  void openUpdateOfFirstFunded() {
+    signIn();
+    press("Funded", QAccessible::PageTab);
+    press(QString::fromStdString(campaignsIFunded()[0]->title()), QAccessible::ListItem);
+    press("Read the update");
+  }
+  std::string description(const QString& field) {
+    return named(field, QAccessible::EditableText)->text(QAccessible::Description).toStdString();
+  }
+  // Both in pixels of the screen.
+  static void expectSameArea(const QRect& told, const QQuickItem& item) {
+    const QRectF seen = item.mapRectToScene(item.boundingRect());
+    const QPoint corner = item.window()->mapToGlobal(seen.topLeft().toPoint());
+    EXPECT_EQ(told, QRect(corner, seen.size().toSize()));
+  }
+};
+
+TEST_F(AccessibilityDetailTest, AnInputIsAsLargeAsTheBoxThatTheUserSees) {
+  const auto* box = app.require("userEmail").parentItem()->parentItem();
+  ASSERT_GE(box->height(), 52);
+  expectSameArea(named("E-mail", QAccessible::EditableText)->rect(), *box);
+}
+
+TEST_F(AccessibilityDetailTest, AnInputThatIsScrolledAwayIsReportedOutOfSight) {
+  openForm();
+  app.window().resize(390, 568);
+  ASSERT_TRUE(app.waitUntil([&] { return app.page()->height() == 568; }));
+  auto* first = named("Your name", QAccessible::EditableText);
+  auto* last = named("E-mail addresses of friends", QAccessible::EditableText);
+  EXPECT_FALSE(first->state().offscreen);
+  EXPECT_TRUE(last->state().offscreen);
+  EXPECT_FALSE(last->state().invisible) << "it can be scrolled to";
+  last->actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
+  app.settle();
+  EXPECT_FALSE(last->state().offscreen);
+  EXPECT_TRUE(first->state().offscreen) << "it lies behind the navigation bar";
+}
+
+TEST_F(AccessibilityDetailTest, ARefusedAmountIsDescribedByTheReason) {
+  signIn();
+  press("Vegetarian for PETA", QAccessible::ListItem);
+  EXPECT_EQ(description("Amount in dollars"), "");
+  enter("Amount in dollars", "81");
+  press("Fund this campaign");
+  app.settle();
+  EXPECT_EQ(description("Amount in dollars"), "Error: Donation Exceeds Maximum");
+}
+
+TEST_F(AccessibilityDetailTest, AMissingGoalIsDescribedByTheReason) {
+  openForm();
+  EXPECT_EQ(description("Goal in dollars"), "");
+  press("Create campaign");
+  app.settle();
+  EXPECT_EQ(description("Goal in dollars"), "Error: Please Enter an Amount, for Example 250");
+  EXPECT_EQ(description("Campaign name"), "") << "its message is what it holds";
+}
+
+}  // namespace
+}  // namespace leafund
