@@ -20,6 +20,7 @@ Pressable {
     onPressed: view.tap()
 
     Accessible.role: Accessible.ListItem
+    Accessible.onPressAction: accessiblePressAction()
     Accessible.name: title.text
     Accessible.description: pitch.text
 

@@ -20,6 +20,7 @@ Pressable {
     onPressed: view.tap()
 
     Accessible.role: Accessible.PageTab
+    Accessible.onPressAction: accessiblePressAction()
     Accessible.name: view.text
     Accessible.selectable: true
     Accessible.selected: view.selected

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <utility>
+
 #include "platform/qt/ItemAccess.h"
 
 namespace leafund {
@@ -12,8 +14,13 @@ class ProgressAccess final : public ItemAccess, public QAccessibleValueInterface
 
   QAccessible::Role role() const override { return QAccessible::ProgressBar; }
   void setText(QAccessible::Text, const QString&) override {}
+  // Of whatever has a value the platform's bridge takes for granted that a user can move it, and
+  // offers to increase and decrease it. It asks for the actions first and for the value right after
+  // them, and is then told of none.
   void* interface_cast(QAccessible::InterfaceType type) override {
+    const auto before = std::exchange(lastAskedFor_, type);
     if (type != QAccessible::ValueInterface) return ItemAccess::interface_cast(type);
+    if (before == QAccessible::ActionInterface) return nullptr;
     return static_cast<QAccessibleValueInterface*>(this);
   }
 
@@ -22,6 +29,9 @@ class ProgressAccess final : public ItemAccess, public QAccessibleValueInterface
   QVariant maximumValue() const override { return item()->property("maximumValue"); }
   QVariant minimumStepSize() const override { return 0; }
   void setCurrentValue(const QVariant&) override {}  // it shows, and is not to be moved
+
+ private:
+  QAccessible::InterfaceType lastAskedFor_ = QAccessible::ValueInterface;
 };
 
 }  // namespace leafund

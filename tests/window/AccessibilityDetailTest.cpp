@@ -34,6 +34,21 @@ class AccessibilityDetailTest : public AccessibilityTest {
   }
 };
 
+TEST_F(AccessibilityDetailTest, EveryActionIsOfferedOnce) {
+  const auto check = [&] {
+    for (auto* each : shown()) {
+      if (each->actionInterface() == nullptr) continue;
+      auto names = each->actionInterface()->actionNames();
+      EXPECT_EQ(names.removeDuplicates(), 0) << each->text(QAccessible::Name).toStdString();
+    }
+  };
+  check();
+  signIn();
+  check();
+  press("Vegetarian for PETA", QAccessible::ListItem);
+  check();
+}
+
 TEST_F(AccessibilityDetailTest, AnInputIsAsLargeAsTheBoxThatTheUserSees) {
   const auto* box = app.require("userEmail").parentItem()->parentItem();
   ASSERT_GE(box->height(), 52);
