@@ -28,7 +28,6 @@ Item {
 
         Picture {
             view: head.views.campaignImage
-            description: head.views.campaignTitle.text
             anchors.horizontalCenter: parent.horizontalCenter
             width: Theme.portrait
             height: Theme.portrait

@@ -89,7 +89,7 @@ FocusScope {
         onCoveredChanged: if (covered) cancelFlick()
 
         Accessible.role: Accessible.List
-        Accessible.name: list.scene.title
+        Accessible.name: list.table.accessibleName
         Accessible.onNextPageAction: list.turnPage(1)
         Accessible.onPreviousPageAction: list.turnPage(-1)
 

@@ -56,7 +56,6 @@ Pressable {
     Picture {
         id: picture
         view: row.view.parts.picture
-        description: title.text
         x: row.inset
         anchors { verticalCenter: parent.verticalCenter; verticalCenterOffset: Theme.cardOffset }
         width: view.width

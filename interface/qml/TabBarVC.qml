@@ -32,6 +32,7 @@ Page {
         color: Theme.card
 
         Accessible.role: Accessible.PageTabList
+        Accessible.name: view.accessibleName
 
         Rectangle {
             width: parent.width

@@ -32,7 +32,6 @@ Page {
             }
             Picture {
                 view: page.views.updateOneImage
-                description: page.views.test.text
                 width: parent.width
                 height: width * Theme.pictureShape
             }

@@ -18,5 +18,6 @@ Text {
     lineHeight: Theme.lines
 
     Accessible.role: heading ? Accessible.Heading : Accessible.StaticText
-    Accessible.name: text
+    Accessible.name: view.accessibleName || text
+    Accessible.ignored: text === ""
 }

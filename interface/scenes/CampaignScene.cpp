@@ -5,15 +5,17 @@ namespace leafund {
 
 void campaignScene(Scene<OneCampaignViewController>& scene, OneCampaignViewController& screen) {
   scene.title("Campaign");
-  scene.picture(screen.campaignImage, UIViewContentMode::ScaleAspectFill);
+  scene.picture(screen.campaignImage, UIViewContentMode::ScaleAspectFill)
+      .setAccessibilityLabel("Picture of the campaign");
   scene.label(screen.campaignTitle);
   scene.words("byCreator", "by");
   scene.label(screen.campaignCreator);
 
   scene.label(screen.labelAboveSlider, "Raised so far");
   scene.progress(screen.slider, "Share of the goal raised");
-  scene.label(screen.currentFund);
-  scene.label(screen.desiredFund);
+  // Who sees them takes what they are from where they stand.
+  scene.label(screen.currentFund).setAccessibilityLabel("Raised");
+  scene.label(screen.desiredFund).setAccessibilityLabel("Goal");
 
   scene.field(screen.dollarAmountField,
               {.placeholder = "Amount in dollars", .keyboard = UIKeyboardType::DecimalPad});

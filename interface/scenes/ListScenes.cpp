@@ -6,20 +6,23 @@
 namespace leafund {
 
 void browseScene(Scene<OtherCampaignsTableViewController>& scene,
-                 OtherCampaignsTableViewController&) {
+                 OtherCampaignsTableViewController& screen) {
   scene.title("Browse");
   scene.subtitleCell("abc", "campaignSegue");
+  screen.tableView()->setAccessibilityLabel("Campaigns");
 }
 
 void fundedScene(Scene<FundCampaignVC>& scene, FundCampaignVC& screen) {
   scene.title("Funded by you");
   scene.subtitleCell("Funded", "campaignSegue");
+  screen.tableView()->setAccessibilityLabel("Campaigns");
   screen.fundedTable.connect(screen.tableView());
 }
 
 void mineScene(Scene<MyProfileVC>& scene, MyProfileVC& screen) {
   scene.title("Your campaigns");
   scene.subtitleCell("MyCampaigns", "campaignSegue");
+  screen.tableView()->setAccessibilityLabel("Campaigns");
   screen.fundedTable.connect(screen.tableView());
 }
 

@@ -7,7 +7,8 @@ void updateScene(Scene<UpdatePageVC>& scene, UpdatePageVC& screen) {
   scene.title("Update");
   scene.label(screen.test);
   scene.label(screen.updateOneDate);
-  scene.picture(screen.updateOneImage, UIViewContentMode::ScaleAspectFill);
+  scene.picture(screen.updateOneImage, UIViewContentMode::ScaleAspectFill)
+      .setAccessibilityLabel("Picture of the update");
   scene.readingText(screen.updateOneText);
 }
 

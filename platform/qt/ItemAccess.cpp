@@ -6,6 +6,7 @@
 
 #include "platform/qt/InputAccess.h"
 #include "platform/qt/ProgressAccess.h"
+#include "platform/qt/WordsAccess.h"
 
 namespace leafund {
 
@@ -26,6 +27,7 @@ QAccessibleInterface* accessFor(const QString&, QObject* object) {
   }
   if (item->metaObject()->indexOfProperty("closed") >= 0) return new ClosedAccess(item);
   if (item->metaObject()->indexOfProperty("maximumValue") >= 0) return new ProgressAccess(item);
+  if (item->metaObject()->indexOfProperty("heading") >= 0) return new WordsAccess(item);
   return nullptr;
 }
 
@@ -80,13 +82,13 @@ QAccessible::State ItemAccess::state() const {
   state.invisible = window == nullptr || !window->isVisible() || !item()->isVisible();
   state.offscreen = !inSight();
   state.disabled = !item()->isEnabled();
-  state.focusable = item()->activeFocusOnTab();
+  state.focusable = focusable();
   state.focused = item()->hasActiveFocus();
   return state;
 }
 
 void* ItemAccess::interface_cast(QAccessible::InterfaceType type) {
-  if (type != QAccessible::ActionInterface || !item()->activeFocusOnTab()) return nullptr;
+  if (type != QAccessible::ActionInterface || !focusable()) return nullptr;
   return static_cast<QAccessibleActionInterface*>(this);
 }
 

@@ -32,13 +32,14 @@ class ItemAccess : public QAccessibleObject, public QAccessibleActionInterface {
   QQuickItem* item() const { return static_cast<QQuickItem*>(object()); }
   // What the user takes for the item, in its own coordinates.
   virtual QRectF area() const { return item()->boundingRect(); }
+  virtual bool focusable() const { return item()->activeFocusOnTab(); }
   QRect onScreen(const QRectF& area) const;
 
  private:
   bool inSight() const;
 };
 
-// From here on, inputs and progress bars are described by the classes of this folder. Doing it
+// From here on, inputs, progress bars and words are described by the classes of this folder. Doing it
 // again changes nothing.
 void describeItemsToAssistiveTechnology();
 

@@ -86,6 +86,7 @@ void readKind(const UIView& view, ViewLook& look) {
     readControl(*control, look);
   } else if (const auto* label = dynamic_cast<const UILabel*>(&view)) {
     look.text = wordsToRead(label->text());
+    if (!look.accessibleName.isEmpty()) look.accessibleName += QStringLiteral(": ") + look.text;
   } else if (const auto* picture = dynamic_cast<const UIImageView*>(&view)) {
     readPicture(*picture, look);
   } else if (const auto* progress = dynamic_cast<const UIProgressView*>(&view)) {

@@ -84,7 +84,7 @@ void SceneBase::subtitleCell(std::string reuseIdentifier, std::string segueIdent
   table->registerPrototype(reuseIdentifier, std::move(make));
 }
 
-void SceneBase::tabs(const std::vector<TabTraits>& tabs) {
+UITabBar& SceneBase::tabs(const std::vector<TabTraits>& tabs) {
   auto container = std::make_shared<UITabContainer>(controller_);
   for (const auto& tab : tabs) {
     auto item = std::make_shared<UITabBarItem>(tab.title);
@@ -94,6 +94,7 @@ void SceneBase::tabs(const std::vector<TabTraits>& tabs) {
   controller_.tabContainer_ = container;
   container->tabBar()->setName("tabBar");
   place(container, "tabs");
+  return *container->tabBar();
 }
 
 UIButton& SceneBase::buttonOnTab(const std::string& tabName, std::string name, std::string title) {

@@ -54,7 +54,7 @@ class SceneBase {
   }
   // A row of a table screen; tapping it starts the segue with the cell as sender.
   void subtitleCell(std::string reuseIdentifier, std::string segueIdentifier);
-  void tabs(const std::vector<TabTraits>& tabs);
+  UITabBar& tabs(const std::vector<TabTraits>& tabs);
   // A button of the screen that holds the tabs, seen while the tab with that name is selected.
   UIButton& buttonOnTab(const std::string& tabName, std::string name, std::string title);
   // A picture that comes with the program and belongs to the skin; the description is for readers

@@ -13,6 +13,10 @@ View label(std::string name, std::string text = {}) {
   return {.kind = ViewKind::Label, .name = std::move(name), .text = std::move(text)};
 }
 
+View sum(std::string name, std::string meaning) {
+  return {.kind = ViewKind::Label, .name = std::move(name), .spoken = std::move(meaning)};
+}
+
 View button(std::string name, std::string title) {
   return {.kind = ViewKind::Button, .name = std::move(name), .text = std::move(title)};
 }
@@ -47,8 +51,11 @@ View readingText(std::string name) {
   return {.kind = ViewKind::Area, .name = std::move(name), .editable = false};
 }
 
-View picture(std::string name) {
-  return {.kind = ViewKind::Picture, .name = std::move(name), .fillsByCutting = true};
+View picture(std::string name, std::string description) {
+  return {.kind = ViewKind::Picture,
+          .name = std::move(name),
+          .spoken = std::move(description),
+          .fillsByCutting = true};
 }
 
 View illustration(std::string name, std::string description) {
@@ -82,7 +89,7 @@ std::vector<View> signUp() {
 
 std::vector<View> home() {
   return {{.kind = ViewKind::Tabs, .name = "tabs"},
-          {.kind = ViewKind::TabBar, .name = "tabBar"},
+          {.kind = ViewKind::TabBar, .name = "tabBar", .spoken = "Sections"},
           tab("browseTab", "Browse"),
           tab("fundedTab", "Funded"),
           tab("mineTab", "Mine"),
@@ -110,14 +117,14 @@ std::vector<View> news() {
 }
 
 std::vector<View> campaign() {
-  return {picture("campaignImage"),
+  return {picture("campaignImage", "Picture of the campaign"),
           label("campaignTitle"),
           label("byCreator", "by"),
           label("campaignCreator"),
           label("labelAboveSlider", "Raised so far"),
           {.kind = ViewKind::Progress, .name = "slider", .spoken = "Share of the goal raised"},
-          label("currentFund"),
-          label("desiredFund"),
+          sum("currentFund", "Raised"),
+          sum("desiredFund", "Goal"),
           field("dollarAmountField", "Amount in dollars", kDecimal),
           label("errorLabel", "Error: Please Enter an Amount, for Example 25 or 12.50"),
           button("FundButton", "Fund this campaign"),
@@ -187,7 +194,7 @@ ScreenRef layOut(Scene scene) {
       is("", {label("thankYouLabel", "Thank you for your pledge!"), button("homeButton", "Home")});
       break;
     case Scene::Update:
-      is("Update", {label("test"), label("updateOneDate"), picture("updateOneImage"),
+      is("Update", {label("test"), label("updateOneDate"), picture("updateOneImage", "Picture of the update"),
                     readingText("updateOneText")});
       break;
     case Scene::NewCampaign:

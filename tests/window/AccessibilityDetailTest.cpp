@@ -34,6 +34,23 @@ class AccessibilityDetailTest : public AccessibilityTest {
   }
 };
 
+TEST_F(AccessibilityDetailTest, ALabelWithoutTextIsNotRead) {
+  for (auto set : {&CampaignClass::setUpdateOneText, &CampaignClass::setUpdateOneDate}) {
+    (*campaignsIFunded()[0].*set)("");
+  }
+  openUpdateOfFirstFunded();
+  for (auto* each : shown()) {
+    EXPECT_NE(each->text(QAccessible::Name), "") << each->object()->objectName().toStdString();
+  }
+}
+
+TEST_F(AccessibilityDetailTest, WordsToReadAreNoControls) {
+  openUpdateOfFirstFunded();
+  auto* date = named("December 1", QAccessible::StaticText);
+  EXPECT_FALSE(date->state().focusable);
+  EXPECT_EQ(date->actionInterface(), nullptr);
+}
+
 TEST_F(AccessibilityDetailTest, EveryActionIsOfferedOnce) {
   const auto check = [&] {
     for (auto* each : shown()) {
@@ -47,6 +64,20 @@ TEST_F(AccessibilityDetailTest, EveryActionIsOfferedOnce) {
   check();
   press("Vegetarian for PETA", QAccessible::ListItem);
   check();
+}
+
+TEST_F(AccessibilityDetailTest, TheTabListHasAName) {
+  signIn();
+  EXPECT_NE(named("Sections", QAccessible::PageTabList), nullptr);
+}
+
+TEST_F(AccessibilityDetailTest, ASumIsReadWithWhatItIsAndDrawnWithoutIt) {
+  signIn();
+  press("Vegetarian for PETA", QAccessible::ListItem);
+  EXPECT_NE(named("Raised: $120.00", QAccessible::StaticText), nullptr);
+  EXPECT_NE(named("Goal: $200.00", QAccessible::StaticText), nullptr);
+  EXPECT_EQ(app.require("currentFund").property("text"), "$120.00");
+  EXPECT_EQ(app.require("desiredFund").property("text"), "$200.00");
 }
 
 TEST_F(AccessibilityDetailTest, AnInputIsAsLargeAsTheBoxThatTheUserSees) {

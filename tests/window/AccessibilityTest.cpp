@@ -174,7 +174,7 @@ TEST_F(AccessibilityTest, AListIsTurnedByThePage) {
   enter("E-mail", "wren");
   enter("Password", "secret");
   press("Sign in");
-  auto* list = named("Browse", QAccessible::List);
+  auto* list = named("Campaigns", QAccessible::List);
   list->actionInterface()->doAction(QAccessibleActionInterface::nextPageAction());
   EXPECT_NE(named("Organic Only!", QAccessible::ListItem), nullptr);
   list->actionInterface()->doAction(QAccessibleActionInterface::previousPageAction());

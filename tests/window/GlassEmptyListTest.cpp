@@ -17,7 +17,7 @@ TEST_F(GlassEmptyListTest, TheKeyboardIsSeenToStandOnAListWithoutRowsAndComesBac
   auto* access = QAccessible::queryAccessibleInterface(focused());
   ASSERT_NE(access, nullptr);
   EXPECT_EQ(access->role(), QAccessible::List);
-  EXPECT_EQ(access->text(QAccessible::Name), "Browse");
+  EXPECT_EQ(access->text(QAccessible::Name), "Campaigns");
   key(Qt::Key_Tab);
   EXPECT_NE(focusedName(), "table");
   tabTo("table");
