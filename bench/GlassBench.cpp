@@ -37,6 +37,7 @@ GlassBench::GlassBench(const UIStoryboard& storyboard)
           std::make_shared<UIApplication>(host, storyboard, std::make_shared<AppDelegate>())) {
   setCurrentHost(&host);
   host.start(*application);
+  window().resize(390, 844);  // whatever the screen of the surroundings has room for
   waitUntil([&] { return window().isExposed(); });
 }
 

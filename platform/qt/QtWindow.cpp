@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QPointingDevice>
 #include <QResizeEvent>
+#include <QScreen>
 #include <QStyleHints>
 #include <algorithm>
 
@@ -16,7 +17,6 @@ namespace leafund {
 namespace {
 
 constexpr QSize kStartSize{390, 844};
-constexpr QSize kLeastSize{320, 568};
 
 // For comparison alone.
 const void* topScreen() {
@@ -55,8 +55,9 @@ void cancelTaps(QPointerEvent& event) {
 
 QtWindow::QtWindow() {
   setTitle(QStringLiteral("Leafund"));
-  setMinimumSize(kLeastSize);
-  resize(kStartSize);
+  // No minimum size: a maximised or fullscreen state may be smaller than any, and a window larger
+  // than its state is an error that ends a Wayland connection.
+  resize(kStartSize.boundedTo(screen()->availableSize()));
   const auto* keyboard = QGuiApplication::inputMethod();
   connect(keyboard, &QInputMethod::keyboardRectangleChanged, this,
           [this, keyboard] { setKeyboardArea(keyboard->keyboardRectangle()); });

@@ -2,7 +2,9 @@
 
 #include <QElapsedTimer>
 #include <QQuickItem>
+#include <QScreen>
 #include <QTest>
+#include <algorithm>
 #include <limits>
 
 #include "model/Catalogue.h"
@@ -16,11 +18,34 @@
 namespace leafund {
 namespace {
 
-TEST_F(GlassTest, TheWindowStartsAtThePhonesNaturalSizeAndTheToolkitFollowsItsSize) {
-  EXPECT_EQ(app.window().size(), QSize(390, 844));
-  EXPECT_EQ(app.shown()->view()->frame(), (CGRect{0, 0, 390, 844}));
-  app.window().resize(568, 400);
-  EXPECT_TRUE(app.waitUntil([&] { return app.shown()->view()->frame().width == 568; }));
+TEST_F(GlassTest, TheWindowStartsAtThePhonesNaturalSizeOrTheScreensWhereThatIsSmaller) {
+  const QSize screen = app.window().screen()->availableSize();
+  ASSERT_LT(screen.height(), 844);
+  EXPECT_EQ(QtWindow().size(), QSize(390, screen.height()));
+}
+
+// On Wayland a window larger than its maximised or fullscreen state loses its connection, and with
+// it the process.
+TEST_F(GlassTest, TheWindowTakesEverySizeOnEveryScreenAndTheToolkitFollows) {
+  const auto takeAll = [&] {
+    for (const QSize size : {QSize(280, 240), QSize(90, 60), QSize(1, 1), QSize(390, 844)}) {
+      app.window().resize(size);
+      ASSERT_TRUE(app.waitUntil([&] { return app.page()->width() == size.width(); }));
+      app.settle();
+      const auto& root = app.navigation().topViewController()->view()->frame();
+      EXPECT_EQ(root.y + root.height, std::max<double>(root.y, size.height()));
+    }
+  };
+  EXPECT_EQ(app.window().minimumSize(), QSize(0, 0));
+  takeAll();
+  signIn();
+  takeAll();
+  click("abc-0");
+  takeAll();
+  click("backButton");
+  click("mineTab");
+  click("newButton");
+  takeAll();
 }
 
 TEST_F(GlassTest, AHiddenBackButtonRefusesBarAndKeys) {

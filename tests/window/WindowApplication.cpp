@@ -18,6 +18,9 @@ namespace leafund {
 
 namespace {
 
+// As on a phone, whatever the screen of the surroundings has room for.
+constexpr QSize kNatural{390, 844};
+
 constexpr int kPatience = 10'000;  // milliseconds; reached only by what never happens
 
 QtHost makeHost() {
@@ -47,6 +50,7 @@ WindowApplication::WindowApplication(const UIStoryboard& storyboard)
   host.start(*application);
   server_ = std::make_unique<PictureServer>();
   servePictures();  // after launching, which writes the updates
+  window().resize(kNatural);
   EXPECT_TRUE(QTest::qWaitForWindowExposed(&window()));
   settle();
 }
