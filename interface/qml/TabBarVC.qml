@@ -47,7 +47,15 @@ Page {
 
         Row {
             id: tabs
-            readonly property real tabWidth: Math.min(Theme.column, bar.width) / 4
+            readonly property real room: Math.min(Theme.column, bar.width)
+            // Tabs are equally wide, and on a narrow bar as wide as their titles need: in the accent
+            // colour a title must not become small.
+            readonly property bool crowded: room < Theme.narrow
+            readonly property real words: browse.wordsWidth + funded.wordsWidth
+                                          + mine.wordsWidth + news.wordsWidth
+            function widthFor(tab) {
+                return crowded ? room * tab.wordsWidth / words : room / 4;
+            }
             // All titles in one size: the largest that fits every tab, and the bar.
             readonly property real share: Math.min(1, Theme.tabLine / line.height, browse.fit,
                                                    funded.fit, mine.fit, news.fit)
@@ -61,7 +69,7 @@ Page {
                 share: tabs.share
                 icon: IconItem.Search
                 tint: bar.view.tintColor
-                width: tabs.tabWidth
+                width: tabs.widthFor(browse)
                 height: parent.height
             }
             TabButton {
@@ -70,7 +78,7 @@ Page {
                 share: tabs.share
                 icon: IconItem.Heart
                 tint: bar.view.tintColor
-                width: tabs.tabWidth
+                width: tabs.widthFor(funded)
                 height: parent.height
             }
             TabButton {
@@ -79,7 +87,7 @@ Page {
                 share: tabs.share
                 icon: IconItem.Sprout
                 tint: bar.view.tintColor
-                width: tabs.tabWidth
+                width: tabs.widthFor(mine)
                 height: parent.height
             }
             TabButton {
@@ -88,7 +96,7 @@ Page {
                 share: tabs.share
                 icon: IconItem.Paper
                 tint: bar.view.tintColor
-                width: tabs.tabWidth
+                width: tabs.widthFor(news)
                 height: parent.height
             }
         }

@@ -10,7 +10,8 @@ Pressable {
     required property color tint
     // Of the size that a tab's title has at most, and how much of it fits into this tab.
     required property real share
-    readonly property real fit: width > 0 ? (width - Theme.unit) / metrics.advanceWidth : 1
+    readonly property real wordsWidth: metrics.advanceWidth
+    readonly property real fit: width > 0 ? (width - Theme.unit) / wordsWidth : 1
     readonly property color iconColor: view.selected ? tint : Theme.quiet
 
     objectName: view.name

@@ -61,6 +61,8 @@ QtObject {
     readonly property real pictureShape: 0.75
     readonly property real bar: 12
     readonly property real column: 560
+    // Below this width four titles of tabs do not fit beside one another in equal parts.
+    readonly property real narrow: 320
     readonly property real areaLines: 3
     // A card does not lie in the middle of its row.
     readonly property real cardOffset: 2.5

@@ -42,7 +42,7 @@ const std::set<std::string> kOnFineScreens = {"browse-filled", "campaign-open", 
 std::vector<Sitting> sittings() {
   std::vector<Sitting> all;
   for (const auto& stage : stages()) {
-    all.push_back({stage.name, {100, 1}, {std::begin(kSizes), std::end(kSizes)}});
+    all.push_back({stage.name, {100, 1}, {std::begin(kPhotographed), std::end(kPhotographed)}});
     if (kInLargeLetters.contains(stage.name)) {
       all.push_back({stage.name, {150, 1}, {kSmall, kNatural}});
     }

@@ -114,6 +114,18 @@ TEST_F(MeasureProofTest, WhatIsWiderThanTheWindowIsFound) {
               ElementsAre(isFault("is wider than the window", "card")));
 }
 
+TEST_F(MeasureProofTest, APictureThatNoScrollingShowsWholeIsFound) {
+  const QByteArray picture = "Rectangle { objectName: 'picture'; y: 380; width: 90; height: 90 }";
+
+  EXPECT_THAT(faultsOn(picture), ElementsAre(isFault("is cut off", "picture")));
+  EXPECT_THAT(faultsOn("Flickable { width: 320; height: 400; contentHeight: 470; clip: true;" +
+                       picture + " }"),
+              IsEmpty());
+  EXPECT_THAT(faultsOn("Flickable { width: 320; height: 400; contentHeight: 469; clip: true;" +
+                       picture + " }"),
+              ElementsAre(isFault("is cut off", "picture")));
+}
+
 TEST_F(MeasureProofTest, APaneThatEndsBeforeItsLastItemIsFound) {
   const QByteArray pane =
       "Flickable { objectName: 'pane'; width: 320; height: 200; contentHeight: %1; clip: true;"

@@ -42,9 +42,9 @@ class MeasureTest : public testing::TestWithParam<Case> {
 
 TEST_P(MeasureTest, EverythingIsWholeLegibleAndInReach) {
   const auto& stage = stageNamed(GetParam().stage);
-  StageApplication app(GetParam().surroundings, stage.pictures, kSmall);
+  StageApplication app(GetParam().surroundings, stage.pictures, kLeast);
   stage.reach(app);
-  for (const QSize size : kSizes) {
+  for (const QSize size : kMeasured) {
     app.resize(size);
     app.settle();
     expectNone(faultsOf(app.window(), app.page()), size);

@@ -108,6 +108,7 @@ void StageApplication::settle() {
     return pictures_ == Pictures::Silent || (hasAllPictures() && rowsHaveTheirOwnPictures());
   };
   window().grabWindow();  // lays out, which may begin an animation or show another picture
+  QCoreApplication::processEvents();  // a message is brought into sight later
   EXPECT_TRUE(app_.waitUntil(isSettled)) << "a slide, an animation or a picture does not end";
   window().grabWindow();
 }

@@ -21,13 +21,18 @@ const std::vector<Stage>& stages();
 // Fails the test for a name that is none.
 const Stage& stageNamed(const std::string& name);
 
-// The sizes the interface is made for, from the least. In this order a table only ever grows, and
+// The sizes the interface is made for, from the lowest. In this order a table only ever grows, and
 // no cell is used for another row, whose picture would come later.
+inline constexpr QSize kLeast{280, 240};
+inline constexpr QSize kLandscape{844, 390};
+inline constexpr QSize kOverKeyboard{390, 460};  // what a keyboard on the screen leaves of kNatural
 inline constexpr QSize kSmall{320, 568};
 inline constexpr QSize kWide{1024, 768};
 inline constexpr QSize kNatural{390, 844};
 inline constexpr QSize kLarge{430, 932};
-inline constexpr QSize kSizes[] = {kSmall, kWide, kNatural, kLarge};
+inline constexpr QSize kMeasured[] = {kLeast, kLandscape, kOverKeyboard, kSmall,
+                                      kWide,  kNatural,   kLarge};
+inline constexpr QSize kPhotographed[] = {kSmall, kWide, kNatural, kLarge};
 
 std::string sizeText(QSize size);  // "390x844"
 

@@ -41,6 +41,14 @@ void addTooWide(const QQuickWindow& window, const QQuickItem& item, std::vector<
   faults.push_back({"is wider than the window", described(item), figure(place)});
 }
 
+// Pictures, boxes and bars: what is drawn and is neither a text nor a control.
+void addCutOff(const QQuickItem& item, std::vector<Fault>& faults) {
+  const Reach reach = reachOf(item, QRectF(QPointF(0, 0), item.size()));
+  if (reach.lost.height() <= kRounding) return;
+  faults.push_back({"is cut off, and no scrolling shows it", described(item),
+                    figure(reach.lost.height()) + " px"});
+}
+
 // The lowest control or text in a pane; null in an empty one.
 QQuickItem* lowestIn(QQuickItem& pane) {
   QQuickItem* lowest = nullptr;
@@ -106,7 +114,10 @@ std::vector<Fault> frameFaults(QQuickWindow& window, const std::vector<QQuickIte
   std::vector<Fault> faults;
   std::vector<QQuickItem*> panes;
   for (auto* each : shown) {
-    if (isDrawn(*each)) addTooWide(window, *each, faults);
+    if (isDrawn(*each)) {
+      addTooWide(window, *each, faults);
+      addCutOff(*each, faults);
+    }
     if (isPane(*each)) panes.push_back(each);
   }
   for (auto* pane : panes) addUnreachedEnd(window, *pane, faults);

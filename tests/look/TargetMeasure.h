@@ -13,7 +13,8 @@ inline constexpr double kLeastTarget = 48;
 // on one another.
 std::vector<Fault> targetFaults(const std::vector<QQuickItem*>& shown);
 
-// What is wider than the window, and panes that cannot be scrolled to their last item. Scrolls.
+// What is wider than the window or cut off below it, and panes that cannot be scrolled to their
+// last item. Scrolls.
 std::vector<Fault> frameFaults(QQuickWindow& window, const std::vector<QQuickItem*>& shown);
 
 }  // namespace leafund
