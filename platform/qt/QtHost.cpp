@@ -7,9 +7,9 @@
 #include <thread>
 #include <utility>
 
+#include "platform/curl/CurlTransfer.h"
 #include "platform/foundation/FatalError.h"
 #include "platform/foundation/NSURLRequest.h"
-#include "platform/qt/CurlTransfer.h"
 #include "platform/qt/ItemAccess.h"
 #include "platform/qt/QtWindow.h"
 #include "platform/qt/SceneStage.h"

@@ -4,8 +4,8 @@
 #include <future>
 #include <map>
 
+#include "platform/curl/CurlTransfer.h"
 #include "platform/graphics/PictureHeader.h"
-#include "platform/qt/CurlTransfer.h"
 #include "tests/fuzz/AnsweringHost.h"
 #include "tests/fuzz/CorpusFiles.h"
 #include "tests/fuzz/Fuzzers.h"

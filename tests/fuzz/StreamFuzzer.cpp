@@ -12,7 +12,7 @@
 #include <string>
 #include <utility>
 
-#include "platform/qt/CurlTransfer.h"
+#include "platform/curl/CurlTransfer.h"
 #include "tests/fuzz/AnsweringHost.h"
 #include "tests/fuzz/Discoveries.h"
 #include "tests/fuzz/Fuzzers.h"

@@ -4,7 +4,7 @@
 #include <memory>
 #include <string>
 
-#include "platform/qt/CurlTransfer.h"
+#include "platform/curl/CurlTransfer.h"
 #include "platform/uikit/UIImageView.h"
 #include "tests/window/FaultHosts.h"
 #include "tests/window/FaultTable.h"

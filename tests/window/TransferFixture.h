@@ -13,7 +13,7 @@
 #include <utility>
 #include <vector>
 
-#include "platform/qt/CurlTransfer.h"
+#include "platform/curl/CurlTransfer.h"
 #include "tests/support/PictureAnswers.h"
 #include "tests/support/PictureServer.h"
 

@@ -89,7 +89,7 @@ TEST_F(CurlTransferTest, OnlyWholeWebAddressesAreFetched) {
   for (const char* url :
        {"", "foo", "/etc/passwd", "//127.0.0.1/x", "file:///etc/passwd", "ftp://127.0.0.1/x",
         "data:image/gif;base64,R0lGODlhAQABAAAAACw=", "qrc:/x", "http:", "http://", "http:///x",
-        "https:x", "http://127.0.0.1:99999/", "http://a b/", "http://127.0.0.1/%zz"}) {
+        "https:x", "http://127.0.0.1:99999/", "http://a b/"}) {
     EXPECT_TRUE(fetched(transfer, url).isError()) << url;
   }
 }

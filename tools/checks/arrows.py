@@ -11,7 +11,8 @@ ARROWS = {
     **{room: BELOW_UIKIT for room in BELOW_UIKIT},
     "platform/uikit": BELOW_UIKIT,
     "platform/headless": TOOLKIT,
-    "platform/qt": TOOLKIT,
+    "platform/curl": {"platform", "platform/foundation"},
+    "platform/qt": TOOLKIT | {"platform/curl"},
     "screens": {"model"} | TOOLKIT,
     "interface/scenes": {"model", "screens"} | TOOLKIT,
     "shell": {"model", "screens", "interface/scenes"} | TOOLKIT,
@@ -24,7 +25,7 @@ LIBRARIES = (
     ("Qt", r"<(Q[A-Z]|Qt[A-Z])", "platform/qt"),
     ("ICU", r"<unicode/", "platform/foundation"),
     ("uriparser", r"<uriparser/", "platform/foundation"),
-    ("libcurl", r"<curl/", "platform/qt"),
+    ("libcurl", r"<curl/", "platform/curl"),
 )
 
 

@@ -2,7 +2,6 @@
 
 #include <curl/curl.h>
 
-#include <QLibrary>
 #include <string>
 
 namespace leafund {
@@ -12,8 +11,8 @@ namespace leafund {
 // screen is seen.
 class CurlLibrary {
  public:
-  // `name` is the file's, without what the system puts around it.
-  explicit CurlLibrary(const QString& name);
+  // `fileName` is looked for where the system keeps its libraries. What is loaded stays loaded.
+  explicit CurlLibrary(const std::string& fileName);
 
   // Why there is none; empty when there is one.
   const std::string& failure() const { return failure_; }
@@ -35,12 +34,16 @@ class CurlLibrary {
   decltype(&curl_multi_poll) multiPoll = nullptr;
   decltype(&curl_multi_wakeup) multiWakeup = nullptr;
   decltype(&curl_multi_cleanup) multiCleanup = nullptr;
+  decltype(&curl_url) url = nullptr;
+  decltype(&curl_url_set) urlSet = nullptr;
+  decltype(&curl_url_get) urlGet = nullptr;
+  decltype(&curl_url_cleanup) urlCleanup = nullptr;
+  decltype(&curl_free) free = nullptr;
 
  private:
   template <typename Function>
-  void resolve(Function& function, const char* name);
+  void resolve(void* library, Function& function, const char* name);
 
-  QLibrary library_;
   std::string failure_;
 };
 

@@ -11,6 +11,8 @@
 
 namespace leafund {
 
+class CurlSession;
+
 // Fetches whole bodies on a thread of its own, by the session's policy (see NSURLSession.h). The
 // thread is started by the first fetch.
 //
@@ -29,8 +31,8 @@ class CurlTransfer {
   };
 
   CurlTransfer();
-  // Where there is no such library, each fetch is an error.
-  explicit CurlTransfer(const Limits& limits, std::string library = "curl");
+  // Where there is no library of that file name, each fetch is an error.
+  explicit CurlTransfer(const Limits& limits, std::string library = "libcurl.so.4");
   CurlTransfer(const CurlTransfer&) = delete;
   CurlTransfer& operator=(const CurlTransfer&) = delete;
   ~CurlTransfer();
@@ -42,11 +44,9 @@ class CurlTransfer {
   void start(std::string url, CompletionHandler completion);
 
  private:
-  class Session;
-
   Limits limits_;
   std::string library_;
-  std::unique_ptr<Session> session_;  // Null until the first fetch.
+  std::unique_ptr<CurlSession> session_;  // Null until the first fetch.
   std::thread thread_;
 };
 

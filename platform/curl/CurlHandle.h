@@ -1,13 +1,13 @@
 #pragma once
 
-#include <QUrl>
 #include <chrono>
 #include <cstddef>
 #include <optional>
 #include <string>
 #include <utility>
 
-#include "platform/qt/CurlLibrary.h"
+#include "platform/curl/CurlLibrary.h"
+#include "platform/curl/WebAddress.h"
 
 namespace leafund {
 
@@ -22,14 +22,11 @@ class CurlHandle {
   CurlHandle& operator=(const CurlHandle&) = delete;
   ~CurlHandle();
 
-  // By way of a whitelist: libcurl would read a file: address, too.
-  static bool isFetchable(const QUrl& url);
-
   // What libcurl knows it by.
   CURL* get() const { return handle_; }
 
-  // Forgets the last answer and turns to that address, which is fetchable.
-  void aim(const QUrl& url);
+  // Forgets the last answer and turns to that address.
+  void aim(const WebAddress& address);
 
   // When the last piece of the answer came, or the handle was aimed.
   Clock::time_point lastSign() const { return lastSign_; }
@@ -38,9 +35,9 @@ class CurlHandle {
   int status() const;
   std::string takeBody() { return std::exchange(body_, {}); }
 
-  // Where the answer sends the fetch, an invalid address if it cannot be followed; nothing when it
-  // is no redirect or names no target, so that its body counts.
-  std::optional<QUrl> redirectTarget() const;
+  // The "Location" of a redirect, without blanks around it; nothing when the answer is none or
+  // names no target, so that its body counts.
+  std::optional<std::string> redirectLocation() const;
 
  private:
   static std::size_t readHead(char* bytes, std::size_t one, std::size_t count, void* handle);
@@ -50,7 +47,6 @@ class CurlHandle {
   const std::size_t mostBodyBytes_;
   CURL* const handle_;
   curl_slist* headers_ = nullptr;
-  QUrl url_;
   std::string body_;
   std::size_t headBytes_ = 0;
   Clock::time_point lastSign_;

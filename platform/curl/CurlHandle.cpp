@@ -1,4 +1,7 @@
-#include "platform/qt/CurlHandle.h"
+#include "platform/curl/CurlHandle.h"
+
+#include <algorithm>
+#include <string_view>
 
 namespace leafund {
 
@@ -8,6 +11,8 @@ namespace {
 // read without an end; as much as its later versions take of one.
 constexpr std::size_t kMostHeadBytes = std::size_t{300} * 1024;
 
+constexpr std::string_view kBlanks = " \t\r\n";
+
 }  // namespace
 
 CurlHandle::CurlHandle(const CurlLibrary& curl, std::size_t mostBodyBytes)
@@ -15,15 +20,14 @@ CurlHandle::CurlHandle(const CurlLibrary& curl, std::size_t mostBodyBytes)
   const auto set = [this](CURLoption option, auto value) {
     curl_.easySetopt(handle_, option, value);
   };
-  // What an answer is told from an error by below was tried on HTTP/1.1.
+  // The success and error rules below were tried on HTTP/1.1.
   set(CURLOPT_HTTP_VERSION, long{CURL_HTTP_VERSION_1_1});
   set(CURLOPT_PROTOCOLS_STR, "http,https");
   // Nothing around the application decides whom it asks, and no picture host on the loopback is
   // beyond reach because the system has a proxy, whose refusal would be taken for a picture.
   set(CURLOPT_PROXY, "");
   set(CURLOPT_USERAGENT, "Leafund");
-  // Said in a header and not by libcurl's option, with which it would unpack what comes packed all
-  // the same.
+  // Sent as a header: CURLOPT_ACCEPT_ENCODING would also decompress.
   headers_ = curl_.slistAppend(headers_, "Accept-Encoding: identity");
   headers_ = curl_.slistAppend(headers_, "Accept:");  // Not sent.
   set(CURLOPT_HTTPHEADER, headers_);
@@ -41,19 +45,11 @@ CurlHandle::~CurlHandle() {
   curl_.slistFreeAll(headers_);
 }
 
-bool CurlHandle::isFetchable(const QUrl& url) {
-  const bool isWeb = url.scheme() == u"http" || url.scheme() == u"https";
-  return url.isValid() && isWeb && !url.host().isEmpty();
-}
-
-void CurlHandle::aim(const QUrl& url) {
-  url_ = url;
+void CurlHandle::aim(const WebAddress& address) {
   body_.clear();
   headBytes_ = 0;
   lastSign_ = Clock::now();
-  // A name and a password have no place in a web address (RFC 9110, 4.2.4), and none is sent.
-  const QByteArray address = url.toEncoded(QUrl::RemoveUserInfo | QUrl::RemoveFragment);
-  curl_.easySetopt(handle_, CURLOPT_URL, address.constData());
+  curl_.easySetopt(handle_, CURLOPT_URL, address.text().c_str());
 }
 
 int CurlHandle::status() const {
@@ -62,18 +58,19 @@ int CurlHandle::status() const {
   return static_cast<int>(status);
 }
 
-std::optional<QUrl> CurlHandle::redirectTarget() const {
+std::optional<std::string> CurlHandle::redirectLocation() const {
   const int code = status();
   const bool isRedirect = code == 301 || code == 302 || code == 303 || code == 307 || code == 308;
-  curl_header* location = nullptr;
+  curl_header* header = nullptr;
   if (!isRedirect ||
-      curl_.easyHeader(handle_, "Location", 0, CURLH_HEADER, -1, &location) != CURLHE_OK) {
+      curl_.easyHeader(handle_, "Location", 0, CURLH_HEADER, -1, &header) != CURLHE_OK) {
     return std::nullopt;
   }
-  const QString said = QString::fromUtf8(location->value).trimmed();
-  if (said.isEmpty()) return std::nullopt;
-  const QUrl target(said, QUrl::StrictMode);
-  return target.isValid() ? url_.resolved(target) : QUrl();
+  std::string_view location = header->value;
+  location.remove_prefix(std::min(location.find_first_not_of(kBlanks), location.size()));
+  location.remove_suffix(location.size() - (location.find_last_not_of(kBlanks) + 1));
+  if (location.empty()) return std::nullopt;
+  return std::string(location);
 }
 
 // Less than was given ends the fetch, with an error.

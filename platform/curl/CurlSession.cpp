@@ -1,0 +1,180 @@
+#include "platform/curl/CurlSession.h"
+
+#include <pthread.h>
+
+#include <algorithm>
+#include <utility>
+
+namespace leafund {
+
+namespace {
+
+constexpr std::size_t kMostConnections = 6;  // To a host, as browsers have it.
+
+}  // namespace
+
+CurlSession::CurlSession(const CurlTransfer::Limits& limits, std::string library)
+    : limits_(limits), libraryName_(std::move(library)) {}
+
+void CurlSession::add(std::string address, CompletionHandler completion) {
+  const std::lock_guard lock(mutex_);
+  inbox_.push_back({std::move(address), std::move(completion)});
+  wake();
+}
+
+void CurlSession::end() {
+  const std::lock_guard lock(mutex_);
+  isEnding_ = true;
+  wake();
+}
+
+void CurlSession::run() {
+  pthread_setname_np(pthread_self(), "session");
+  const CurlLibrary library(libraryName_);
+  if (!library.failure().empty()) return refuseAll(library.failure());
+  curl_ = &library;
+  {
+    const std::lock_guard lock(mutex_);
+    multi_ = library.multiInit();
+  }
+  while (beginAdded()) {
+    endReady();
+    library.multiPoll(multi_, nullptr, 0, endIdle(), nullptr);
+  }
+  closeNetwork();
+}
+
+void CurlSession::fail(Fetch& fetch, std::string reason) {
+  fetch.completion(nullptr, std::nullopt, NSError{std::move(reason)});
+}
+
+void CurlSession::wake() {
+  if (multi_ != nullptr) curl_->multiWakeup(multi_);
+  added_.notify_one();
+}
+
+void CurlSession::refuseAll(const std::string& reason) {
+  std::unique_lock lock(mutex_);
+  while (!isEnding_) {
+    auto added = std::exchange(inbox_, {});
+    lock.unlock();
+    for (Fetch& fetch : added) fail(fetch, reason);
+    added.clear();
+    lock.lock();
+    added_.wait(lock, [this] { return isEnding_ || !inbox_.empty(); });
+  }
+}
+
+bool CurlSession::beginAdded() {
+  std::vector<Fetch> added;
+  {
+    const std::lock_guard lock(mutex_);
+    if (isEnding_) return false;
+    added.swap(inbox_);
+  }
+  for (Fetch& fetch : added) {
+    fetch.address = WebAddress::read(*curl_, fetch.text);
+    begin(std::move(fetch));
+  }
+  return true;
+}
+
+void CurlSession::begin(Fetch fetch) {
+  if (!fetch.address) return fail(fetch, "no http or https address");
+  fetch.begun = CurlHandle::Clock::now();
+  Line& line = lines_[fetch.address->origin()];
+  line.waiting.push_back(std::move(fetch));
+  advance(line);
+}
+
+void CurlSession::advance(Line& line) {
+  while (line.underWay < kMostConnections && !line.waiting.empty()) {
+    Fetch fetch = std::move(line.waiting.front());
+    line.waiting.pop_front();
+    fetch.handle = takeHandle();
+    fetch.handle->aim(*fetch.address);
+    CURL* const handle = fetch.handle->get();
+    underWay_.emplace(handle, std::move(fetch));
+    curl_->multiAddHandle(multi_, handle);
+    ++line.underWay;
+  }
+}
+
+std::unique_ptr<CurlHandle> CurlSession::takeHandle() {
+  if (spare_.empty()) return std::make_unique<CurlHandle>(*curl_, limits_.bodyBytes);
+  auto handle = std::move(spare_.back());
+  spare_.pop_back();
+  return handle;
+}
+
+void CurlSession::endReady() {
+  int rest = 0;
+  curl_->multiPerform(multi_, &rest);
+  while (const CURLMsg* message = curl_->multiInfoRead(multi_, &rest)) {
+    CURL* const handle = message->easy_handle;
+    const CURLcode result = message->data.result;
+    if (result == CURLE_OK) {
+      complete(leave(handle));
+    } else {
+      Fetch fetch = leave(handle);
+      fail(fetch, std::string("no whole answer: ") + curl_->easyStrerror(result));
+    }
+  }
+}
+
+CurlSession::Fetch CurlSession::leave(CURL* handle) {
+  curl_->multiRemoveHandle(multi_, handle);
+  Fetch fetch = std::move(underWay_.extract(handle).mapped());
+  const auto line = lines_.find(fetch.address->origin());
+  --line->second.underWay;
+  advance(line->second);
+  if (line->second.underWay == 0) lines_.erase(line);
+  return fetch;
+}
+
+void CurlSession::complete(Fetch fetch) {
+  const auto location = fetch.handle->redirectLocation();
+  if (location && ++fetch.redirects > limits_.redirects) return fail(fetch, "too many redirects");
+  const NSURLResponse response{fetch.handle->status()};
+  if (response.statusCode < 200) return fail(fetch, "no final answer");  // "101", unasked
+  auto body = std::make_shared<const std::string>(fetch.handle->takeBody());
+  if (spare_.size() < kMostConnections) spare_.push_back(std::move(fetch.handle));
+  if (!location) return fetch.completion(std::move(body), response, std::nullopt);
+  fetch.address = fetch.address->target(*curl_, *location);
+  begin(std::move(fetch));
+}
+
+int CurlSession::endIdle() {
+  const auto now = CurlHandle::Clock::now();
+  auto next = now + std::chrono::hours{1};
+  const auto isLate = [&](CurlHandle::Clock::time_point lastSign) {
+    if (now - lastSign >= limits_.idle) return true;
+    next = std::min(next, lastSign + limits_.idle);
+    return false;
+  };
+  std::vector<Fetch> late;
+  for (auto& [origin, line] : lines_) {
+    while (!line.waiting.empty() && isLate(line.waiting.front().begun)) {
+      late.push_back(std::move(line.waiting.front()));
+      line.waiting.pop_front();
+    }
+  }
+  std::vector<CURL*> silent;
+  for (const auto& [handle, fetch] : underWay_) {
+    if (isLate(fetch.handle->lastSign())) silent.push_back(handle);
+  }
+  for (CURL* handle : silent) late.push_back(leave(handle));
+  for (Fetch& fetch : late) fail(fetch, "silent for too long");
+  return static_cast<int>(std::chrono::ceil<std::chrono::milliseconds>(next - now).count());
+}
+
+void CurlSession::closeNetwork() {
+  for (auto& [handle, fetch] : underWay_) {
+    curl_->multiRemoveHandle(multi_, handle);
+    fetch.handle.reset();
+  }
+  spare_.clear();
+  curl_->multiCleanup(multi_);
+}
+
+}  // namespace leafund
