@@ -15,8 +15,11 @@ constexpr std::string_view kBlanks = " \t\r\n";
 
 }  // namespace
 
-CurlHandle::CurlHandle(const CurlLibrary& curl, std::size_t mostBodyBytes)
-    : curl_(curl), mostBodyBytes_(mostBodyBytes), handle_(curl.easyInit()) {
+CurlHandle::CurlHandle(const CurlLibrary& curl, Connections& connections, std::size_t mostBodyBytes)
+    : curl_(curl),
+      connections_(connections),
+      mostBodyBytes_(mostBodyBytes),
+      handle_(curl.easyInit()) {
   const auto set = [this](CURLoption option, auto value) {
     curl_.easySetopt(handle_, option, value);
   };
@@ -34,6 +37,12 @@ CurlHandle::CurlHandle(const CurlLibrary& curl, std::size_t mostBodyBytes)
   set(CURLOPT_MAXFILESIZE_LARGE, static_cast<curl_off_t>(mostBodyBytes));
   set(CURLOPT_NOSIGNAL, 1L);
   set(CURLOPT_QUICK_EXIT, 1L);  // Does not wait for a name to be looked up.
+  set(CURLOPT_OPENSOCKETFUNCTION, &Connections::open);
+  set(CURLOPT_OPENSOCKETDATA, &connections);
+  set(CURLOPT_CLOSESOCKETFUNCTION, &Connections::close);
+  set(CURLOPT_CLOSESOCKETDATA, &connections);
+  set(CURLOPT_PREREQFUNCTION, &beforeRequest);
+  set(CURLOPT_PREREQDATA, this);
   set(CURLOPT_HEADERFUNCTION, &readHead);
   set(CURLOPT_HEADERDATA, this);
   set(CURLOPT_WRITEFUNCTION, &readBody);
@@ -45,11 +54,13 @@ CurlHandle::~CurlHandle() {
   curl_.slistFreeAll(headers_);
 }
 
-void CurlHandle::aim(const WebAddress& address) {
+void CurlHandle::aim(const WebAddress& address, Connection connection) {
   body_.clear();
   headBytes_ = 0;
+  usesAKeptConnection_ = false;
   lastSign_ = Clock::now();
   curl_.easySetopt(handle_, CURLOPT_URL, address.text().c_str());
+  curl_.easySetopt(handle_, CURLOPT_FRESH_CONNECT, connection == Connection::New ? 1L : 0L);
 }
 
 int CurlHandle::status() const {
@@ -71,6 +82,16 @@ std::optional<std::string> CurlHandle::redirectLocation() const {
   location.remove_suffix(location.size() - (location.find_last_not_of(kBlanks) + 1));
   if (location.empty()) return std::nullopt;
   return std::string(location);
+}
+
+// When there is a connection. An abort ends the fetch, and the connection.
+int CurlHandle::beforeRequest(void* handle, char*, char*, int therePort, int herePort) {
+  auto& self = *static_cast<CurlHandle*>(handle);
+  long newConnections = 0;
+  self.curl_.easyGetinfo(self.handle_, CURLINFO_NUM_CONNECTS, &newConnections);
+  self.usesAKeptConnection_ = newConnections == 0;
+  const bool isGood = !self.usesAKeptConnection_ || self.connections_.isQuiet(herePort, therePort);
+  return isGood ? CURL_PREREQFUNC_OK : CURL_PREREQFUNC_ABORT;
 }
 
 // Less than was given ends the fetch, with an error.

@@ -6,6 +6,7 @@
 #include <string>
 #include <utility>
 
+#include "platform/curl/Connections.h"
 #include "platform/curl/CurlLibrary.h"
 #include "platform/curl/WebAddress.h"
 
@@ -17,7 +18,7 @@ class CurlHandle {
  public:
   using Clock = std::chrono::steady_clock;
 
-  CurlHandle(const CurlLibrary& curl, std::size_t mostBodyBytes);
+  CurlHandle(const CurlLibrary& curl, Connections& connections, std::size_t mostBodyBytes);
   CurlHandle(const CurlHandle&) = delete;
   CurlHandle& operator=(const CurlHandle&) = delete;
   ~CurlHandle();
@@ -25,14 +26,20 @@ class CurlHandle {
   // What libcurl knows it by.
   CURL* get() const { return handle_; }
 
+  enum class Connection { Any, New };
+
   // Forgets the last answer and turns to that address.
-  void aim(const WebAddress& address);
+  void aim(const WebAddress& address, Connection connection);
 
   // When the last piece of the answer came, or the handle was aimed.
   Clock::time_point lastSign() const { return lastSign_; }
 
-  // Of an answer that arrived whole.
+  // Zero when no answer has begun.
   int status() const;
+  // Whether the connection had served another answer before.
+  bool usedAKeptConnection() const { return usesAKeptConnection_; }
+
+  // Of an answer that arrived whole.
   std::string takeBody() { return std::exchange(body_, {}); }
 
   // The "Location" of a redirect, without blanks around it; nothing when the answer is none or
@@ -40,15 +47,18 @@ class CurlHandle {
   std::optional<std::string> redirectLocation() const;
 
  private:
+  static int beforeRequest(void* handle, char* there, char* here, int therePort, int herePort);
   static std::size_t readHead(char* bytes, std::size_t one, std::size_t count, void* handle);
   static std::size_t readBody(char* bytes, std::size_t one, std::size_t count, void* handle);
 
   const CurlLibrary& curl_;
+  Connections& connections_;
   const std::size_t mostBodyBytes_;
   CURL* const handle_;
   curl_slist* headers_ = nullptr;
   std::string body_;
   std::size_t headBytes_ = 0;
+  bool usesAKeptConnection_ = false;
   Clock::time_point lastSign_;
 };
 

@@ -92,16 +92,20 @@ void CurlSession::advance(Line& line) {
     Fetch fetch = std::move(line.waiting.front());
     line.waiting.pop_front();
     fetch.handle = takeHandle();
-    fetch.handle->aim(*fetch.address);
-    CURL* const handle = fetch.handle->get();
-    underWay_.emplace(handle, std::move(fetch));
-    curl_->multiAddHandle(multi_, handle);
+    send(std::move(fetch), CurlHandle::Connection::Any);
     ++line.underWay;
   }
 }
 
+void CurlSession::send(Fetch fetch, CurlHandle::Connection connection) {
+  fetch.handle->aim(*fetch.address, connection);
+  CURL* const handle = fetch.handle->get();
+  underWay_.emplace(handle, std::move(fetch));
+  curl_->multiAddHandle(multi_, handle);
+}
+
 std::unique_ptr<CurlHandle> CurlSession::takeHandle() {
-  if (spare_.empty()) return std::make_unique<CurlHandle>(*curl_, limits_.bodyBytes);
+  if (spare_.empty()) return std::make_unique<CurlHandle>(*curl_, connections_, limits_.bodyBytes);
   auto handle = std::move(spare_.back());
   spare_.pop_back();
   return handle;
@@ -111,20 +115,28 @@ void CurlSession::endReady() {
   int rest = 0;
   curl_->multiPerform(multi_, &rest);
   while (const CURLMsg* message = curl_->multiInfoRead(multi_, &rest)) {
-    CURL* const handle = message->easy_handle;
-    const CURLcode result = message->data.result;
-    if (result == CURLE_OK) {
-      complete(leave(handle));
-    } else {
-      Fetch fetch = leave(handle);
-      fail(fetch, std::string("no whole answer: ") + curl_->easyStrerror(result));
-    }
+    end(message->easy_handle, message->data.result);
   }
 }
 
-CurlSession::Fetch CurlSession::leave(CURL* handle) {
+void CurlSession::end(CURL* handle, CURLcode result) {
+  const CurlHandle& ended = *underWay_.at(handle).handle;
+  if (result == CURLE_OK) return complete(leave(handle));
+  // A kept connection that was not quiet, or whose next bytes were no answer.
+  if (ended.status() == 0 && ended.usedAKeptConnection()) {
+    return send(takeOut(handle), CurlHandle::Connection::New);
+  }
+  Fetch fetch = leave(handle);
+  fail(fetch, std::string("no whole answer: ") + curl_->easyStrerror(result));
+}
+
+CurlSession::Fetch CurlSession::takeOut(CURL* handle) {
   curl_->multiRemoveHandle(multi_, handle);
-  Fetch fetch = std::move(underWay_.extract(handle).mapped());
+  return std::move(underWay_.extract(handle).mapped());
+}
+
+CurlSession::Fetch CurlSession::leave(CURL* handle) {
+  Fetch fetch = takeOut(handle);
   const auto line = lines_.find(fetch.address->origin());
   --line->second.underWay;
   advance(line->second);

@@ -56,8 +56,12 @@ class CurlSession {
   void advance(Line& line);
   std::unique_ptr<CurlHandle> takeHandle();
   void endReady();
+  // Lets the fetch, which has a handle, begin or begin anew.
+  void send(Fetch fetch, CurlHandle::Connection connection);
+  Fetch takeOut(CURL* handle);
   // Takes the fetch out of what is under way, and lets the next one to its host begin.
   Fetch leave(CURL* handle);
+  void end(CURL* handle, CURLcode result);
   void complete(Fetch fetch);
   // Returns the milliseconds until the next fetch could be idle for too long.
   int endIdle();
@@ -71,6 +75,7 @@ class CurlSession {
   std::condition_variable added_;
   std::vector<Fetch> inbox_;
   bool isEnding_ = false;
+  Connections connections_;
   std::map<std::string, Line> lines_;  // By their hosts' origins.
   std::map<CURL*, Fetch> underWay_;
   std::vector<std::unique_ptr<CurlHandle>> spare_;

@@ -30,7 +30,7 @@ constexpr std::chrono::seconds generously{30};
 constexpr CurlTransfer::Limits limits{
     .redirects = 2, .idle = std::chrono::milliseconds{500}, .bodyBytes = 1024};
 constexpr std::size_t connectionsAtOnce = 6;
-// libcurl asks once more, on another connection, when a used one ends before the answer begins.
+// Asked once more, on another connection, when a used one ends or babbles before the answer begins.
 constexpr std::size_t connectionsForOneAnswer = 2;
 
 struct Outcome {

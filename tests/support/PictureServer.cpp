@@ -110,6 +110,11 @@ int PictureServer::mostConnections() const {
   return mostConnections_;
 }
 
+int PictureServer::connectionsSoFar() const {
+  const std::lock_guard lock(mutex_);
+  return connectionsSoFar_;
+}
+
 bool PictureServer::waitForRequests(std::size_t count) const {
   std::unique_lock lock(mutex_);
   return changed_.wait_for(lock, generously, [&] { return requests_.size() >= count; });
@@ -164,6 +169,7 @@ void PictureServer::answerRequests(QTcpSocket& client, std::string& received) {
 void PictureServer::count(int change) {
   const std::lock_guard lock(mutex_);
   connections_ += change;
+  if (change > 0) ++connectionsSoFar_;
   mostConnections_ = std::max(mostConnections_, connections_);
   changed_.notify_all();
 }

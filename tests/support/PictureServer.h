@@ -50,9 +50,10 @@ class PictureServer {
   std::vector<Request> requests() const;
   std::size_t requestsFor(std::string_view path) const;
 
-  // Now, and the most there have been at any one time.
+  // Now, the most there have been at any one time, and all there have ever been.
   int connections() const;
   int mostConnections() const;
+  int connectionsSoFar() const;
 
   // Wait until it is so, or for a generous time; whether it came to be.
   bool waitForRequests(std::size_t count) const;
@@ -71,6 +72,7 @@ class PictureServer {
   std::vector<Request> requests_;
   int connections_ = 0;
   int mostConnections_ = 0;
+  int connectionsSoFar_ = 0;
   const Speaks speaks_;
   int port_ = 0;
   std::unique_ptr<QThread> thread_;

@@ -1,0 +1,127 @@
+#include <QTcpSocket>
+#include <QTimer>
+#include <atomic>
+
+#include "tests/support/PictureAnswersProtocol.h"
+#include "tests/window/TransferFixture.h"
+
+namespace leafund {
+namespace {
+
+// Connections that are kept, and what comes on them behind an answer.
+class TransferConnectionTest : public CurlTransferTest {
+ protected:
+  // The picture, and the bytes in a packet of their own: the client has them once `sent_` counts.
+  PictureServer::Answer withBytesBehind(const std::string& bytes, std::chrono::milliseconds pause) {
+    return [this, bytes, pause](QTcpSocket& client) {
+      answers::ok(kPicture)(client);
+      client.flush();
+      QTimer::singleShot(pause, &client, [this, bytes, &client] {
+        if (client.isOpen()) client.write(bytes.data(), static_cast<qint64>(bytes.size()));
+        client.flush();
+        ++sent_;
+        sent_.notify_all();
+      });
+    };
+  }
+
+  // How many of so many fetches one after the other bring the picture, each begun when all that
+  // came of the one before has come.
+  int picturesOneByOne(int count) {
+    CurlTransfer transfer;
+    int pictures = 0;
+    for (int i = 0; i < count; ++i) {
+      if (fetched(transfer, server_.address("/picture")).isResponse(200, kPicture)) ++pictures;
+      for (int sent = sent_; sent <= i; sent = sent_) sent_.wait(sent);
+    }
+    return pictures;
+  }
+
+  int picturesAtOnce(int count) {
+    CurlTransfer transfer;
+    std::vector<std::future<Outcome>> fetches;
+    for (int i = 0; i < count; ++i)
+      fetches.push_back(started(transfer, server_.address("/picture")));
+    int pictures = 0;
+    for (auto& fetch : fetches) {
+      if (outcomeOf(std::move(fetch)).isResponse(200, kPicture)) ++pictures;
+    }
+    return pictures;
+  }
+
+  static inline const std::string kPicture = "picture";
+  static inline const std::string kSecondAnswer =
+      "HTTP/1.1 200 OK\r\nContent-Length: 4\r\n\r\njunk";
+
+ private:
+  std::atomic<int> sent_ = 0;
+};
+
+TEST_F(TransferConnectionTest, AConnectionIsUsedAgainWhileItIsQuiet) {
+  CurlTransfer transfer;
+  server_.serve("/picture", answers::ok(kPicture));
+
+  for (int i = 0; i < 20; ++i) {
+    EXPECT_TRUE(fetched(transfer, server_.address("/picture")).isResponse(200, kPicture));
+  }
+
+  EXPECT_EQ(server_.connectionsSoFar(), 1);
+}
+
+TEST_F(TransferConnectionTest, TwoHundredFetchesTakeSixConnections) {
+  server_.serve("/picture", answers::ok(kPicture));
+
+  EXPECT_EQ(picturesAtOnce(200), 200);
+  EXPECT_EQ(server_.connectionsSoFar(), 6);
+}
+
+TEST_F(TransferConnectionTest, ALineBreakBehindEachPictureCostsNone) {
+  server_.serve("/picture", withBytesBehind("\n", 0ms));
+
+  EXPECT_EQ(picturesOneByOne(40), 40);
+}
+
+TEST_F(TransferConnectionTest, ALineBreakBehindEachPictureOfACrowdCostsNone) {
+  for (const auto pause : {0ms, 1ms, 5ms}) {
+    server_.serve("/picture", withBytesBehind("\n", pause));
+    EXPECT_EQ(picturesAtOnce(60), 60) << pause / 1ms;
+  }
+}
+
+TEST_F(TransferConnectionTest, ASecondAnswerIsNotTakenForTheNextOne) {
+  server_.serve("/picture", withBytesBehind(kSecondAnswer, 0ms));
+
+  EXPECT_EQ(picturesOneByOne(60), 60);
+}
+
+TEST_F(TransferConnectionTest, BytesInTheSamePacketCostNoPicture) {
+  for (const std::string& rest : {std::string("\n"), kSecondAnswer}) {
+    server_.serve("/picture", answers::longerThanItsLength(kPicture, rest));
+    EXPECT_EQ(picturesAtOnce(60), 60) << rest;
+  }
+}
+
+TEST_F(TransferConnectionTest, TheBodyOfAnAnswerThatHasNoneCostsNoPicture) {
+  server_.serve("/picture", answers::ok(kPicture));
+  server_.serve("/204", answers::under("HTTP/1.1 204 No Content", "HTTP/1.1 200 OK\r\n\r\n"));
+  CurlTransfer transfer;
+
+  for (int i = 0; i < 10; ++i) {
+    EXPECT_TRUE(fetched(transfer, server_.address("/204")).isResponse(204, ""));
+    EXPECT_TRUE(fetched(transfer, server_.address("/picture")).isResponse(200, kPicture));
+  }
+}
+
+// Asked once more, a host that only talks nonsense is left alone.
+TEST_F(TransferConnectionTest, WhatIsNoAnswerIsAskedForOnceMoreAtMost) {
+  server_.serve("/picture", answers::ok(kPicture));
+  server_.serve("/nonsense", answers::noHttp());
+  CurlTransfer transfer;
+  fetched(transfer, server_.address("/picture"));
+
+  EXPECT_TRUE(fetched(transfer, server_.address("/nonsense")).isError());
+  EXPECT_EQ(server_.requestsFor("/nonsense"), 2U);
+}
+
+}  // namespace
+}  // namespace leafund
