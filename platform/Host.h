@@ -45,7 +45,8 @@ class Host {
   virtual void post(std::function<void()> step) = 0;
 
   // Fetches a whole body by GET. Calls the completion exactly once, on a thread of the host's own,
-  // and never inside this call. A breach of the session's policy is an error.
+  // and never inside this call; an error for want of that thread may come as a step of the main
+  // queue. A breach of the session's policy is an error.
   virtual void transfer(const NSURLRequest& request, CompletionHandler completion) = 0;
 
   // Pixels a point.

@@ -11,7 +11,23 @@ namespace {
 // read without an end; as much as its later versions take of one.
 constexpr std::size_t kMostHeadBytes = std::size_t{300} * 1024;
 
-constexpr std::string_view kBlanks = " \t\r\n";
+std::string_view trimmed(std::string_view text) {
+  constexpr std::string_view blanks = " \t\r\n";
+  text.remove_prefix(std::min(text.find_first_not_of(blanks), text.size()));
+  text.remove_suffix(text.size() - (text.find_last_not_of(blanks) + 1));
+  return text;
+}
+
+// What the line of a head says of the body's length.
+std::optional<std::string_view> lengthIn(std::string_view line) {
+  constexpr std::string_view name = "content-length:";
+  const auto isSame = [](char lower, char any) {
+    return any == lower || (any >= 'A' && any <= 'Z' && any - 'A' + 'a' == lower);
+  };
+  if (line.size() < name.size()) return std::nullopt;
+  if (!std::equal(name.begin(), name.end(), line.begin(), isSame)) return std::nullopt;
+  return trimmed(line.substr(name.size()));
+}
 
 }  // namespace
 
@@ -57,6 +73,7 @@ CurlHandle::~CurlHandle() {
 void CurlHandle::aim(const WebAddress& address, Connection connection) {
   body_.clear();
   headBytes_ = 0;
+  length_.reset();
   usesAKeptConnection_ = false;
   lastSign_ = Clock::now();
   curl_.easySetopt(handle_, CURLOPT_URL, address.text().c_str());
@@ -77,9 +94,7 @@ std::optional<std::string> CurlHandle::redirectLocation() const {
       curl_.easyHeader(handle_, "Location", 0, CURLH_HEADER, -1, &header) != CURLHE_OK) {
     return std::nullopt;
   }
-  std::string_view location = header->value;
-  location.remove_prefix(std::min(location.find_first_not_of(kBlanks), location.size()));
-  location.remove_suffix(location.size() - (location.find_last_not_of(kBlanks) + 1));
+  const std::string_view location = trimmed(header->value);
   if (location.empty()) return std::nullopt;
   return std::string(location);
 }
@@ -94,12 +109,21 @@ int CurlHandle::beforeRequest(void* handle, char*, char*, int therePort, int her
   return isGood ? CURL_PREREQFUNC_OK : CURL_PREREQFUNC_ABORT;
 }
 
+// A body that is said to have two lengths has none that can be trusted; libcurl takes the last one.
+bool CurlHandle::acceptsHeadLine(std::string_view line) {
+  headBytes_ += line.size();
+  const auto length = lengthIn(line);
+  if (length && length_.value_or(std::string(*length)) != *length) return false;
+  if (length) length_ = *length;
+  const bool isList = length && length->find(',') != std::string_view::npos;
+  return headBytes_ <= kMostHeadBytes && !isList;
+}
+
 // Less than was given ends the fetch, with an error.
-std::size_t CurlHandle::readHead(char*, std::size_t one, std::size_t count, void* handle) {
+std::size_t CurlHandle::readHead(char* bytes, std::size_t one, std::size_t count, void* handle) {
   auto& self = *static_cast<CurlHandle*>(handle);
   self.lastSign_ = Clock::now();
-  self.headBytes_ += one * count;
-  return self.headBytes_ <= kMostHeadBytes ? one * count : 0;
+  return self.acceptsHeadLine({bytes, one * count}) ? one * count : 0;
 }
 
 std::size_t CurlHandle::readBody(char* bytes, std::size_t one, std::size_t count, void* handle) {

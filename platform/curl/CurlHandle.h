@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 
 #include "platform/curl/Connections.h"
@@ -48,6 +49,7 @@ class CurlHandle {
 
  private:
   static int beforeRequest(void* handle, char* there, char* here, int therePort, int herePort);
+  bool acceptsHeadLine(std::string_view line);
   static std::size_t readHead(char* bytes, std::size_t one, std::size_t count, void* handle);
   static std::size_t readBody(char* bytes, std::size_t one, std::size_t count, void* handle);
 
@@ -58,6 +60,7 @@ class CurlHandle {
   curl_slist* headers_ = nullptr;
   std::string body_;
   std::size_t headBytes_ = 0;
+  std::optional<std::string> length_;  // as the head says it
   bool usesAKeptConnection_ = false;
   Clock::time_point lastSign_;
 };

@@ -30,18 +30,39 @@ void CurlSession::end() {
 
 void CurlSession::run() {
   pthread_setname_np(pthread_self(), "session");
-  const CurlLibrary library(libraryName_);
-  if (!library.failure().empty()) return refuseAll(library.failure());
-  curl_ = &library;
-  {
-    const std::lock_guard lock(mutex_);
-    multi_ = library.multiInit();
+  while (waitForFetches()) {
+    const CurlLibrary library(libraryName_);
+    curl_ = &library;
+    if (const std::string failure = openNetwork(); !failure.empty()) {
+      refuseAdded(failure);
+      continue;
+    }
+    while (beginAdded()) {
+      endReady();
+      library.multiPoll(multi_, nullptr, 0, endIdle(), nullptr);
+    }
+    return closeNetwork();
   }
-  while (beginAdded()) {
-    endReady();
-    library.multiPoll(multi_, nullptr, 0, endIdle(), nullptr);
+}
+
+bool CurlSession::waitForFetches() {
+  std::unique_lock lock(mutex_);
+  added_.wait(lock, [this] { return isEnding_ || !inbox_.empty(); });
+  return !isEnding_;
+}
+
+std::string CurlSession::openNetwork() {
+  if (!curl_->failure().empty()) return curl_->failure();
+  CURLM* const multi = curl_->multiInit();
+  if (multi == nullptr) return "no memory";
+  // Without descriptors of its own it could not be woken for what is added later, nor for the end.
+  if (curl_->multiWakeup(multi) != CURLM_OK) {
+    curl_->multiCleanup(multi);
+    return "no descriptors";
   }
-  closeNetwork();
+  const std::lock_guard lock(mutex_);
+  multi_ = multi;
+  return {};
 }
 
 void CurlSession::fail(Fetch& fetch, std::string reason) {
@@ -53,25 +74,21 @@ void CurlSession::wake() {
   added_.notify_one();
 }
 
-void CurlSession::refuseAll(const std::string& reason) {
-  std::unique_lock lock(mutex_);
-  while (!isEnding_) {
-    auto added = std::exchange(inbox_, {});
-    lock.unlock();
-    for (Fetch& fetch : added) fail(fetch, reason);
-    added.clear();
-    lock.lock();
-    added_.wait(lock, [this] { return isEnding_ || !inbox_.empty(); });
-  }
+bool CurlSession::takeAdded(std::vector<Fetch>& added) {
+  const std::lock_guard lock(mutex_);
+  if (!isEnding_) added.swap(inbox_);
+  return !isEnding_;
+}
+
+void CurlSession::refuseAdded(const std::string& reason) {
+  std::vector<Fetch> added;
+  takeAdded(added);
+  for (Fetch& fetch : added) fail(fetch, reason);
 }
 
 bool CurlSession::beginAdded() {
   std::vector<Fetch> added;
-  {
-    const std::lock_guard lock(mutex_);
-    if (isEnding_) return false;
-    added.swap(inbox_);
-  }
+  if (!takeAdded(added)) return false;
   for (Fetch& fetch : added) {
     fetch.address = WebAddress::read(*curl_, fetch.text);
     begin(std::move(fetch));

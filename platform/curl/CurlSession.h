@@ -49,9 +49,13 @@ class CurlSession {
 
   // Under the lock.
   void wake();
-  void refuseAll(const std::string& reason);
-  // False at the end, when what was added stays where it is.
+  // False at the end, when what was added stays where it is, to end on the main thread.
+  bool waitForFetches();
+  bool takeAdded(std::vector<Fetch>& added);
   bool beginAdded();
+  void refuseAdded(const std::string& reason);
+  // Why there is none; empty when it is open.
+  std::string openNetwork();
   void begin(Fetch fetch);
   void advance(Line& line);
   std::unique_ptr<CurlHandle> takeHandle();

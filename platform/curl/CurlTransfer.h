@@ -1,10 +1,11 @@
 #pragma once
 
+#include <pthread.h>
+
 #include <chrono>
 #include <cstddef>
 #include <memory>
 #include <string>
-#include <thread>
 
 #include "platform/Host.h"
 #include "platform/foundation/NSURLSession.h"
@@ -19,6 +20,9 @@ class CurlSession;
 // To be made and destroyed on the main thread. What is still under way is then given up, at once:
 // its completion is not called any more and is destroyed there, on the main thread, because it may
 // own screens. Nothing may be started by then.
+//
+// To be made before there are other threads: it takes SSLKEYLOGFILE out of the environment, where
+// libcurl would find a file to write the keys of encrypted connections to.
 class CurlTransfer {
  public:
   // Above zero, all of them.
@@ -38,7 +42,8 @@ class CurlTransfer {
   ~CurlTransfer();
 
   // Returns at once. The completion runs exactly once, on the thread of the fetches, and is
-  // destroyed there after it has run. With an error there is neither a body nor a response; else
+  // destroyed there after it has run; where no thread can be had, as a step of the current host's
+  // main queue. With an error there is neither a body nor a response; else
   // there are both, and the body may be empty. A status that tells of a failure is no error, a body
   // that does not arrive whole is one. On the main thread only. `url` is UTF-8.
   void start(std::string url, CompletionHandler completion);
@@ -47,7 +52,7 @@ class CurlTransfer {
   Limits limits_;
   std::string library_;
   std::unique_ptr<CurlSession> session_;  // Null until the first fetch.
-  std::thread thread_;
+  pthread_t thread_ = {};
 };
 
 }  // namespace leafund

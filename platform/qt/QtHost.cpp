@@ -77,6 +77,7 @@ int QtHost::run(UIApplication& application) {
 }
 
 void QtHost::start(UIApplication& application) {
+  transfer_ = std::make_unique<CurlTransfer>();  // before there are threads
   // On a phone-sized window the software renderer is on screen first and takes a third of the
   // memory that a software OpenGL needs; it is also the only one that every machine has.
   if (QQuickWindow::sceneGraphBackend() != QLatin1String("software")) {
@@ -131,7 +132,6 @@ void QtHost::post(std::function<void()> step) {
 }
 
 void QtHost::transfer(const NSURLRequest& request, CompletionHandler completion) {
-  if (!transfer_) transfer_ = std::make_unique<CurlTransfer>();
   transfer_->start(request.URL().absoluteString(), std::move(completion));
 }
 

@@ -83,6 +83,7 @@ const std::vector<Fault>& faults() {
     {"EndsWithTheConnection", [](At at) { return at.with(answers::okUntilClosed(picture())); }, Picture, Picture, Picture},
     {"LongerThanItsLength", [](At at) { return at.with(answers::longerThanItsLength(picture(), "junk")); }, Picture, Picture, Picture},
     {"TwoAnswersForOne", [](At at) { return at.with(answers::longerThanItsLength(picture(), "HTTP/1.1 200 OK\r\nContent-Length: 4\r\n\r\njunk")); }, Picture, Picture, Picture},
+    {"TwoLengths", [](At at) { return at.with(answers::withHeaders("Content-Length: 5\r\nContent-Length: 6\r\n", picture())); }, Kept, Kept, Kept},
     {"NegativeLength", [](At at) { return at.with(answers::withHeaders("Content-Length: -5\r\n", picture())); }, Kept, Kept, Kept},
     {"LengthInWords", [](At at) { return at.with(answers::withHeaders("Content-Length: many\r\n", picture())); }, Kept, Kept, Kept},
     {"LengthBeyondAllNumbers", [](At at) { return at.with(answers::withHeaders("Content-Length: 99999999999999999999\r\n", picture())); }, Kept, Kept, Kept},

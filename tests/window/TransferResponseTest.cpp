@@ -55,6 +55,25 @@ TEST_F(CurlTransferTest, ABodyThatIsCutIsAnErrorHoweverOftenItIsTried) {
   }
 }
 
+TEST_F(CurlTransferTest, TwoDifferentLengthsAreAnErrorAndTheSameOneTwiceIsNot) {
+  const auto said = [this](const std::string& headers) {
+    return answered(answers::withHeaders(headers, "bytes"));
+  };
+
+  EXPECT_TRUE(said("Content-Length: 5\r\nContent-Length: 5\r\n").isResponse(200, "bytes"));
+  for (const char* headers :
+       {"Content-Length: 5\r\nContent-Length: 4\r\n", "Content-Length: 4\r\nCONTENT-LENGTH:5\r\n",
+        "Content-Length: 5\r\nX: y\r\nContent-Length: 500\r\n", "Content-Length: 5, 4\r\n"}) {
+    EXPECT_TRUE(said(headers).isError()) << headers;
+  }
+}
+
+TEST_F(CurlTransferTest, TheLengthOfARedirectIsForgotten) {
+  server_.serve("/there", answers::ok("there at last"));
+
+  EXPECT_TRUE(answered(answers::redirect("/there")).isResponse(200, "there at last"));
+}
+
 TEST_F(CurlTransferTest, AnAnswerThatOnlySwitchesProtocolsIsAnError) {
   const auto switching = "HTTP/1.1 101 Switching Protocols\r\nUpgrade: x\r\n\r\nbytes";
 

@@ -1,0 +1,101 @@
+#include <sys/resource.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <fstream>
+
+#include "tests/support/ProbeHost.h"
+#include "tests/window/TransferFixture.h"
+
+namespace leafund {
+namespace {
+
+// A limit of the process, lowered for as long as this lives.
+class Lowered {
+ public:
+  Lowered(decltype(RLIMIT_AS) which, rlim_t most) : which_(which) {
+    getrlimit(which_, &before_);
+    const rlimit lowered{most, before_.rlim_max};
+    setrlimit(which_, &lowered);
+  }
+  Lowered(const Lowered&) = delete;
+  Lowered& operator=(const Lowered&) = delete;
+  ~Lowered() { setrlimit(which_, &before_); }
+
+ private:
+  decltype(RLIMIT_AS) which_;
+  rlimit before_{};
+};
+
+rlim_t addressSpaceInUse() {
+  rlim_t pages = 0;
+  std::ifstream("/proc/self/statm") >> pages;
+  return pages * static_cast<rlim_t>(sysconf(_SC_PAGESIZE));
+}
+
+// The lowest descriptor that is free.
+rlim_t descriptorsInUse() {
+  const int free = dup(0);
+  close(free);
+  return static_cast<rlim_t>(free);
+}
+
+// What the machine may be short of when the first fetch is made.
+class TransferShortageTest : public CurlTransferTest {
+ protected:
+  ProbeHost host_;
+};
+
+TEST_F(TransferShortageTest, WithoutAThreadTheFetchIsAnErrorOnTheMainQueueAndTheNextOneTriesAgain) {
+  server_.serve("/picture", answers::ok("bytes"));
+  CurlTransfer transfer;
+  std::future<Outcome> first;
+  {
+    // A thread takes a stack of some megabytes.
+    const Lowered space(RLIMIT_AS, addressSpaceInUse() + (1U << 20U));
+    first = started(transfer, server_.address("/picture"));
+  }
+
+  EXPECT_EQ(first.wait_for(0s), std::future_status::timeout);
+  ASSERT_EQ(host_.steps.size(), 1U);
+  host_.steps[0]();
+  EXPECT_TRUE(outcomeOf(std::move(first)).isError());
+  EXPECT_TRUE(fetched(transfer, server_.address("/picture")).isResponse(200, "bytes"));
+}
+
+TEST_F(TransferShortageTest, WithoutADescriptorTheFetchIsAnErrorAndTheNextOneTriesAgain) {
+  server_.serve("/picture", answers::ok("bytes"));
+  CurlTransfer transfer;
+  for (rlim_t spare = 0; spare < 4; ++spare) {
+    const Lowered descriptors(RLIMIT_NOFILE, descriptorsInUse() + spare);
+    EXPECT_TRUE(fetched(transfer, "http://127.0.0.1:1/").isError()) << spare;
+  }
+
+  EXPECT_TRUE(fetched(transfer, server_.address("/picture")).isResponse(200, "bytes"));
+}
+
+TEST_F(TransferShortageTest, TheEndIsAtOnceThoughThereWasNoDescriptor) {
+  const auto start = std::chrono::steady_clock::now();
+  {
+    CurlTransfer transfer;
+    const Lowered descriptors(RLIMIT_NOFILE, descriptorsInUse());
+    EXPECT_TRUE(fetched(transfer, "http://127.0.0.1:1/").isError());
+  }
+  EXPECT_LT(std::chrono::steady_clock::now() - start, 10s);
+}
+
+TEST_F(TransferShortageTest, NoKeysAreLoggedWhateverTheEnvironmentSays) {
+  const auto log =
+      std::filesystem::temp_directory_path() / ("leafund-keys-" + std::to_string(getpid()));
+  setenv("SSLKEYLOGFILE", log.c_str(), 1);
+  const PictureServer secret(PictureServer::Speaks::Tls);
+  CurlTransfer transfer;
+
+  EXPECT_TRUE(fetched(transfer, secret.address("/picture")).isError());
+
+  EXPECT_FALSE(std::filesystem::exists(log));
+  std::filesystem::remove(log);
+}
+
+}  // namespace
+}  // namespace leafund
