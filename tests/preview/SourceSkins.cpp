@@ -1,6 +1,7 @@
 #include "tests/preview/SourceSkins.h"
 
 #include <QFileInfo>
+#include <QUrl>
 
 namespace leafund {
 
