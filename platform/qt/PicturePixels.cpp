@@ -53,10 +53,12 @@ QSize ownPixels(const UIImage& image) {
 // The format is named and not guessed by the reader, whose plug-ins may know formats that read
 // other files.
 QImage decoded(const std::string& body, PictureHeader::Format format, QSize size) {
-  // A damaged picture is passed over without a word, and its decoder would warn of it.
-  static std::once_flag silenced;
-  std::call_once(silenced, [] {
+  static std::once_flag prepared;
+  std::call_once(prepared, [] {
+    // A damaged picture is passed over without a word, and its decoder would warn of it.
     QLoggingCategory::setFilterRules(QStringLiteral("qt.gui.imageio*.warning=false"));
+    // The header was held to this already; Qt's own limit depends on its version.
+    QImageReader::setAllocationLimit(128);  // MB
   });
   const std::string_view sound =
       format == PictureHeader::Format::PNG ? pngWholeChunks(body) : std::string_view(body);
