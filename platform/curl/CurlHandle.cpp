@@ -7,9 +7,21 @@ namespace leafund {
 
 namespace {
 
-// Of all the heads of an answer together, interim ones and trailers included, which libcurl would
-// read without an end; as much as its later versions take of one.
+// Of all the heads of an answer together, interim ones and trailers included. Versions of libcurl
+// differ: older ones read without an end, newer ones stop at 300 KB or 5,000 fields. These count
+// every line and are met first, so that all versions do the same.
 constexpr std::size_t kMostHeadBytes = std::size_t{300} * 1024;
+constexpr int kMostHeadLines = 5000;
+
+// The number has three digits (RFC 9112, 4). Of a longer one some versions of libcurl read the first
+// three, and others refuse it.
+bool isStatusLine(std::string_view line) {
+  const auto isDigit = [line](std::size_t at) {
+    return at < line.size() && line[at] >= '0' && line[at] <= '9';
+  };
+  return line.starts_with("HTTP/1.") && isDigit(7) && line.substr(8, 1) == " " && isDigit(9) &&
+         isDigit(10) && isDigit(11) && !isDigit(12);
+}
 
 std::string_view trimmed(std::string_view text) {
   constexpr std::string_view blanks = " \t\r\n";
@@ -73,6 +85,7 @@ CurlHandle::~CurlHandle() {
 void CurlHandle::aim(const WebAddress& address, Connection connection) {
   body_.clear();
   headBytes_ = 0;
+  headLines_ = 0;
   length_.reset();
   usesAKeptConnection_ = false;
   lastSign_ = Clock::now();
@@ -112,11 +125,13 @@ int CurlHandle::beforeRequest(void* handle, char*, char*, int therePort, int her
 // A body that is said to have two lengths has none that can be trusted; libcurl takes the last one.
 bool CurlHandle::acceptsHeadLine(std::string_view line) {
   headBytes_ += line.size();
+  ++headLines_;
+  if (headBytes_ > kMostHeadBytes || headLines_ > kMostHeadLines) return false;
+  if (line.starts_with("HTTP/") && !isStatusLine(line)) return false;
   const auto length = lengthIn(line);
   if (length && length_.value_or(std::string(*length)) != *length) return false;
   if (length) length_ = *length;
-  const bool isList = length && length->find(',') != std::string_view::npos;
-  return headBytes_ <= kMostHeadBytes && !isList;
+  return !length || length->find(',') == std::string_view::npos;  // a list of lengths
 }
 
 // Less than was given ends the fetch, with an error.

@@ -60,6 +60,7 @@ class CurlHandle {
   curl_slist* headers_ = nullptr;
   std::string body_;
   std::size_t headBytes_ = 0;
+  int headLines_ = 0;
   std::optional<std::string> length_;  // as the head says it
   bool usesAKeptConnection_ = false;
   Clock::time_point lastSign_;
