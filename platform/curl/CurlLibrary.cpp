@@ -19,6 +19,7 @@ CurlLibrary::CurlLibrary(const std::string& fileName) {
   resolve(library, slistAppend, "curl_slist_append");
   resolve(library, slistFreeAll, "curl_slist_free_all");
   resolve(library, multiInit, "curl_multi_init");
+  resolve(library, multiSetopt, "curl_multi_setopt");
   resolve(library, multiAddHandle, "curl_multi_add_handle");
   resolve(library, multiRemoveHandle, "curl_multi_remove_handle");
   resolve(library, multiPerform, "curl_multi_perform");

@@ -27,6 +27,7 @@ class CurlLibrary {
   decltype(&curl_slist_append) slistAppend = nullptr;
   decltype(&curl_slist_free_all) slistFreeAll = nullptr;
   decltype(&curl_multi_init) multiInit = nullptr;
+  decltype(&curl_multi_setopt) multiSetopt = nullptr;
   decltype(&curl_multi_add_handle) multiAddHandle = nullptr;
   decltype(&curl_multi_remove_handle) multiRemoveHandle = nullptr;
   decltype(&curl_multi_perform) multiPerform = nullptr;
