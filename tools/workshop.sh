@@ -1,6 +1,9 @@
 # shellcheck shell=bash
 # What the commands that build, serve or start something share. Sourced by bash, from the top of the tree.
 
+# Without a locale Qt 6.8 warns of one that is not UTF-8, and any warning fails a test.
+[[ $(locale charmap 2>/dev/null) == UTF-8 ]] || export LC_ALL=C.UTF-8
+
 say() { printf '%s\n' "$*"; }
 fail() { printf '%s: %s\n' "${0##*/}" "$*" >&2; exit 1; }
 
