@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -43,6 +44,7 @@ struct Action {
   Ending ending = Ending::Picture;
   double width = 0, height = 0;  // of the window in points, or of the picture in pixels
   double offset = 0;             // points
+  std::uint64_t how = 0;         // drawn: how the user of a window goes about it
 
   bool operator==(const Action&) const = default;
 };

@@ -44,6 +44,12 @@ Action typeInto(std::string view, std::string text) {
 }
 
 Action ActionGenerator::next(const ReferenceApp& app) {
+  Action action = chooseOrHead(app);
+  action.how = how_.draw();
+  return action;
+}
+
+Action ActionGenerator::chooseOrHead(const ReferenceApp& app) {
   if (doomed() && chance_.percent(60)) return head(app);
   if (calm_ > 0) --calm_;
   for (;;) {

@@ -16,12 +16,13 @@ enum class Fate { Live, JunkInARow, BadAddress };
 class ActionGenerator {
  public:
   ActionGenerator(std::uint64_t seed, Fate fate, std::size_t calm)
-      : chance_(seed), fate_(fate), calm_(calm) {}
+      : chance_(seed), how_(seed ^ kOtherLot), fate_(fate), calm_(calm) {}
 
   Action next(const ReferenceApp& app);
 
  private:
   bool doomed() const { return fate_ != Fate::Live && calm_ == 0; }
+  Action chooseOrHead(const ReferenceApp& app);
   Action choose(const ReferenceApp& app);
   Action chooseTransfer(const ReferenceApp& app);
   Action chooseRare(const ReferenceApp& app);
@@ -43,7 +44,10 @@ class ActionGenerator {
   Action headForJunk(const ReferenceApp& app);
   Action headForBadAddress(const ReferenceApp& app) const;
 
-  Chance chance_;
+  // Drawn apart, so that a seed means the same with a window and without.
+  static constexpr std::uint64_t kOtherLot = 0x5DEECE66D;
+
+  Chance chance_, how_;
   Fate fate_;
   std::size_t calm_;
 };

@@ -200,7 +200,7 @@ void AppUnderTest::describe(Sheet& sheet) {
       describeContent(*tab->viewIfLoaded(), nullptr, sheet);
     }
   }
-  for (std::size_t at = 0; at < host_.open(); ++at) sheet.note("transfer", host_.address(at));
+  for (std::size_t at = 0; at < host_->open(); ++at) sheet.note("transfer", host_->address(at));
   sheet.note("redrawings", drawingContextCount());
   sheet.note("screens alive", screensAlive());
   if (!emailAnswer_.empty()) sheet.note("email rule", emailAnswer_);

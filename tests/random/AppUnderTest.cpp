@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "model/Catalogue.h"
 #include "platform/uikit/UILabel.h"
@@ -38,10 +39,11 @@ std::string junk(long number) {
 
 }  // namespace
 
-AppUnderTest::AppUnderTest(double width, double height) {
-  application_ = std::make_shared<UIApplication>(host_, mainStoryboard(), delegate_);
+AppUnderTest::AppUnderTest(double width, double height, std::unique_ptr<PromptHost> host)
+    : host_(std::move(host)) {
+  application_ = std::make_shared<UIApplication>(*host_, mainStoryboard(), delegate_);
   application_->resize({width, height});
-  host_.run(*application_);
+  host_->run(*application_);
 }
 
 AppUnderTest::~AppUnderTest() { end(); }
@@ -50,7 +52,7 @@ std::size_t AppUnderTest::end() {
   held_.reset();
   application_.reset();
   delegate_->setWindow(nullptr);
-  host_.forget();
+  host_->forget();
   return screensAlive();
 }
 
@@ -102,14 +104,14 @@ void AppUnderTest::perform(const Action& action) {
       return application_->goBack();
     case ActionKind::Answer:
     case ActionKind::AnswerLater:
-      if (host_.open() == 0) return;
-      endTransfer(static_cast<std::size_t>(action.number) % host_.open(), action, action.width);
-      if (action.kind == ActionKind::Answer) host_.drain();
+      if (host_->open() == 0) return;
+      endTransfer(static_cast<std::size_t>(action.number) % host_->open(), action, action.width);
+      if (action.kind == ActionKind::Answer) host_->drain();
       return;
     case ActionKind::AnswerAll:
       return answerAll(action);
     case ActionKind::DrainMainQueue:
-      return host_.drain();
+      return host_->drain();
     case ActionKind::TellApplication:
       return tell(action.number);
     case ActionKind::AskEmailRule:
@@ -161,14 +163,14 @@ void AppUnderTest::endTransfer(std::size_t at, const Action& action, double widt
             ? junk(action.number)
             : pictureBody(static_cast<unsigned>(width), static_cast<unsigned>(action.height)));
   };
-  host_.end(at, body(), action.ending == Ending::Error || action.ending == Ending::BodyAndError);
+  host_->end(at, body(), action.ending == Ending::Error || action.ending == Ending::BodyAndError);
 }
 
 void AppUnderTest::answerAll(const Action& action) {
   double width = action.width;
-  while (host_.open() > 0) {
-    endTransfer(action.number % 2 == 0 ? 0 : host_.open() - 1, action, width++);
-    host_.drain();
+  while (host_->open() > 0) {
+    endTransfer(action.number % 2 == 0 ? 0 : host_->open() - 1, action, width++);
+    host_->drain();
   }
 }
 

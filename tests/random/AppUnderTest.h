@@ -21,8 +21,9 @@ namespace leafund::random {
 // The application itself, made to do the same actions as the reference and to tell the same facts.
 class AppUnderTest {
  public:
-  AppUnderTest(double width, double height);
-  ~AppUnderTest();
+  AppUnderTest(double width, double height,
+               std::unique_ptr<PromptHost> host = std::make_unique<PromptHost>());
+  virtual ~AppUnderTest();
 
   void perform(const Action& action);
   void describe(Sheet& sheet);
@@ -32,10 +33,14 @@ class AppUnderTest {
   // Everything is let go, transfers under way included; answers how many screens outlive that.
   std::size_t end();
 
+  UIApplication& application() { return *application_; }
+  PromptHost& host() { return *host_; }
+  // The selected tab's, or null.
+  std::shared_ptr<UITableView> table() const;
+
  private:
   std::shared_ptr<UIView> find(const std::string& name) const;
   std::shared_ptr<UITextInput> input(const std::string& name) const;
-  std::shared_ptr<UITableView> table() const;
   std::shared_ptr<UIView> row(long number) const;
   void tapBoth(const Action& action);
   void performOnHeld(const Action& action);
@@ -45,7 +50,7 @@ class AppUnderTest {
   void askEmailRule(const std::string& text);
   std::size_t screensAlive();
 
-  PromptHost host_;
+  std::unique_ptr<PromptHost> host_;
   std::shared_ptr<AppDelegate> delegate_ = std::make_shared<AppDelegate>();
   std::shared_ptr<UIApplication> application_;
   std::shared_ptr<UIView> held_;

@@ -12,7 +12,7 @@ namespace leafund::random {
 // A host without a window that needs no threads: a transfer ends on the thread that asks it to,
 // because starting a thread an answer (some 60 microseconds) would be most of a long run. What a
 // host owes its application apart from that, it keeps.
-class PromptHost final : public Host {
+class PromptHost : public Host {
  public:
   PromptHost() { setCurrentHost(this); }
   ~PromptHost() override { setCurrentHost(nullptr); }
@@ -28,9 +28,12 @@ class PromptHost final : public Host {
   const std::string& address(std::size_t at) const { return transfers_[at].address; }
   // A null body or an error, or both of them at once.
   void end(std::size_t at, NSData body, bool error);
-  void drain();
+  virtual void drain();
   // Whatever is under way is forgotten, as when the process ends.
   void forget();
+
+ protected:
+  std::deque<std::function<void()>> steps_;
 
  private:
   struct Transfer {
@@ -38,7 +41,6 @@ class PromptHost final : public Host {
     CompletionHandler completion;
   };
   UIApplication* application_ = nullptr;
-  std::deque<std::function<void()>> steps_;
   std::deque<Transfer> transfers_;
   std::size_t answers_ = 0;
 };

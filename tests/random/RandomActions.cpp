@@ -29,8 +29,8 @@ std::uint64_t numberAfter(int& at, int argc, char** argv) {
   return number;
 }
 
-Call callFrom(int argc, char** argv) {
-  Call call;
+Call callFrom(const Order& defaults, int argc, char** argv) {
+  Call call{.order = defaults, .replay = {}};
   call.order.jobs = std::max(1U, std::thread::hardware_concurrency());
   for (int at = 1; at < argc; ++at) {
     const std::string_view option = argv[at];
@@ -89,6 +89,7 @@ int run(const Call& call) {
   if (call.replay) {
     Plan plan = Plan::ofSeed(*call.replay, call.order.fatalPercent, call.order.most);
     plan.twist = call.order.twist;
+    plan.play = call.order.play;
     if (runSequence(plan, wording).verdict == Verdict::Diverged) return tellFailure(plan, wording);
     std::cout << "seed " << *call.replay << " does not diverge" << std::endl;
     return 0;
@@ -102,13 +103,14 @@ int run(const Call& call) {
 }
 
 }  // namespace
-}  // namespace leafund::random
 
-int main(int argc, char** argv) {
+int runRandomActions(const Order& defaults, int argc, char** argv) {
   try {
-    return leafund::random::run(leafund::random::callFrom(argc, argv));
+    return run(callFrom(defaults, argc, argv));
   } catch (const std::exception& error) {
-    std::cerr << "random_actions: " << error.what() << '\n';
+    std::cerr << argv[0] << ": " << error.what() << '\n';
     return 2;
   }
 }
+
+}  // namespace leafund::random

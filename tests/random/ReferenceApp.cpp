@@ -76,7 +76,7 @@ void ReferenceApp::perform(const Action& action) {
       answerAll(action);
       break;
     case ActionKind::DrainMainQueue:
-      drain();
+      drain(action.number == 0);
       break;
     case ActionKind::TellApplication:
       break;  // the background, coming back and memory warnings change nothing

@@ -138,7 +138,8 @@ class ReferenceApp {
   void fetch(Transfer transfer);
   void end(std::size_t position, const Action& action, double width);
   void answerAll(const Action& action);
-  void drain();
+  // All steps that wait, or the first of them.
+  void drain(bool all = true);
   void apply(const Step& step);
 
   PledgeRef seed(const char* title, std::string creator, float goal, float raised, long day,

@@ -37,11 +37,12 @@ void ReferenceApp::answerAll(const Action& action) {
   }
 }
 
-void ReferenceApp::drain() {
+void ReferenceApp::drain(bool all) {
   while (!steps_.empty()) {
     const Step step = std::move(steps_.front());
     steps_.pop_front();
     if (step.applies) apply(step);
+    if (!all) return;
   }
 }
 

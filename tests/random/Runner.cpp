@@ -80,6 +80,7 @@ std::optional<Plan> runSequences(const Order& order, const FreeWording& wording,
     Plan plan = Plan::ofSeed(totals.nextSeed++, order.fatalPercent, order.most);
     plan.twist = order.twist;
     plan.tamperAt = order.tamperAt;
+    plan.play = order.play;
     lane.start(plan, wording);
   };
   for (auto& lane : lanes) goOn(lane);

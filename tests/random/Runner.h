@@ -46,6 +46,7 @@ struct Order {
   std::size_t fatalPercent = 20, most = 1500, jobs = 1;
   Twist twist = Twist::None;
   std::optional<std::size_t> tamperAt = {};
+  Play play = playWithoutWindow;
 };
 
 // Runs sequences until there were that many actions, or one diverged, which is then answered.
@@ -53,5 +54,9 @@ std::optional<Plan> runSequences(const Order& order, const FreeWording& wording,
 
 // Has what the forked processes would each make anew made once beforehand; not the catalogue.
 void warmUp();
+
+// The command: runs or replays what the arguments say. Answers 0 when application and reference
+// never differed, 1 and the shortest script found when they did, and 2 when called wrongly.
+int runRandomActions(const Order& defaults, int argc, char** argv);
 
 }  // namespace leafund::random

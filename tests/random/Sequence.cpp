@@ -31,11 +31,6 @@ std::size_t keep(std::array<char, Size>& place, std::string_view text) {
   return length;
 }
 
-void tell(Report& report, std::string_view text) {
-  report.verdict = Verdict::Diverged;
-  report.toldLength = keep(report.told, text);
-}
-
 // What must be known when the application stops the process in the middle of an action.
 struct {
   Report* report = nullptr;
@@ -56,8 +51,7 @@ class Sequence {
         reference_(wording, kWidth, kHeight, plan.twist),
         app_(kWidth, kHeight),
         generator_(plan.seed, plan.fate, plan.calm()) {
-    atTheStop = {&report_, &printed_, &reference_};
-    signal(SIGABRT, rememberPrinted);
+    watchForStop(report_, printed_, reference_);
   }
 
   void run() {
@@ -80,17 +74,11 @@ class Sequence {
   }
 
   bool act(const Action& action) {
-    ++report_.actions;
-    ++report_.kinds[static_cast<std::size_t>(action.kind)];
-    const auto top = reference_.top().scene, shown = reference_.shown().scene;
-    ++report_.scenes[static_cast<std::size_t>(top)];
-    if (shown != top) ++report_.scenes[static_cast<std::size_t>(shown)];
+    count(report_, action, reference_);
     try {
       reference_.perform(action);
     } catch (const Stopped& stopped) {
-      report_.stopExpected = true;
-      report_.stopLength =
-          keep(report_.stop, "Leafund stopped: " + stopped.place + ": " + stopped.reason + "\n");
+      expectStop(report_, stopped);
     }
     app_.perform(action);
     if (report_.stopExpected) tell(report_, "  the application goes on\n");
@@ -115,6 +103,67 @@ class Sequence {
 
 }  // namespace
 
+void keep(Report& report, const Action& action) {
+  if (report.keptLength == report.kept.size()) return;
+  auto& kept = report.kept[report.keptLength++];
+  kept = {.kind = action.kind,
+          .ending = action.ending,
+          .name = {},
+          .text = {},
+          .number = action.number,
+          .width = action.width,
+          .height = action.height,
+          .offset = action.offset,
+          .how = action.how};
+  std::string_view(action.name).copy(kept.name.data(), kept.name.size() - 1);
+  std::string_view(action.text).copy(kept.text.data(), kept.text.size() - 1);
+}
+
+Script keptScript(const Report& report) {
+  Script script;
+  for (std::size_t at = 0; at < report.keptLength; ++at) {
+    const auto& kept = report.kept[at];
+    script.push_back({.kind = kept.kind,
+                      .name = kept.name.data(),
+                      .text = kept.text.data(),
+                      .number = kept.number,
+                      .ending = kept.ending,
+                      .width = kept.width,
+                      .height = kept.height,
+                      .offset = kept.offset,
+                      .how = kept.how});
+  }
+  return script;
+}
+
+void tell(Report& report, std::string_view text) {
+  report.verdict = Verdict::Diverged;
+  report.toldLength = keep(report.told, text);
+}
+
+void count(Report& report, const Action& action, const ReferenceApp& reference) {
+  ++report.actions;
+  ++report.kinds[static_cast<std::size_t>(action.kind)];
+  const auto top = reference.top().scene, shown = reference.shown().scene;
+  ++report.scenes[static_cast<std::size_t>(top)];
+  if (shown != top) ++report.scenes[static_cast<std::size_t>(shown)];
+}
+
+void expectStop(Report& report, const Stopped& stopped) {
+  report.stopExpected = true;
+  report.stopLength =
+      keep(report.stop, "Leafund stopped: " + stopped.place + ": " + stopped.reason + "\n");
+}
+
+void watchForStop(Report& report, PrintedText& printed, const ReferenceApp& reference) {
+  atTheStop = {&report, &printed, &reference};
+  signal(SIGABRT, rememberPrinted);
+}
+
+void playWithoutWindow(const Plan& plan, const FreeWording& wording, Report& report) {
+  Sequence(plan, wording, report).run();
+}
+
 Plan Plan::ofSeed(std::uint64_t seed, std::size_t fatalPercent, std::size_t most) {
   Chance chance(~seed);
   Plan plan{.seed = seed};
@@ -126,12 +175,12 @@ Plan Plan::ofSeed(std::uint64_t seed, std::size_t fatalPercent, std::size_t most
 }
 
 pid_t startSequence(const Plan& plan, const FreeWording& wording, Report& report, int errors) {
-  report = {};
+  std::memset(&report, 0, sizeof report);
   const pid_t process = fork();
   if (process != 0) return process;
   dup2(errors, STDERR_FILENO);
   alarm(kMostSeconds);
-  Sequence(plan, wording, report).run();
+  plan.play(plan, wording, report);
 #if defined(__SANITIZE_ADDRESS__)
   __lsan_do_leak_check();
 #endif

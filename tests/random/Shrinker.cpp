@@ -54,13 +54,17 @@ Script shrink(Script script, const std::function<bool(const Script&)>& fails) {
 ShrunkFailure shrinkFailure(const Plan& plan, const FreeWording& wording) {
   const Report first = runSequence(plan, wording);
   Plan shorter = plan;
+  ShrunkFailure failure{.script = {}, .told = toldBy(first)};
   const auto fails = [&](const Script& script) {
     shorter.script = script;
-    return runSequence(shorter, wording).verdict == Verdict::Diverged;
+    const Report report = runSequence(shorter, wording);
+    if (report.verdict != Verdict::Diverged) return false;
+    failure.told = toldBy(report);
+    return true;
   };
-  auto script = shrink(scriptOf(plan, wording, first.actions), fails);
-  shorter.script = script;
-  return {std::move(script), toldBy(runSequence(shorter, wording))};
+  failure.script = shrink(
+      first.keptLength > 0 ? keptScript(first) : scriptOf(plan, wording, first.actions), fails);
+  return failure;
 }
 
 }  // namespace leafund::random

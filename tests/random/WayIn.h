@@ -1,0 +1,34 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+
+#include "platform/graphics/Geometry.h"
+#include "platform/uikit/UIView.h"
+#include "tests/random/Action.h"
+
+namespace leafund::random {
+
+// A user event as it reaches the application, before it is taken up.
+struct UserEvent {
+  ActionKind kind = ActionKind::Tap;
+  std::shared_ptr<UIView> view = {};  // null where the event has none, or where its view is gone
+  std::string text = {};
+  double offset = 0;
+  CGSize size = {};
+};
+
+class WayInListener {
+ public:
+  virtual ~WayInListener() = default;
+  virtual void arrives(const UserEvent& event) = 0;
+  // The application has come to rest again.
+  virtual void turnIsOver() = 0;
+};
+
+// Who hears of every call that a host makes of the application's user events. The calls are wrapped
+// by the linker (--wrap, in CMakeLists.txt), so that the application needs no hook for tests. None
+// where `listener` is null.
+void listenAtTheWayIn(WayInListener* listener);
+
+}  // namespace leafund::random

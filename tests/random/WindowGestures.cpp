@@ -1,0 +1,81 @@
+#include <algorithm>
+
+#include "tests/random/WindowUser.h"
+
+// What the user of a window does besides tapping and typing.
+namespace leafund::random {
+
+void WindowUser::scroll(const Action& action, Chance& how) {
+  const auto& list = reference_.shown().table;
+  if (!list) return;
+  const double before = list->offset;
+  const bool down = action.offset > before;
+  const QPointF middle(app_.window().width() / 2.0, reference_.top().y + list->height / 2);
+  const bool slides = app_.page() == nullptr || app_.page()->x() != 0;
+  const auto by = how.below(5);
+  if (by == 0) {
+    const auto key = how.percent(50) ? (down ? Qt::Key_PageDown : Qt::Key_PageUp)
+                                     : (down ? Qt::Key_Down : Qt::Key_Up);
+    for (auto count = how.between(1, 4); count > 0; --count) {
+      hand_.keyClick(key);
+      hand_.frames(static_cast<int>(how.between(0, 3)), how);
+    }
+  } else if (by < 3) {
+    for (auto count = how.between(1, 9); count > 0; --count) {
+      hand_.wheel(middle, down ? -1 : 1);
+      hand_.frames(static_cast<int>(how.between(0, 3)), how);
+    }
+    const bool room = down ? before < list->greatestOffset() - 1 : before > 1;
+    if (!room || slides || how.percent(60)) return;
+    hand_.rest();
+    const double moved = reference_.shown().table->offset - before;
+    if (moved == 0 || (moved > 0) != down) complain("the wheel moved no list");
+  } else {
+    const double way = (down ? -1 : 1) * static_cast<double>(how.between(20, 300));
+    drag(middle, middle + QPointF(0, std::clamp(way, 60 - middle.y(), middle.y())), how);
+  }
+}
+
+void WindowUser::drag(QPointF from, QPointF to, Chance& how) {
+  const auto place = placeAt(from);
+  const bool byTouch = how.percent(70);
+  const auto steps = how.between(3, 12);
+  const bool fling = how.percent(50);
+  hand_.press(from, byTouch);
+  for (long step = 1; step <= steps; ++step) {
+    hand_.move(from + (to - from) * static_cast<double>(step) / static_cast<double>(steps),
+               byTouch);
+    if (!fling || step % 3 == 0) hand_.frames(1, how);
+  }
+  hand_.release(to, byTouch);
+  // From the left edge it leads back, if it goes far enough.
+  const auto taps = takeTaps();
+  if (from.x() < 30 && to.x() > from.x() && taps == Taps{"back"}) return;
+  judge(taps, place, true, "a drag");
+}
+
+void WindowUser::goBack(Chance& how) {
+  const auto way = how.below(6);
+  if (way == 0) {
+    return drag({static_cast<double>(how.between(0, 20)), 300},
+                {static_cast<double>(how.between(60, 250)), 310}, how);
+  }
+  if (way < 3) return tapItem(itemOf("backButton"), how);
+  pressKeys(Qt::Key_Escape, how.percent(80) ? 1 : 2, how.percent(20) ? 4 : 0, how);
+}
+
+void WindowUser::resize(const Action& action, Chance& how) {
+  const QSize size(static_cast<int>(action.width), static_cast<int>(action.height));
+  app_.window().resize(size.boundedTo({1100, 1400}).expandedTo(app_.window().minimumSize()));
+  if (how.percent(30)) hand_.frames(1, how);
+}
+
+void WindowUser::hideAndShow(Chance& how) {
+  app_.window().hide();
+  hand_.frames(static_cast<int>(how.between(0, 5)), how);
+  app_.window().show();
+  app_.window().requestActivate();
+  QCoreApplication::processEvents();
+}
+
+}  // namespace leafund::random

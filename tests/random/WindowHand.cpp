@@ -1,0 +1,148 @@
+#include "tests/random/WindowHand.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QInputMethodEvent>
+#include <QTest>
+#include <QWheelEvent>
+#include <algorithm>
+
+namespace leafund::random {
+
+namespace {
+
+constexpr int kFrame = 16;        // milliseconds
+constexpr int kMostFrames = 400;  // until rest: a fling takes 2 to 3 seconds
+constexpr int kLookAhead = 60;    // real milliseconds, after which the host prepares what may come
+
+bool isPrintable(const QString& text) {
+  return std::all_of(text.begin(), text.end(), [](QChar each) { return each.isPrint(); });
+}
+
+}  // namespace
+
+void FrameClock::start() {
+  sinceStart_ = 0;
+  QAnimationDriver::start();
+}
+
+void FrameClock::pass(int milliseconds) {
+  now_ += milliseconds;
+  sinceStart_ += milliseconds;
+  if (isRunning()) advanceAnimation();
+}
+
+void WindowHand::pointer(QEvent::Type type, QPointF where, Qt::MouseButtons buttons,
+                         Qt::MouseButton button) {
+  qt_handleMouseEvent(&window_, where, window_.mapToGlobal(where), buttons, button, type, {},
+                      clock_.now());
+}
+
+void WindowHand::press(QPointF where, bool byTouch) {
+  if (!byTouch) {
+    pointer(QEvent::MouseMove, where, Qt::NoButton, Qt::NoButton);
+    return pointer(QEvent::MouseButtonPress, where, Qt::LeftButton, Qt::LeftButton);
+  }
+  if (!finger_) finger_.reset(QTest::createTouchDevice());
+  QTest::touchEvent(&window_, finger_.get(), false).press(0, where.toPoint()).commit(false);
+}
+
+void WindowHand::move(QPointF where, bool byTouch) {
+  if (!byTouch) return pointer(QEvent::MouseMove, where, Qt::LeftButton, Qt::NoButton);
+  QTest::touchEvent(&window_, finger_.get(), false).move(0, where.toPoint()).commit(false);
+}
+
+void WindowHand::release(QPointF where, bool byTouch) {
+  if (!byTouch) return pointer(QEvent::MouseButtonRelease, where, Qt::NoButton, Qt::LeftButton);
+  QTest::touchEvent(&window_, finger_.get(), false).release(0, where.toPoint()).commit(false);
+}
+
+void WindowHand::wheel(QPointF where, int notches) {
+  QWheelEvent event(where, window_.mapToGlobal(where), {}, {0, 120 * notches}, Qt::NoButton, {},
+                    Qt::NoScrollPhase, false);
+  event.setTimestamp(static_cast<quint64>(clock_.now()));
+  QCoreApplication::sendEvent(&window_, &event);
+}
+
+void WindowHand::keyDown(int key, const QString& text, Qt::KeyboardModifiers modifiers,
+                         bool repeated) {
+  qt_handleKeyEvent(&window_, QEvent::KeyPress, key, modifiers, text, repeated);
+}
+
+void WindowHand::keyUp(int key, Qt::KeyboardModifiers modifiers) {
+  qt_handleKeyEvent(&window_, QEvent::KeyRelease, key, modifiers);
+}
+
+void WindowHand::keyClick(int key, const QString& text, Qt::KeyboardModifiers modifiers) {
+  keyDown(key, text, modifiers);
+  keyUp(key, modifiers);
+}
+
+void WindowHand::write(const QString& text, Chance& how) {
+  keyClick(Qt::Key_A, {}, Qt::ControlModifier);
+  if (text.isEmpty()) return keyClick(Qt::Key_Delete);
+  const auto way = how.below(3);
+  if (way == 0 && QGuiApplication::focusObject() != nullptr) {
+    if (how.percent(50)) {
+      QInputMethodEvent composing(text.left(3), {});
+      QCoreApplication::sendEvent(QGuiApplication::focusObject(), &composing);
+    }
+    QInputMethodEvent event;
+    event.setCommitString(text);
+    QCoreApplication::sendEvent(QGuiApplication::focusObject(), &event);
+  } else if (way == 1 && text.size() < 40 && isPrintable(text)) {
+    for (const QChar letter : text) keyClick(letter.toUpper().unicode(), letter);
+  } else {
+    QGuiApplication::clipboard()->setText(text);
+    keyClick(Qt::Key_V, {}, Qt::ControlModifier);
+  }
+}
+
+void WindowHand::draw() {
+  QEvent frame(QEvent::UpdateRequest);
+  QCoreApplication::sendEvent(&window_, &frame);
+}
+
+void WindowHand::frames(int count, Chance& how) {
+  for (; count > 0; --count) {
+    clock_.pass(static_cast<int>(how.between(1, 2 * kFrame)));
+    QCoreApplication::processEvents();
+    if (how.percent(75)) draw();
+  }
+}
+
+bool WindowHand::rest() {
+  for (int frame = 0; frame < kMostFrames; ++frame) {
+    QCoreApplication::processEvents();
+    clock_.pass(kFrame);
+    draw();
+    QCoreApplication::processEvents();
+    if (frame > 1 && !clock_.isRunning()) return true;
+  }
+  return false;
+}
+
+bool WindowHand::serve(Chance& how) {
+  switch (how.below(8)) {
+    case 0:
+      return false;
+    case 1:
+      QCoreApplication::processEvents();
+      return false;
+    case 2:
+    case 3:
+      frames(static_cast<int>(how.between(1, 4)), how);
+      return false;
+    case 4:
+      frames(static_cast<int>(how.between(5, 20)), how);
+      return false;
+    default:
+      break;
+  }
+  if (!rest()) return false;
+  if (!how.percent(20)) return true;
+  QTest::qWait(kLookAhead);
+  return rest();
+}
+
+}  // namespace leafund::random

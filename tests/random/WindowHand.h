@@ -1,0 +1,65 @@
+#pragma once
+
+#include <QAnimationDriver>
+#include <QPointF>
+#include <QPointingDevice>
+#include <memory>
+
+#include "platform/qt/QtWindow.h"
+#include "tests/random/Chance.h"
+
+namespace leafund::random {
+
+// The time of animations and of the pointer. It passes only when it is told to, so that a seed
+// decides what is met in the middle of a slide.
+class FrameClock : public QAnimationDriver {
+ public:
+  FrameClock() { install(); }
+  void pass(int milliseconds);
+  qint64 elapsed() const override { return sinceStart_; }
+  int now() const { return now_; }
+
+ protected:
+  void start() override;
+
+ private:
+  qint64 sinceStart_ = 0;
+  int now_ = 1000;
+};
+
+// Pointer, finger and keys, as the system tells them to the window.
+class WindowHand {
+ public:
+  explicit WindowHand(QtWindow& window) : window_(window) {}
+
+  // Each answers at once; what it leads to has been delivered.
+  void press(QPointF where, bool byTouch);
+  void move(QPointF where, bool byTouch);
+  void release(QPointF where, bool byTouch);
+  void wheel(QPointF where, int notches);
+  void keyDown(int key, const QString& text = {}, Qt::KeyboardModifiers modifiers = {},
+               bool repeated = false);
+  void keyUp(int key, Qt::KeyboardModifiers modifiers = {});
+  void keyClick(int key, const QString& text = {}, Qt::KeyboardModifiers modifiers = {});
+  // In place of what is selected: by an input method, by pasting, or letter by letter.
+  void write(const QString& text, Chance& how);
+
+  // So many frames of a length drawn for each; some are withheld.
+  void frames(int count, Chance& how);
+  // Until nothing moves, or for so long that it never will.
+  bool rest();
+  // As much or as little as is drawn. True when nothing moves any more.
+  bool serve(Chance& how);
+  bool moving() const { return clock_.isRunning(); }
+  int now() const { return clock_.now(); }
+
+ private:
+  void pointer(QEvent::Type type, QPointF where, Qt::MouseButtons buttons, Qt::MouseButton button);
+  void draw();
+
+  QtWindow& window_;
+  FrameClock clock_;
+  std::unique_ptr<QPointingDevice> finger_;
+};
+
+}  // namespace leafund::random
