@@ -143,11 +143,35 @@ startPictureHost() {
   fail "no free port for the picture host"
 }
 
-# Waits until a server has written its address into a file.
+# Waits until a server has written its address into a file, or has made the socket of that name.
 written() {
   for _ in {1..100}; do
-    [[ -s $1 ]] && return 0
+    [[ -s $1 || -S $1 ]] && return 0
     sleep 0.1
   done
   fail "$2 did not start"
+}
+
+# What is the same for everything that walks through the app: a folder $state for the servers around
+# it, and nothing of the user's own session.
+prepareWalk() {
+  state=$(mktemp -d)
+  folders+=("$state")
+  chmod 700 "$state"
+  export XDG_RUNTIME_DIR=$state GSETTINGS_BACKEND=memory LC_ALL=C.UTF-8
+  export QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1
+  unset WAYLAND_DISPLAY
+}
+
+# Names and places of controls come over the accessibility bus; a private one, so that no other
+# program's windows are on it.
+openBuses() {
+  start dbus-daemon --session --nofork --nopidfile --print-address=3 3>"$state/bus" \
+    >"$state/bus.log" 2>&1
+  written "$state/bus" "the session bus"
+  DBUS_SESSION_BUS_ADDRESS=$(<"$state/bus")
+  export DBUS_SESSION_BUS_ADDRESS
+  # Asking for the accessibility bus starts it, and is answered when it is there.
+  dbus-send --session --print-reply --dest=org.a11y.Bus /org/a11y/bus org.a11y.Bus.GetAddress \
+    >"$state/accessibility" || fail "the accessibility bus did not start"
 }
