@@ -51,6 +51,20 @@ void cancelTaps(QPointerEvent& event) {
   }
 }
 
+// Qt Quick takes a finger's second touch for a double click, and drops it where no item asks for
+// those, as none does. While this lives it sees two touches.
+class WithoutDoubleTaps {
+ public:
+  WithoutDoubleTaps() { hints().setMouseDoubleClickInterval(0); }
+  WithoutDoubleTaps(const WithoutDoubleTaps&) = delete;
+  WithoutDoubleTaps& operator=(const WithoutDoubleTaps&) = delete;
+  ~WithoutDoubleTaps() { hints().setMouseDoubleClickInterval(interval_); }
+
+ private:
+  static QStyleHints& hints() { return *QGuiApplication::styleHints(); }
+  const int interval_ = hints().mouseDoubleClickInterval();
+};
+
 }  // namespace
 
 QtWindow::QtWindow() {
@@ -80,9 +94,15 @@ void QtWindow::fit() {
 bool QtWindow::event(QEvent* event) {
   if (!event->isInputEvent()) return QQuickWindow::event(event);
   const auto* before = topScreen();
-  const bool taken = takePress(*event) || QQuickWindow::event(event);
+  const bool taken = takePress(*event) || deliver(event);
   if (topScreen() != before) (usedByKeys_ ? keys_ : pointer_).changedTop();
   return taken;
+}
+
+bool QtWindow::deliver(QEvent* event) {
+  if (event->type() != QEvent::TouchBegin) return QQuickWindow::event(event);
+  const WithoutDoubleTaps every;
+  return QQuickWindow::event(event);
 }
 
 // Answers whether the event has come to its end here.

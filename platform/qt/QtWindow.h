@@ -32,6 +32,7 @@ class QtWindow : public QQuickWindow {
 
  private:
   void fit();
+  bool deliver(QEvent* event);
   bool takePress(QEvent& event);
   bool takeKey(QKeyEvent& key);
   void notePointer(const QPointerEvent& event, int button);

@@ -130,6 +130,38 @@ TEST_F(GlassComeBackTest, AFingerDrawnAlongAListThatHasEndedOpensNoRow) {
   EXPECT_EQ(app.shown()->className(), "OneCampaignViewController");
 }
 
+TEST_F(GlassComeBackTest, AFlingEndsWhereItsListIsCovered) {
+  signIn();
+  const auto& list = app.require("table");
+  for (const bool byTab : {false, true}) {
+    app.press(Qt::Key_PageUp);
+    stand();
+    QTest::touchEvent(&app.window(), finger_.get()).press(0, QPoint(200, 600));
+    for (int y = 570; y >= 420; y -= 30) {
+      QTest::touchEvent(&app.window(), finger_.get()).move(0, QPoint(200, y));
+      QTest::qWait(8);
+    }
+    QTest::touchEvent(&app.window(), finger_.get()).release(0, QPoint(200, 420));
+    ASSERT_TRUE(app.waitUntil([&] { return list.property("flicking").toBool(); }));
+    if (byTab) {
+      click(middleOf("newsTab"));
+    } else {
+      app.press(Qt::Key_Return);
+    }
+    const double covered = list.property("contentY").toDouble();
+    EXPECT_FALSE(list.property("moving").toBool());
+    app.settle();
+    if (byTab) {
+      click(middleOf("browseTab"));
+    } else {
+      app.press(Qt::Key_Escape);
+    }
+    app.settle();
+    EXPECT_EQ(shownOffset(), covered);
+    EXPECT_EQ(table().contentOffset().y, covered);
+  }
+}
+
 TEST_F(GlassComeBackTest, AResizeWhileTheCampaignIsOpenLeavesTheListInOrder) {
   signIn();
   for (const int height : {700, 500, 844, 1200, 560}) {

@@ -125,6 +125,14 @@ TEST_F(GlassPressTest, ASecondClickWhereTheFirstChangedNoScreenCounts) {
   EXPECT_EQ(screen(), "FundCampaignVC");
 }
 
+TEST_F(GlassPressTest, ASecondTouchWhereTheFirstChangedNoScreenCounts) {
+  const auto button = middleOf("signInButton");
+  touch(button);
+  EXPECT_EQ(glassText("password"), "Error: Please Enter a Password");
+  touch(button);
+  EXPECT_EQ(screen(), "OtherCampaignsTableViewController");
+}
+
 TEST_F(GlassPressTest, AClickBehindAKeyThatChangedTheScreenIsItsOwn) {
   signIn();
   clickTimes("browseTab", 1);
