@@ -43,11 +43,26 @@ EntryBox {
             text = written;
             rewriting = false;
         }
-        // A line break comes in by pasting.
+        readonly property var breaks: /[\r\n]/
+        // Lines are pasted, or given by an input method; they begin where the selection did or, where
+        // that has been told anew already, as far before the caret as the text has grown. Up to there
+        // it is as before.
         function takeOneLine() {
-            const before = text.slice(0, cursorPosition).replace(/[\r\n]+/g, "");
-            write(text.replace(/[\r\n]+/g, ""));
-            cursorPosition = Math.min(before.length, length);
+            const before = entry.view.text;
+            const grown = text.length - before.length;
+            let start = Math.max(0, Math.min(selectionStart, cursorPosition - grown));
+            for (let i = 0; i < start; ++i)
+                if (text[i] !== before[i])
+                    start = i;
+            // Not by a pattern for both ends: on many breaks in the middle that takes quadratic time.
+            let first = start, end = cursorPosition;
+            while (first < end && breaks.test(text[first]))
+                ++first;
+            while (first < end && breaks.test(text[end - 1]))
+                --end;
+            const line = text.slice(first, end).replace(/\r\n|\r|\n/g, " ");
+            write(text.slice(0, start) + line + text.slice(cursorPosition));
+            cursorPosition = start + line.length;
         }
         Component.onCompleted: write(entry.view.text)
         Connections {
@@ -58,7 +73,7 @@ EntryBox {
         onTextEdited: {
             if (rewriting)
                 return;
-            if (/[\r\n]/.test(text))
+            if (breaks.test(text))
                 takeOneLine();
             entry.view.edit(text);
         }

@@ -1,5 +1,6 @@
 #include <QClipboard>
 #include <QColor>
+#include <QElapsedTimer>
 #include <QGuiApplication>
 
 #include "tests/window/GlassFixture.h"
@@ -49,16 +50,61 @@ TEST_F(GlassInputTest, TypingInTheMiddleKeepsTheCursorThere) {
   EXPECT_EQ(app.require("userEmail").property("cursorPosition").toInt(), 2);
 }
 
-TEST_F(GlassInputTest, ALineBreakThatIsPastedDoesNotEnterAFieldOfOneLine) {
-  QGuiApplication::clipboard()->setText("wr\r\ne\nn");
-  for (const auto* name : {"userEmail", "password"}) {
-    type(name, "<>");
+TEST_F(GlassInputTest, LinesPastedIntoAFieldOfOneLineAreJoinedByBlanks) {
+  const auto pasteBetween = [&](const char* name, const QString& lines) {
+    QGuiApplication::clipboard()->setText(lines);
+    QTest::keyClick(&app.window(), Qt::Key_A, Qt::ControlModifier);
+    app.typeKeys("<>");
     app.press(Qt::Key_Left);
     QTest::keyClick(&app.window(), Qt::Key_V, Qt::ControlModifier);
     app.typeKeys("!");
     app.settle();
-    EXPECT_EQ(glassText(name), "<wren!>") << name;
+    return glassText(name);
+  };
+  for (const auto* name : {"userEmail", "password"}) {
+    click(name);
+    EXPECT_EQ(pasteBetween(name, "wr\r\ne\nn"), "<wr e n!>") << name;
+    EXPECT_EQ(pasteBetween(name, "\r\n\nwren\r\n"), "<wren!>") << name;
+    EXPECT_EQ(pasteBetween(name, "<\n\n>"), "<<  >!>") << name;
+    EXPECT_EQ(pasteBetween(name, "a\rb\n\r\n"), "<a b!>") << name;
+    EXPECT_EQ(pasteBetween(name, "\n"), "<!>") << name;
   }
+}
+
+TEST_F(GlassInputTest, LinesPastedOverASelectionTakeItsPlaceAndTheCaretStandsBehindThem) {
+  QGuiApplication::clipboard()->setText("\nx\ny\n");
+  type("userEmail", "abcd");
+  for (const auto key : {Qt::Key_Left, Qt::Key_Left, Qt::Key_Left}) app.press(key);
+  QTest::keyClick(&app.window(), Qt::Key_Right, Qt::ShiftModifier);
+  QTest::keyClick(&app.window(), Qt::Key_Right, Qt::ShiftModifier);
+  QTest::keyClick(&app.window(), Qt::Key_V, Qt::ControlModifier);
+  app.settle();
+  EXPECT_EQ(glassText("userEmail"), "ax yd");
+  EXPECT_EQ(app.require("userEmail").property("cursorPosition").toInt(), 4);
+}
+
+TEST_F(GlassInputTest, LinesGivenByAnInputMethodAreJoinedToo) {
+  type("userEmail", "<>");
+  app.press(Qt::Key_Left);
+  QInputMethodEvent committing;
+  committing.setCommitString("\nwr\nen\n");
+  QCoreApplication::sendEvent(&app.require("userEmail"), &committing);
+  app.settle();
+  EXPECT_EQ(glassText("userEmail"), "<wr en>");
+  committing.setCommitString("a\n<\n", -5, 6);  // over all but the first
+  QCoreApplication::sendEvent(&app.require("userEmail"), &committing);
+  app.settle();
+  EXPECT_EQ(glassText("userEmail"), "<a <");
+}
+
+TEST_F(GlassInputTest, AHundredThousandLinesArePastedIntoAFieldWithinTwoSeconds) {
+  QGuiApplication::clipboard()->setText("a" + QString(100'000, '\n') + "b");
+  click("userEmail");
+  QElapsedTimer timer;
+  timer.start();
+  QTest::keyClick(&app.window(), Qt::Key_V, Qt::ControlModifier);
+  EXPECT_LT(timer.elapsed(), 2000);
+  EXPECT_EQ(glassText("userEmail").size(), 100'002);
 }
 
 TEST_F(GlassInputTest, AFocusThatTheWindowGivesBackIsNotAUserEnteringAnInput) {
