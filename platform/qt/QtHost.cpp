@@ -10,6 +10,7 @@
 #include "platform/curl/CurlTransfer.h"
 #include "platform/foundation/FatalError.h"
 #include "platform/foundation/NSURLRequest.h"
+#include "platform/qt/Display.h"
 #include "platform/qt/ItemAccess.h"
 #include "platform/qt/QtWindow.h"
 #include "platform/qt/SceneStage.h"
@@ -83,7 +84,7 @@ void QtHost::start(UIApplication& application) {
   if (QQuickWindow::sceneGraphBackend() != QLatin1String("software")) {
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
   }
-  gui_ = std::make_unique<QGuiApplication>(argc_, argv_);
+  gui_ = connectToDisplay(argc_, argv_);
   QGuiApplication::setDesktopFileName(QStringLiteral("app.leafund.Leafund"));
   QGuiApplication::setFont(typeface());
   // The list of the system's fonts takes a sixth of the start, and the first text waits for it. The
