@@ -6,10 +6,11 @@
 namespace leafund {
 
 void tabBarScene(Scene<TabBarVC>& scene, TabBarVC&) {
-  scene.tabs({{"browseTab", "Browse", "OtherCampaignsTableViewController"},
-              {"fundedTab", "Funded", "FundCampaignVC"},
-              {"mineTab", "Mine", "MyProfileVC"},
-              {"newsTab", "News", "NewsFeedVC"}})
+  scene
+      .tabs({{"browseTab", "Browse", "OtherCampaignsTableViewController"},
+             {"fundedTab", "Funded", "FundCampaignVC"},
+             {"mineTab", "Mine", "MyProfileVC"},
+             {"newsTab", "News", "NewsFeedVC"}})
       .setAccessibilityLabel("Sections");
   // Here and not on the list screen: whatever leaves a list screen has a row as its sender.
   scene.segue(scene.buttonOnTab("mineTab", "newButton", "New"), "newCampaignSegue");

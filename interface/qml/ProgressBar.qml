@@ -8,8 +8,7 @@ Item {
     required property ViewObject view
     property real shown: view.progressFrom
 
-    // What assistive technology reads, by these names where the system knows of progress, and as a
-    // description where it does not.
+    // What assistive technology reads, by these names.
     readonly property real value: Math.round(view.progress * 100)
     readonly property real minimumValue: 0
     readonly property real maximumValue: 100
@@ -38,7 +37,6 @@ Item {
 
     Accessible.role: Accessible.ProgressBar
     Accessible.name: view.accessibleName
-    Accessible.description: value + "%"
 
     Rectangle {
         anchors.fill: parent

@@ -53,9 +53,7 @@ QRect ItemAccess::onScreen(const QRectF& area) const {
 }
 
 // What is hidden has no place.
-QRect ItemAccess::rect() const {
-  return item()->isVisible() ? onScreen(area()) : QRect();
-}
+QRect ItemAccess::rect() const { return item()->isVisible() ? onScreen(area()) : QRect(); }
 
 // Whether neither the window nor a scrolled pane cuts off all of it.
 bool ItemAccess::inSight() const {

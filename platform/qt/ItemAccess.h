@@ -39,8 +39,8 @@ class ItemAccess : public QAccessibleObject, public QAccessibleActionInterface {
   bool inSight() const;
 };
 
-// From here on, inputs, progress bars and words are described by the classes of this folder. Doing it
-// again changes nothing.
+// From here on, inputs, progress bars and words are described by the classes of this folder. Doing
+// it again changes nothing.
 void describeItemsToAssistiveTechnology();
 
 }  // namespace leafund

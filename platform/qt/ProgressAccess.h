@@ -12,16 +12,22 @@ class ProgressAccess final : public ItemAccess, public QAccessibleValueInterface
  public:
   using ItemAccess::ItemAccess;
 
-  QAccessible::Role role() const override { return QAccessible::ProgressBar; }
+  QAccessible::Role role() const override {
+    askedForActions_ = false;
+    return QAccessible::ProgressBar;
+  }
+  QAccessible::State state() const override {
+    askedForActions_ = false;
+    return ItemAccess::state();
+  }
   void setText(QAccessible::Text, const QString&) override {}
   // Of whatever has a value the platform's bridge takes for granted that a user can move it, and
-  // offers to increase and decrease it. It asks for the actions first and for the value right after
-  // them, and is then told of none.
+  // offers to increase and decrease it. For that it asks for the actions and, with nothing between,
+  // for the value, and is then told of none.
   void* interface_cast(QAccessible::InterfaceType type) override {
-    const auto before = std::exchange(lastAskedFor_, type);
+    const bool movable = std::exchange(askedForActions_, type == QAccessible::ActionInterface);
     if (type != QAccessible::ValueInterface) return ItemAccess::interface_cast(type);
-    if (before == QAccessible::ActionInterface) return nullptr;
-    return static_cast<QAccessibleValueInterface*>(this);
+    return movable ? nullptr : static_cast<QAccessibleValueInterface*>(this);
   }
 
   QVariant currentValue() const override { return item()->property("value"); }
@@ -31,7 +37,7 @@ class ProgressAccess final : public ItemAccess, public QAccessibleValueInterface
   void setCurrentValue(const QVariant&) override {}  // it shows, and is not to be moved
 
  private:
-  QAccessible::InterfaceType lastAskedFor_ = QAccessible::ValueInterface;
+  mutable bool askedForActions_ = false;
 };
 
 }  // namespace leafund

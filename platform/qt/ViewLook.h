@@ -16,8 +16,8 @@ namespace leafund {
 // kind of view does not have stays as it is here. Lengths in points.
 struct ViewLook {
   QString name;
-  // What a screen reader calls it; a label that has none is read by its text alone, and one that has
-  // is read by both.
+  // What a screen reader calls it; a label that has none is read by its text alone, and one that
+  // has is read by both.
   QString accessibleName;
   QRectF frame;
   CALayer layer;

@@ -194,8 +194,9 @@ ScreenRef layOut(Scene scene) {
       is("", {label("thankYouLabel", "Thank you for your pledge!"), button("homeButton", "Home")});
       break;
     case Scene::Update:
-      is("Update", {label("test"), label("updateOneDate"), picture("updateOneImage", "Picture of the update"),
-                    readingText("updateOneText")});
+      is("Update",
+         {label("test"), label("updateOneDate"), picture("updateOneImage", "Picture of the update"),
+          readingText("updateOneText")});
       break;
     case Scene::NewCampaign:
       is("New campaign", newCampaign());
