@@ -6,7 +6,6 @@ Page {
 
     ScrollPane {
         scene: page.scene
-        name: page.views.brand.text
         centred: true
 
         IconItem {
@@ -19,11 +18,14 @@ Page {
         Column {
             width: parent.width
             Words {
+                id: brand
                 view: page.views.brand
                 heading: true
+                takesFocus: true
                 width: parent.width
                 horizontalAlignment: Text.AlignHCenter
                 font { pointSize: Theme.display; weight: Font.Bold }
+                FocusRing { target: brand }
             }
             Words {
                 view: page.views.tagline

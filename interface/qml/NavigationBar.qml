@@ -10,6 +10,30 @@ Rectangle {
 
     color: Theme.card
 
+    // Here a reader is put when the screen comes, before the first control, to which Tab leads on.
+    Text {
+        id: title
+        readonly property bool heading: true
+        readonly property bool takesFocus: bar.scene.title !== ""
+
+        objectName: "barTitle"
+        focus: takesFocus
+        anchors.verticalCenter: parent.verticalCenter
+        x: back.visible ? back.x + back.width : Theme.gap
+        width: (trailing.width > 0 ? trailing.x : bar.width) - x - Theme.unit
+        text: bar.scene.title
+        textFormat: Text.PlainText
+        elide: Text.ElideRight
+        fontSizeMode: Text.HorizontalFit
+        minimumPointSize: Theme.small
+        color: Theme.ink
+        font { pointSize: Theme.lead; weight: Font.Bold }
+        Accessible.role: Accessible.Heading
+        Accessible.name: text
+
+        FocusRing { target: title }
+    }
+
     Pressable {
         id: back
         objectName: "backButton"
@@ -37,22 +61,6 @@ Rectangle {
             icon: IconItem.Back
             color: Theme.accentDeep
         }
-    }
-
-    Text {
-        objectName: "barTitle"
-        anchors.verticalCenter: parent.verticalCenter
-        x: back.visible ? back.x + back.width : Theme.gap
-        width: (trailing.width > 0 ? trailing.x : bar.width) - x - Theme.unit
-        text: bar.scene.title
-        textFormat: Text.PlainText
-        elide: Text.ElideRight
-        fontSizeMode: Text.HorizontalFit
-        minimumPointSize: Theme.small
-        color: Theme.ink
-        font { pointSize: Theme.lead; weight: Font.Bold }
-        Accessible.role: Accessible.Heading
-        Accessible.name: text
     }
 
     Row {

@@ -9,10 +9,11 @@ FocusScope {
 
     width: scene.root.width
     height: scene.root.height
+    Keys.forwardTo: pane
 
     ScrollPane {
+        id: pane
         scene: page.scene
-        activeFocusOnTab: true
 
         Story {
             picture: page.views.rideStoryPicture

@@ -12,6 +12,9 @@ FocusScope {
     property alias barContent: bar.trailing
     readonly property int slideDuration: Theme.slideDuration
 
+    // The keys that scroll work wherever on the screen the focus is.
+    Keys.forwardTo: content.children
+
     width: scene.root.width
     height: scene.root.y + scene.root.height
 

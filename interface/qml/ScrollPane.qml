@@ -8,18 +8,10 @@ Item {
 
     required property SceneObject scene
     default property alias content: column.data
-    // What a reader that is put here is told: which screen has come.
-    property string name: scene.title
     property bool centred: false
     property alias spacing: column.spacing
 
     anchors.fill: parent
-    // The keys that scroll work as soon as the screen is there. A pane without any control in it
-    // sets activeFocusOnTab besides, so that the keyboard finds its way back to it.
-    focus: true
-
-    Accessible.role: Accessible.Pane
-    Accessible.name: name
 
     // What a message has just come for, the topmost of several, is in sight until the user goes on.
     property Item told: null
@@ -35,7 +27,9 @@ Item {
     }
 
     function reveal() {
-        const item = told ?? Window.activeFocusItem;
+        const item = told ?? focused;
+        if (item?.takesFocus)
+            return;  // a heading, where nobody went
         for (let each = item; each !== column; each = each.parent)
             if (!each)
                 return;
@@ -58,10 +52,28 @@ Item {
         flickable.contentY = Math.max(0, Math.min(lowest, flickable.contentY + distance));
     }
 
+    // Where the user goes is brought into sight. Where the host puts the focus, when the screen comes
+    // or comes back and when the editing ends, nothing scrolls.
     readonly property Item focused: Window.activeFocusItem
-    readonly property var caret: focused?.cursorRectangle
-    onFocusedChanged: goOn()
-    onCaretChanged: Qt.callLater(goOn)
+    property bool inUse: false
+    onFocusedChanged: {
+        const wasInUse = inUse;
+        inUse = screenOf(focused) === screenOf(pane);
+        if (!inUse)
+            told = null;
+        else if (wasInUse && focused.activeFocusOnTab)
+            goOn();
+    }
+    function screenOf(item) {
+        while (item?.parent && item.parent !== Window.contentItem)
+            item = item.parent;
+        return item;
+    }
+    Connections {
+        target: pane.inUse ? pane.focused : null
+        ignoreUnknownSignals: true  // of what has no caret
+        function onCursorRectangleChanged() { Qt.callLater(pane.goOn); }
+    }
     onHeightChanged: Qt.callLater(reveal)
 
     Keys.onUpPressed: scrollBy(-Theme.step)
@@ -100,8 +112,4 @@ Item {
     }
 
     ScrollMark { target: flickable }
-    FocusRing {
-        target: pane
-        outset: -Theme.half
-    }
 }

@@ -18,6 +18,7 @@ Page {
         width: page.views.tabs.width
         height: page.views.tabs.height
         clip: true
+        Keys.forwardTo: children
     }
 
     Rectangle {

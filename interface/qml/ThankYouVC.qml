@@ -10,7 +10,6 @@ Page {
 
     ScrollPane {
         scene: page.scene
-        name: page.views.thankYouLabel.text
         centred: true
         spacing: Theme.space
 
@@ -20,9 +19,12 @@ Page {
             height: Math.min(Theme.celebration, page.height / 3)
         }
         Title {
+            id: thanks
             view: page.views.thankYouLabel
+            takesFocus: true
             width: parent.width
             horizontalAlignment: Text.AlignHCenter
+            FocusRing { target: thanks }
         }
         Button {
             view: page.views.homeButton

@@ -6,7 +6,6 @@ Page {
 
     ScrollPane {
         scene: page.scene
-        activeFocusOnTab: true
 
         // A post: what it is about and of when, its picture from edge to edge, its text.
         Card {

@@ -7,6 +7,8 @@ Text {
 
     required property ViewObject view
     property bool heading: false
+    // Of a screen without a bar: the focus is here when it comes.
+    property bool takesFocus: false
 
     objectName: view.name
     visible: view.visible
@@ -16,6 +18,8 @@ Text {
     color: Theme.ink
     font.pointSize: Theme.body
     lineHeight: Theme.lines
+
+    focus: takesFocus
 
     Accessible.role: heading ? Accessible.Heading : Accessible.StaticText
     Accessible.name: view.accessibleName || text

@@ -35,10 +35,7 @@ void ScenePage::showTab(UIViewController& selected) {
     tabs_.push_back(std::make_unique<ScenePage>(loader_, selected, place));
   }
   for (const auto& tab : tabs_) {
-    const bool shown = tab->shows(selected);
-    tab->item()->setVisible(shown);
-    // The keyboard begins in what the screen is about, and stays where the user takes it.
-    if (shown && item()->scopedFocusItem() == nullptr) tab->item()->setFocus(true);
+    tab->item()->setVisible(tab->shows(selected));
   }
 }
 

@@ -143,7 +143,7 @@ std::vector<Stage> listStages() {
        [](App& app) {
          otherCampaigns().clear();
          app.openTab("browseTab");
-         app.tab(2);
+         app.tab(3);
        }},
   };
 }

@@ -80,6 +80,14 @@ TEST_F(AccessibilityDetailTest, ASumIsReadWithWhatItIsAndDrawnWithoutIt) {
   EXPECT_EQ(app.require("desiredFund").property("text"), "$200.00");
 }
 
+TEST_F(AccessibilityDetailTest, NothingOnACampaignsPageIsReadTwice) {
+  signIn();
+  press("Vegetarian for PETA", QAccessible::ListItem);
+  QStringList names;
+  for (auto* each : shown()) names << each->text(QAccessible::Name);
+  EXPECT_EQ(names.removeDuplicates(), 0) << names.join(", ").toStdString();
+}
+
 TEST_F(AccessibilityDetailTest, AnInputIsAsLargeAsTheBoxThatTheUserSees) {
   const auto* box = app.require("userEmail").parentItem()->parentItem();
   ASSERT_GE(box->height(), 52);
