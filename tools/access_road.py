@@ -6,7 +6,7 @@ without a single coordinate. Fails where a control lacks one of them.
 
 import sys
 
-from bus import Atspi, check, go
+from bus import Atspi, Role, check, go
 from reader import ESCAPE, PAGE_DOWN, Reader
 
 PLEDGED = "Vegetarian for PETA"
@@ -38,13 +38,14 @@ class Road:
 
     def hear_messages(self):
         reader = self.reader
-        reader.expect("Leafund", "heading")
+        reader.expect_screen("Leafund")
         reader.audit("landing")
         reader.press("Sign in")
         reader.expect_heard("Error: Please Enter a Name")
         reader.expect_heard("Error: Please Enter a Password")
         reader.press("Create an account")
-        reader.expect("Password again", "password text")
+        reader.expect_screen("Create an account")
+        reader.expect("Password again", Role.PASSWORD_TEXT)
         reader.audit("sign-up")
         reader.press("Sign up")
         reader.expect_heard("Error: Please Enter a Name")
@@ -56,7 +57,7 @@ class Road:
         reader.wait("the message told as a text", lambda: any("Do Not" in t for t in self.told))
         check(not any("greene" in t for t in self.told), "a change of text hides the password")
         reader.key(ESCAPE)
-        reader.expect("Sign in", "push button")
+        reader.expect_focus("Create an account", Role.PUSH_BUTTON)
 
     def sign_in(self):
         reader = self.reader
@@ -64,33 +65,33 @@ class Road:
         reader.type_into("Password", "greenest", shown="•" * 8)
         reader.expect_nowhere("greenest")
         reader.press("Sign in")
-        reader.expect("Browse", "heading")
+        reader.expect_screen("Browse")
         reader.expect_nowhere("greenest")
 
     def browse(self):
         reader = self.reader
-        reader.expect_focus(PLEDGED)
         reader.audit("browse")
         check(LAST_ROW not in reader.rows(), "the last row is out of sight")
-        reader.act("Browse", "list", "Next Page")
-        reader.expect(LAST_ROW, "list item")
-        reader.act("Browse", "list", "Previous Page")
-        reader.expect(PLEDGED, "list item")
+        reader.act("Campaigns", Role.LIST, "Next Page")
+        reader.expect(LAST_ROW, Role.LIST_ITEM)
+        reader.act("Campaigns", Role.LIST, "Previous Page")
+        reader.expect(PLEDGED, Role.LIST_ITEM)
         reader.key(PAGE_DOWN)
-        reader.press(LAST_ROW, "list item")
-        reader.expect(LAST_ROW, "heading")
+        reader.press(LAST_ROW, Role.LIST_ITEM)
+        reader.expect_screen("Campaign")
+        reader.expect(LAST_ROW, Role.HEADING)
         reader.press("Back")
-        reader.expect_focus(LAST_ROW)
-        reader.act("Browse", "list", "Previous Page")
+        reader.expect_focus(LAST_ROW, Role.LIST_ITEM)
+        reader.act("Campaigns", Role.LIST, "Previous Page")
 
     def read_campaign(self):
         reader = self.reader
-        reader.press(PLEDGED, "list item")
-        reader.expect(PLEDGED, "heading")
+        reader.press(PLEDGED, Role.LIST_ITEM)
+        reader.expect(PLEDGED, Role.HEADING)
         reader.audit("campaign")
-        for words in ("Arlo", "Raised so far", "$120.00", "$200.00"):
-            reader.expect(words, "label")
-        progress = reader.expect("Share of the goal raised", "progress bar")
+        for words in ("Arlo", "Raised so far", "Raised: $120.00", "Goal: $200.00"):
+            reader.expect(words, Role.LABEL)
+        progress = reader.expect("Share of the goal raised", Role.PROGRESS_BAR)
         check(reader.range(progress) == (60, 0, 100), "60 between 0 and 100")
 
     def have_a_pledge_refused(self):
@@ -98,7 +99,9 @@ class Road:
         reader.type_into("Amount in dollars", "81")
         reader.press("Fund this campaign")
         reader.expect_heard("Error: Donation Exceeds Maximum")
-        reader.expect("Error: Donation Exceeds Maximum", "notification")
+        reader.expect("Error: Donation Exceeds Maximum", Role.NOTIFICATION)
+        check(reader.description("Amount in dollars") == "Error: Donation Exceeds Maximum",
+              "the field of the amount described by why it was refused")
         reader.press("Fund this campaign")
         reader.expect_heard("Error: Donation Exceeds Maximum")
 
@@ -106,29 +109,31 @@ class Road:
         reader = self.reader
         reader.write("Amount in dollars", "80")
         reader.press("Fund this campaign")
-        reader.expect("Do you want to fund this campaign?", "heading")
+        reader.expect_screen("Confirm your pledge")
+        reader.expect("Do you want to fund this campaign?", Role.HEADING)
         reader.audit("confirmation")
         reader.press("Yes")
-        reader.expect("Thank you for your pledge!", "heading")
+        reader.expect_screen("Thank you for your pledge!")
         reader.audit("thank-you")
         reader.press("Home")
-        reader.expect("Biking to Work!", "list item")
+        reader.expect("Biking to Work!", Role.LIST_ITEM)
         reader.expect_gone(PLEDGED)
 
     def find_it_under_funded(self):
         reader = self.reader
-        reader.press("Funded", "page tab")
-        reader.expect(PLEDGED, "list item")
+        reader.press("Funded", Role.PAGE_TAB)
+        reader.expect(PLEDGED, Role.LIST_ITEM)
         check(reader.rows()[0] == PLEDGED, "the new pledge is the first row")
         reader.audit("funded")
 
     def read_update(self):
         reader = self.reader
-        reader.press(FUNDED_BEFORE, "list item")
-        reader.expect("Funded!", "label")
+        reader.press(FUNDED_BEFORE, Role.LIST_ITEM)
+        reader.expect("Funded!", Role.LABEL)
         reader.expect_gone("Share of the goal raised")
         reader.press("Read the update")
-        reader.expect("December 1", "label")
+        reader.expect_screen("Update")
+        reader.expect("December 1", Role.LABEL)
         reader.audit("update")
         self.go_back_to("Read the update")
         self.go_back_to(FUNDED_BEFORE)
@@ -142,12 +147,12 @@ class Road:
 
     def create_a_campaign(self):
         reader = self.reader
-        reader.press("News", "page tab")
-        reader.expect("Five miles, twice a day", "heading")
+        reader.press("News", Role.PAGE_TAB)
+        reader.expect("Five miles, twice a day", Role.HEADING)
         reader.audit("news")
-        reader.press("Mine", "page tab")
+        reader.press("Mine", Role.PAGE_TAB)
         reader.press("New")
-        reader.expect("Create campaign", "push button")
+        reader.expect_screen("New campaign")
         reader.audit("new campaign")
         reader.press("Create campaign")
         reader.expect_heard("Error: Please Enter an Amount, for Example 250")
@@ -158,9 +163,9 @@ class Road:
         reader.write("Goal in dollars", "250")
         reader.write("Web address of a picture", NO_PICTURE)
         reader.press("Create campaign")
-        reader.expect("Thank you for creating a campaign!", "heading")
+        reader.expect_screen("Thank you for creating a campaign!")
         reader.press("Home")
-        reader.expect("Rain Barrels", "list item")
+        reader.expect("Rain Barrels", Role.LIST_ITEM)
         check(reader.rows()[0] == "Rain Barrels", "the new campaign is the first row")
 
 

@@ -10,7 +10,9 @@ gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402
 
 LIMIT = 15.0  # seconds that any one step may take
-FIELDS = {"text", "entry", "password text", "editbar"}
+# A role's name in words differs from version to version, a role does not.
+Role = Atspi.Role
+FIELDS = {Role.TEXT, Role.ENTRY, Role.PASSWORD_TEXT, Role.EDITBAR}
 
 
 class RoadBroken(Exception):

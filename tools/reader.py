@@ -1,9 +1,11 @@
 """The app as assistive technology meets it: over the accessibility bus alone, without a place."""
 
-from bus import FIELDS, App, Atspi, GLib, RoadBroken
+from collections import Counter
+
+from bus import FIELDS, App, Atspi, GLib, RoadBroken, Role
 
 SHOWING = "object:state-changed:showing"
-NOT_A_ROLE = {"unknown", "invalid", "filler", ""}
+NOT_A_ROLE = {Role.UNKNOWN, Role.INVALID, Role.FILLER}
 PAGE_DOWN = 0xFF56  # the X keyboard's numbers of keys
 ESCAPE = 0xFF1B
 
@@ -31,12 +33,12 @@ class Reader(App):
 
         def found():
             for node in self.visible():
-                if self.name(node) == name and role in (None, self._role(node)):
+                if self.name(node) == name and role in (None, node.get_role()):
                     if self.has(node, state):
                         return node
             return None
 
-        return self.wait(f"{role or 'something'} called “{name}”", found)
+        return self.wait(f"{role.value_nick if role else 'something'} called “{name}”", found)
 
     def expect_gone(self, name):
         self.wait(f"“{name}” gone", lambda: name not in map(self.name, self.visible()))
@@ -48,14 +50,21 @@ class Reader(App):
     def expect_text(self, field, text):
         self.wait(f"“{text}” in “{field}”", lambda: self.text(self._field(field)) == text)
 
-    def expect_focus(self, name):
+    def expect_focus(self, name, role=None):
         """On whatever bears the name: a screen that leaves may have things of the same one."""
         self.wait(f"the focus on “{name}”", lambda: any(
-            self.name(node) == name and self.has(node, Atspi.StateType.FOCUSED)
-            for node in self.visible()))
+            self.name(node) == name and role in (None, node.get_role())
+            and self.has(node, Atspi.StateType.FOCUSED) for node in self.visible()))
+
+    def expect_screen(self, heading):
+        """A new one, on whose heading the reader stands."""
+        self.expect_focus(heading, Role.HEADING)
 
     def rows(self):
-        return [self.name(node) for node in self.visible() if self._role(node) == "list item"]
+        return [self.name(node) for node in self.visible() if node.get_role() == Role.LIST_ITEM]
+
+    def description(self, field):
+        return self._field(field).get_description()
 
     @staticmethod
     def text(node):
@@ -72,7 +81,7 @@ class Reader(App):
 
     # Acting
 
-    def press(self, name, role="push button"):
+    def press(self, name, role=Role.PUSH_BUTTON):
         self._act(self.expect(name, role, Atspi.StateType.ENABLED), "Press")
 
     def act(self, name, role, action):
@@ -102,7 +111,8 @@ class Reader(App):
     # What must hold of every screen
 
     def audit(self, screen):
-        """Every visible thing has a role and is enabled; every control has a name and an action.
+        """Every visible thing has a role and a name of its own and is enabled; every control has an
+        action, and nothing has one twice.
 
         A screen on its way out is still visible and no longer enabled, so this may take a moment.
         """
@@ -119,27 +129,34 @@ class Reader(App):
 
     def _faults(self):
         found = []
+        met = Counter()
         for node in self.visible():
-            role, name = self._role(node), self.name(node)
+            role, name = node.get_role(), self.name(node)
+            met[role.value_nick, name] += 1
             if role in NOT_A_ROLE:
                 found.append(f"“{name}” has no role")
+            if not name:
+                found.append(f"a {role.value_nick} has no name")
             if not self.has(node, Atspi.StateType.ENABLED):
-                found.append(f"{role} “{name}” is visible and not enabled")
+                found.append(f"{role.value_nick} “{name}” is visible and not enabled")
             if self.has(node, Atspi.StateType.FOCUSABLE):
                 found.extend(self._faults_of_control(node, role, name))
+            elif self._actions(node) and role != Role.LIST:
+                found.append(f"{role.value_nick} “{name}” is no control and has actions")
+        found.extend(f"{nick} “{name}” is there twice" for (nick, name), n in met.items() if n > 1)
         return found
 
     def _faults_of_control(self, node, role, name):
-        if not name:
-            yield f"a control, {role}, has no name"
         actions = self._actions(node)
+        if len(actions) != len(set(actions)):
+            yield f"“{name}” has an action twice"
         if "SetFocus" not in actions:
-            yield f"{role} “{name}” cannot be focused"
+            yield f"“{name}” cannot be focused"
         if role in FIELDS:
             if "EditableText" not in node.get_interfaces():
-                yield f"{role} “{name}” takes no text"
-        elif role not in {"label", "panel"} and "Press" not in actions:
-            yield f"{role} “{name}” cannot be pressed"
+                yield f"“{name}” takes no text"
+        elif role != Role.HEADING and "Press" not in actions:
+            yield f"“{name}” cannot be pressed"
 
     def expect_nowhere(self, secret):
         """Nothing, hidden or not, gives a text out."""
@@ -148,16 +165,17 @@ class Reader(App):
             if "Text" in node.get_interfaces():
                 texts.append(self.text(node) or "")
             if any(secret in text for text in texts):
-                raise RoadBroken(f"{self._role(node)} “{self.name(node)}” gives the password out")
+                raise RoadBroken(f"“{self.name(node)}” gives the password out")
 
     # The rest is how.
 
     def describe(self):
-        return "\n".join(f"  {self._role(node)}: {self.name(node)!r}" for node in self.visible())
+        return "\n".join(f"  {node.get_role().value_nick}: {self.name(node)!r}"
+                         for node in self.visible())
 
     def _on_event(self, event):
         try:
-            if event.detail1 and self._role(event.source) == "notification":
+            if event.detail1 and event.source.get_role() == Role.NOTIFICATION:
                 self.heard.append(self.name(event.source))
         except GLib.Error:
             pass  # gone already, and so is its message
@@ -165,7 +183,7 @@ class Reader(App):
     def _field(self, name):
         def found():
             for node in self.visible():
-                if self.name(node) == name and self._role(node) in FIELDS:
+                if self.name(node) == name and node.get_role() in FIELDS:
                     return node
             return None
 
@@ -191,7 +209,3 @@ class Reader(App):
     @staticmethod
     def name(node):
         return node.get_name() or ""
-
-    @staticmethod
-    def _role(node):
-        return node.get_role_name()

@@ -4,11 +4,11 @@ import hashlib
 import subprocess
 import time
 
-from bus import FIELDS, App, Atspi
+from bus import FIELDS, App, Atspi, Role
 
-TABS = {"page tab", "radio button"}
-ROWS = {"list item", "table cell"}
-CONTROLS = {"push button", "button", "link"} | ROWS | FIELDS | TABS
+TABS = {Role.PAGE_TAB}
+ROWS = {Role.LIST_ITEM}
+CONTROLS = {Role.PUSH_BUTTON} | ROWS | FIELDS | TABS
 
 
 def run(*command):
@@ -83,7 +83,7 @@ class Window(App):
         def note(node):
             place = self._place(node)
             if place[2] > 0 and place[3] > 0 and 0 <= place[0] + place[2] // 2 < self.width:
-                found.append((node.get_name() or "", node.get_role_name(), place))
+                found.append((node.get_name() or "", node.get_role(), place))
             return True
 
         for _ in self.walk(note):
@@ -143,4 +143,4 @@ class Window(App):
     def describe(self):
         """What is on the screen, for whoever must find out why the road broke."""
         named = [node for node in self._showing() if node[0]]
-        return "\n".join(f"  {role}: {name!r} at {place}" for name, role, place in named)
+        return "\n".join(f"  {role.value_nick}: {name!r} at {place}" for name, role, place in named)
