@@ -7,11 +7,6 @@ namespace {
 // What a screen reader is told of single items: words, actions, extents and descriptions.
 class AccessibilityDetailTest : public AccessibilityTest {
  protected:
-  void signIn() {
-    enter("E-mail", "wren");
-    enter("Password", "secret");
-    press("Sign in");
-  }
   void openForm() {
     signIn();
     press("Mine", QAccessible::PageTab);
@@ -64,6 +59,18 @@ TEST_F(AccessibilityDetailTest, EveryActionIsOfferedOnce) {
   check();
   press("Vegetarian for PETA", QAccessible::ListItem);
   check();
+}
+
+TEST_F(AccessibilityDetailTest, AProgressBarIsNotOfferedToBeMoved) {
+  signIn();
+  press("Vegetarian for PETA", QAccessible::ListItem);
+  auto* bar = named("Share of the goal raised", QAccessible::ProgressBar);
+  EXPECT_EQ(bar->actionInterface(), nullptr);
+  EXPECT_EQ(bar->valueInterface(), nullptr) << "from which the bridge would make two actions";
+  EXPECT_NE(bar->valueInterface(), nullptr);
+  EXPECT_EQ(bar->actionInterface(), nullptr);
+  EXPECT_EQ(bar->role(), QAccessible::ProgressBar);
+  EXPECT_NE(bar->valueInterface(), nullptr);
 }
 
 TEST_F(AccessibilityDetailTest, TheTabListHasAName) {

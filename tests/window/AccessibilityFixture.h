@@ -67,6 +67,11 @@ class AccessibilityTest : public testing::Test {
     input->actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
     app.typeKeys(text);
   }
+  void signIn() {
+    enter("E-mail", "wren");
+    enter("Password", "secret");
+    press("Sign in");
+  }
 
   WindowApplication app;
 };

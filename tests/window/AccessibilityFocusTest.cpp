@@ -9,11 +9,6 @@ namespace {
 // Where a screen reader stands when a screen has come or come back.
 class AccessibilityFocusTest : public AccessibilityTest {
  protected:
-  void signIn() {
-    enter("E-mail", "wren");
-    enter("Password", "secret");
-    press("Sign in");
-  }
   void openUpdateOfFirstFunded() {
     press("Funded", QAccessible::PageTab);
     press(QString::fromStdString(campaignsIFunded()[0]->title()), QAccessible::ListItem);
