@@ -1,14 +1,19 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <map>
 #include <ostream>
 #include <set>
 
 #include "tests/look/ApprovedPicture.h"
+#include "tests/look/GlassItems.h"
+#include "tests/look/MaskedPicture.h"
 #include "tests/look/Stages.h"
+#include "tests/look/TextRendering.h"
 
-// The settled window of every stage is held to a picture that somebody looked at and approved. Only
-// tools/approve renews the pictures, by setting LEAFUND_APPROVE.
+// The settled window of every stage is held to a picture that somebody looked at and approved: to
+// every pixel with the text rendering that it was approved with, with another one to every pixel
+// beside the letters. Only tools/approve renews the pictures, by setting LEAFUND_APPROVE.
 
 namespace leafund {
 namespace {
@@ -51,15 +56,58 @@ std::vector<Sitting> sittings() {
   return all;
 }
 
+// What the pictures were approved with. tools/approve keeps it.
+const char* const kRecord = "text-rendering.txt";
+
+bool isRenderedAlike(const std::string& picture) {
+  static const RenderingRecord record(fs::path(LEAFUND_APPROVED_DIR) / kRecord);
+  return record.of(picture) == textRendering();
+}
+
+// Where texts are seen, in pixels of the photograph. Antialiasing may touch one pixel more.
+std::vector<QRect> placesOfLetters(const QQuickWindow& window) {
+  const QTransform toPixels =
+      QTransform::fromScale(window.effectiveDevicePixelRatio(), window.effectiveDevicePixelRatio());
+  std::vector<QRect> places;
+  for (const auto* item : shownItems(*window.contentItem())) {
+    if (!isText(*item)) continue;
+    const QRectF seen = seenPart(*item, QRectF(QPointF(0, 0), item->size()));
+    if (seen.isEmpty()) continue;
+    places.push_back(toPixels.mapRect(seen).toAlignedRect().adjusted(-1, -1, 1, 1));
+  }
+  return places;
+}
+
+// Texts that just fit, or just do not: with another rendering their lines break at other words, a
+// sum's flag stands further on, or a picture below them begins at another part of a pixel and
+// doubles another row.
+const std::set<std::string> kHangOnWidths = {
+    "browse-filled-320x568.png",           "browse-no-picture-320x568.png",
+    "campaign-largest-sums-1024x768.png",  "campaign-long-texts-1024x768.png",
+    "campaign-long-texts-390x844.png",     "campaign-long-texts-430x932.png",
+    "new-campaign-long-texts-390x844.png", "new-campaign-refused-430x932.png",
+    "update-written-320x568.png",          "update-written-font150-320x568.png"};
+
+bool isComparable(const std::string& picture) {
+  return isRenderedAlike(picture) || !kHangOnWidths.contains(picture);
+}
+
 bool approves() { return std::getenv("LEAFUND_APPROVE") != nullptr; }
 
-void approve(const QImage& now, const fs::path& path) {
+// A picture that only another text rendering makes different stays as it is.
+void approve(const QImage& now, const fs::path& path, const QQuickWindow& window) {
   const QImage before(QString::fromStdString(path.string()));
-  const auto difference = differenceOf(before, now);
-  if (difference && difference->greatest == 0) return;
+  const auto exact = differenceOf(before, now);
+  if (exact && exact->greatest == 0) return;
+  if (exact && !isComparable(path.filename())) return;
+  if (exact && !isRenderedAlike(path.filename()) &&
+      isTheSame(*maskedDifferenceOf(before, now, placesOfLetters(window)))) {
+    return;
+  }
   ASSERT_TRUE(save(now, path)) << path;
   std::cout << "approved: " << path.filename().string()
-            << (before.isNull() ? " (new)" : " (changed)") << std::endl;
+            << (before.isNull() ? " (new)" : " (changed)") << " with " << textRendering()
+            << std::endl;
 }
 
 // All three beside one another, for whoever looks into it.
@@ -73,24 +121,23 @@ std::string keepEvidence(const QImage& approved, const QImage& now, const QImage
   return folder.string();
 }
 
-void compare(const QImage& now, const fs::path& path) {
+void compare(const QImage& now, const fs::path& path, const QQuickWindow& window) {
+  if (!isComparable(path.filename())) return;
   const std::string name = path.stem().string();
   const QImage approved(QString::fromStdString(path.string()));
-  if (approved.isNull()) {
-    ADD_FAILURE() << name << " has no approved picture; this is how it looks: "
-                  << keepEvidence({}, now, {}, name);
+  if (approved.isNull() || approved.size() != now.size()) {
+    ADD_FAILURE() << name << " has no approved picture of this size: "
+                  << keepEvidence(approved, now, {}, name);
     return;
   }
-  const auto difference = differenceOf(approved, now);
-  if (!difference) {
-    ADD_FAILURE() << name << " has another size: " << keepEvidence(approved, now, {}, name);
-    return;
-  }
-  testing::Test::RecordProperty(name, difference->greatest);
-  EXPECT_TRUE(isTheSame(*difference))
-      << name << " differs in " << difference->share * 100 << " % of its pixels, by "
-      << difference->greatest << " at most; see "
-      << keepEvidence(approved, now, difference->picture, name);
+  const auto difference = isRenderedAlike(path.filename())
+                              ? MaskedDifference{*differenceOf(approved, now), 0}
+                              : *maskedDifferenceOf(approved, now, placesOfLetters(window));
+  testing::Test::RecordProperty(name, difference.beside.greatest);
+  EXPECT_TRUE(isTheSame(difference))
+      << name << " differs in " << difference.beside.share * 100 << " % of its pixels, by "
+      << difference.beside.greatest << " at most, and its letters by " << difference.letters
+      << " in the mean; see " << keepEvidence(approved, now, difference.beside.picture, name);
 }
 
 class ApprovalTest : public testing::TestWithParam<Sitting> {};
@@ -104,20 +151,47 @@ TEST_P(ApprovalTest, TheGlassLooksAsApproved) {
     app.resize(size);
     const QImage now = app.photograph();
     const fs::path path = fs::path(LEAFUND_APPROVED_DIR) / fileName(sitting, size);
-    approves() ? approve(now, path) : compare(now, path);
+    (approves() ? approve : compare)(now, path, app.window());
   }
 }
 
 INSTANTIATE_TEST_SUITE_P(Stages, ApprovalTest, testing::ValuesIn(sittings()),
                          [](const auto& each) { return testName(nameOf(each.param)); });
 
+// Says, too, what ./test then says beside the result.
+TEST(ApprovedFolderTest, EveryPictureHasARenderingThatItWasApprovedWith) {
+  const StageApplication app({}, StageApplication::Pictures::Silent, kNatural);
+  const std::string here = textRendering();
+  const RenderingRecord record(fs::path(LEAFUND_APPROVED_DIR) / kRecord);
+  std::map<std::string, std::pair<int, int>> others;  // with them, and not compared
+  for (const auto& sitting : sittings()) {
+    for (const QSize size : sitting.sizes) {
+      const std::string name = fileName(sitting, size);
+      const std::string& rendering = record.of(name);
+      EXPECT_TRUE(approves() || rendering.starts_with("Qt ")) << name;
+      if (rendering == here) continue;
+      ++others[rendering].first;
+      others[rendering].second += !isComparable(name);
+    }
+  }
+  for (const auto& name : record.named()) {
+    EXPECT_TRUE(fs::exists(fs::path(LEAFUND_APPROVED_DIR) / name)) << name;
+  }
+  for (const auto& [rendering, count] : others) {
+    std::cout << "note: letters masked in " << count.first - count.second << " pictures and "
+              << count.second << " left out: approved with " << rendering << ", here " << here
+              << std::endl;
+  }
+}
+
 TEST(ApprovedFolderTest, EveryApprovedPictureIsOfAStageAndHasAnUnmistakableName) {
-  std::set<std::string> wanted;
+  std::set<std::string> wanted = {kRecord};
   for (const auto& sitting : sittings()) {
     for (const QSize size : sitting.sizes) {
       EXPECT_TRUE(wanted.insert(fileName(sitting, size)).second) << fileName(sitting, size);
     }
   }
+  for (const auto& name : kHangOnWidths) EXPECT_TRUE(wanted.contains(name)) << name;
   std::set<std::string> there;
   for (const auto& file : fs::directory_iterator(LEAFUND_APPROVED_DIR)) {
     there.insert(file.path().filename().string());
