@@ -1,0 +1,48 @@
+#include <QTcpSocket>
+#include <QTimer>
+
+#include "tests/support/PictureAnswersProtocol.h"
+#include "tests/window/TransferFixture.h"
+
+namespace leafund {
+namespace {
+
+// A line of the head at a time.
+PictureServer::Answer dripHead(int lines, std::chrono::milliseconds pause) {
+  return [lines, pause](QTcpSocket& client) {
+    client.write("HTTP/1.1 200 OK\r\nContent-Length: 5\r\n");
+    auto* timer = new QTimer(&client);
+    QObject::connect(timer, &QTimer::timeout, &client, [&client, timer, left = lines]() mutable {
+      if (--left > 0) {
+        client.write("X-More: to come\r\n");
+        return;
+      }
+      client.write("\r\nbytes");
+      timer->stop();
+    });
+    timer->start(pause);
+  };
+}
+
+TEST_F(CurlTransferTest, ASlowHeadMayTakeLongerThanTheIdleTime) {
+  EXPECT_TRUE(answered(dripHead(14, 100ms), {.idle = 1s}).isResponse(200, "bytes"));
+}
+
+// What was used for one answer is used for the next.
+TEST_F(CurlTransferTest, EachOfManyAnswersMayHaveALongHead) {
+  CurlTransfer transfer;
+  const auto url = server_.serve("/picture", answers::manyHeaders("bytes", 20'000));
+  for (int i = 0; i < 3; ++i) EXPECT_TRUE(fetched(transfer, url).isResponse(200, "bytes")) << i;
+}
+
+TEST_F(CurlTransferTest, WhoWaitsBehindASilentHostIsIdleTooAndIsNeverAsked) {
+  CurlTransfer transfer({.idle = 1s});
+  const auto url = server_.serve("/picture", answers::neverAnswers());
+  std::vector<std::future<Outcome>> outcomes;
+  for (int i = 0; i < 9; ++i) outcomes.push_back(started(transfer, url));
+  for (auto& outcome : outcomes) EXPECT_TRUE(outcomeOf(std::move(outcome)).isError());
+  EXPECT_EQ(server_.requests().size(), 6U);
+}
+
+}  // namespace
+}  // namespace leafund
