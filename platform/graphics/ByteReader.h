@@ -6,12 +6,6 @@
 
 namespace leafund {
 
-// A side length as a file format can claim it: not checked for sense, zero included.
-struct PixelSize {
-  std::uint32_t width;
-  std::uint32_t height;
-};
-
 // Reads a file format's numbers from bytes it does not own. Reading past the end gives zeros and
 // leaves the reader no longer good, for ever: one question after several reads is enough.
 class ByteReader {
@@ -19,7 +13,6 @@ class ByteReader {
   explicit ByteReader(std::string_view bytes) : rest_{bytes} {}
 
   bool good() const { return good_; }
-  bool atEnd() const { return rest_.empty(); }
   std::size_t left() const { return rest_.size(); }
 
   std::string_view take(std::size_t count) {
@@ -32,6 +25,9 @@ class ByteReader {
     rest_.remove_prefix(count);
     return taken;
   }
+
+  // What there is of so many bytes; where there are fewer, the reader stays good.
+  std::string_view takeUpTo(std::size_t count) { return take(count < left() ? count : left()); }
 
   std::uint8_t byte() {
     const std::string_view taken = take(1);
@@ -51,6 +47,16 @@ class ByteReader {
   std::uint32_t little16() {
     const std::uint32_t low = byte();
     return low | static_cast<std::uint32_t>(byte()) << 8;
+  }
+
+  std::uint32_t little24() {
+    const std::uint32_t low = little16();
+    return low | static_cast<std::uint32_t>(byte()) << 16;
+  }
+
+  std::uint32_t little32() {
+    const std::uint32_t low = little16();
+    return low | little16() << 16;
   }
 
  private:

@@ -1,10 +1,6 @@
 #include "platform/graphics/PictureHeader.h"
 
-#include <cstdint>
-
-#include "platform/graphics/GifHeader.h"
-#include "platform/graphics/JpegHeader.h"
-#include "platform/graphics/PngHeader.h"
+#include "platform/graphics/FrameHeader.h"
 
 namespace leafund {
 
@@ -12,22 +8,23 @@ namespace {
 
 using Format = PictureHeader::Format;
 
-constexpr std::uint32_t largestSide = 16384;
-constexpr std::uint64_t mostPixelBytes = 128ULL * 1024 * 1024;
+constexpr std::uint32_t largestSide = 65535;
 
-std::optional<PictureHeader> withinLimits(Format format, std::optional<PixelSize> size) {
-  if (!size || size->width == 0 || size->height == 0) return std::nullopt;
-  if (size->width > largestSide || size->height > largestSide) return std::nullopt;
-  if (4ULL * size->width * size->height > mostPixelBytes) return std::nullopt;
-  return PictureHeader{format, static_cast<int>(size->width), static_cast<int>(size->height)};
+bool isSide(std::uint32_t side) { return side >= 1 && side <= largestSide; }
+
+std::optional<PictureHeader> withinLimits(Format format, const FrameHeader& frame) {
+  if (!isSide(frame.width) || !isSide(frame.height)) return std::nullopt;
+  return PictureHeader{format, static_cast<int>(frame.width), static_cast<int>(frame.height),
+                       frame.orientation};
 }
 
 }  // namespace
 
 std::optional<PictureHeader> readPictureHeader(std::string_view body) {
-  if (beginsAsJpeg(body)) return withinLimits(Format::JPEG, jpegSize(body));
-  if (beginsAsPng(body)) return withinLimits(Format::PNG, pngSize(body));
-  if (beginsAsGif(body)) return withinLimits(Format::GIF, gifSize(body));
+  if (const auto frame = readJpeg(body)) return withinLimits(Format::JPEG, *frame);
+  if (const auto frame = readPng(body)) return withinLimits(Format::PNG, *frame);
+  if (const auto frame = readGif(body)) return withinLimits(Format::GIF, *frame);
+  if (const auto frame = readWebP(body)) return withinLimits(Format::WebP, *frame);
   return std::nullopt;
 }
 

@@ -5,24 +5,29 @@
 
 namespace leafund {
 
-// What a picture's header tells. Sizes are in pixels, as stored: no rotation is applied.
+// What a picture's header tells.
 struct PictureHeader {
-  enum class Format { JPEG, PNG, GIF };
+  enum class Format { JPEG, PNG, GIF, WebP };
 
   Format format;
+  // In pixels, as stored: of the frame, and of a GIF the canvas.
   int width;
   int height;
+  // As Exif counts the ways to turn and mirror a stored picture until it is upright: 1 to 8, and 1
+  // is as it is.
+  int orientation = 1;
+
+  // Whether its sides change places when it is upright.
+  bool isTurned() const { return orientation >= 5; }
 };
 
 // The header of the picture in `body`, or nothing when the body is no picture. It is one when its
-// first bytes are those of a JPEG, PNG or GIF and everything up to the pixel data is whole and
-// readable. The pixel data is not looked at, so a download that was cut short there is a picture
-// still. Sides are 1 to 16,384 pixels, and the pixels, at 4 bytes each, take at most 128 MB: a
-// small body can claim any size, and a claim must not cost memory.
+// first bytes are those of a JPEG, PNG, GIF or WebP, and the size can be read and is 1 to 65,535
+// pixels a side. Nothing else is looked at: what cannot be drawn of a picture is for its decoder to
+// find, and stops nothing.
 //
-// Every host answers by this rule and not by what its own decoder takes. It asks for what ordinary
-// decoders can do: of JPEG (ITU-T T.81) the 8-bit Huffman frames, sequential or progressive, in 1,
-// 3 or 4 components. Takes time in proportion to the header's length, and no memory.
+// Every host answers by this rule and not by what its own decoder takes. Takes time in proportion
+// to the number of the body's segments, and no memory.
 std::optional<PictureHeader> readPictureHeader(std::string_view body);
 
 }  // namespace leafund

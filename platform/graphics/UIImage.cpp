@@ -13,6 +13,7 @@ std::shared_ptr<const UIImage> UIImage::initWithData(NSData body) {
   std::shared_ptr<UIImage> image(new UIImage);
   image->body_ = std::move(body);
   image->size_ = {static_cast<double>(header->width), static_cast<double>(header->height)};
+  if (header->isTurned()) std::swap(image->size_.width, image->size_.height);
   return image;
 }
 

@@ -8,8 +8,8 @@
 #include <cmath>
 #include <mutex>
 
+#include "platform/graphics/ByteReader.h"
 #include "platform/graphics/PictureHeader.h"
-#include "platform/graphics/PngHeader.h"
 
 namespace leafund {
 
@@ -23,6 +23,8 @@ const char* readerName(PictureHeader::Format format) {
       return "png";
     case PictureHeader::Format::GIF:
       return "gif";
+    case PictureHeader::Format::WebP:
+      return "webp";
   }
   return "";
 }
@@ -50,6 +52,19 @@ QSize ownPixels(const UIImage& image) {
   return {side(image.size().width), side(image.size().height)};
 }
 
+// The beginning of a PNG, up to the first chunk that is not there whole. Its decoder takes room for
+// all that such a chunk announces, up to 2 GB, before it looks for the bytes.
+std::string_view pngWholeChunks(std::string_view body) {
+  constexpr std::size_t around = 12;  // its length, its name and its checksum
+  std::size_t end = 8;                // behind the signature
+  for (;;) {
+    ByteReader chunk{body.substr(end)};
+    const std::size_t length = chunk.big32();
+    if (!chunk.good() || body.size() - end < around + length) return body.substr(0, end);
+    end += around + length;
+  }
+}
+
 // The format is named and not guessed by the reader, whose plug-ins may know formats that read
 // other files.
 QImage decoded(const std::string& body, PictureHeader::Format format, QSize size) {
@@ -69,6 +84,16 @@ QImage decoded(const std::string& body, PictureHeader::Format format, QSize size
   reader.setAutoTransform(false);
   reader.setScaledSize(size);
   return reader.read();
+}
+
+// Turned and mirrored as its header says: from 5 on the stored columns are the upright rows.
+QImage upright(QImage picture, int orientation) {
+  if (orientation >= 5) picture = picture.transformed(QTransform(0, 1, 1, 0, 0, 0));
+  const bool isUpsideDown =
+      orientation == 3 || orientation == 4 || orientation == 7 || orientation == 8;
+  const bool isMirrored =
+      orientation == 2 || orientation == 3 || orientation == 6 || orientation == 7;
+  return isMirrored || isUpsideDown ? picture.mirrored(isMirrored, isUpsideDown) : picture;
 }
 
 // The middle of a picture that is drawn at the size `whole`, of which it may be a smaller version.
@@ -91,10 +116,13 @@ QImage middle(const QImage& picture, QSizeF whole, QSize pixels) {
 QImage bodyPixels(const std::string& body, QSize pixels, UIViewContentMode mode) {
   const auto header = readPictureHeader(body);
   if (!header) return {};
-  const QSizeF whole = wholeSize({1.0 * header->width, 1.0 * header->height}, pixels, mode);
-  const QSize size = decodedSize(whole, {header->width, header->height});
-  QImage picture = decoded(body, header->format, size);
+  const QSize stored(header->width, header->height);
+  const QSize own = header->isTurned() ? stored.transposed() : stored;
+  const QSizeF whole = wholeSize({1.0 * own.width(), 1.0 * own.height()}, pixels, mode);
+  const QSize size = decodedSize(whole, own);
+  QImage picture = decoded(body, header->format, header->isTurned() ? size.transposed() : size);
   if (picture.isNull()) return picture;
+  picture = upright(std::move(picture), header->orientation);
   const bool isJpeg = header->format == PictureHeader::Format::JPEG;
   picture.convertTo(isJpeg ? QImage::Format_RGB32 : QImage::Format_ARGB32_Premultiplied);
   return middle(picture, whole, pixels);

@@ -4,6 +4,7 @@
 #include <array>
 #include <memory>
 #include <string>
+#include <utility>
 
 #include "platform/graphics/PictureHeader.h"
 #include "platform/qt/PicturePixels.h"
@@ -23,7 +24,17 @@ using Format = PictureHeader::Format;
 constexpr int mostPixelsDrawn = 16 * 1024;
 
 const char* readerName(Format format) {
-  return format == Format::JPEG ? "jpeg" : format == Format::PNG ? "png" : "gif";
+  switch (format) {
+    case Format::JPEG:
+      return "jpeg";
+    case Format::PNG:
+      return "png";
+    case Format::GIF:
+      return "gif";
+    case Format::WebP:
+      break;
+  }
+  return "webp";
 }
 
 // Whether the decoder, if it knows the size, knows the same. It does not believe a GIF that claims
@@ -92,9 +103,10 @@ void picture(std::string_view input) {
   const auto image = UIImage::initWithData(body);
   promised(header.has_value() == (image != nullptr), "the header alone says what is a picture");
   if (!header) return;
-  promised(image->size() == CGSize{1.0 * header->width, 1.0 * header->height},
-           "a picture has the size that its header says");
-  if (header->width * header->height > mostPixelsDrawn) return;
+  CGSize size{1.0 * header->width, 1.0 * header->height};
+  if (header->isTurned()) std::swap(size.width, size.height);
+  promised(image->size() == size, "a picture has the size that its header says, upright");
+  if (1LL * header->width * header->height > mostPixelsDrawn) return;
   promised(decoderAgrees(*body, *header), "the decoder reads the size as the header's reader does");
   static Tally drawn("drawn");
   drawn.add(1);

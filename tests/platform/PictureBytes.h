@@ -15,6 +15,17 @@ inline std::string byte(unsigned value) { return {static_cast<char>(value & 255)
 inline std::string big16(unsigned value) { return byte(value >> 8) + byte(value); }
 inline std::string big32(unsigned value) { return big16(value >> 16) + big16(value); }
 inline std::string little16(unsigned value) { return byte(value) + byte(value >> 8); }
+inline std::string little24(unsigned value) { return little16(value) + byte(value >> 16); }
+inline std::string little32(unsigned value) { return little16(value) + little16(value >> 16); }
+
+// Exif: what a camera says, with one entry. `big` begins numbers at their big end.
+inline std::string exif(unsigned orientation, bool big = false, unsigned tag = 0x0112,
+                        unsigned type = 3) {
+  const auto number16 = big ? big16 : little16;
+  const auto number32 = big ? big32 : little32;
+  return (big ? "MM" : "II") + number16(42) + number32(8) + number16(1) + number16(tag) +
+         number16(type) + number32(1) + number16(orientation) + number16(0) + number32(0);
+}
 
 // JPEG.
 
@@ -25,31 +36,21 @@ inline std::string segment(unsigned marker, std::string_view content) {
          std::string{content};
 }
 
-inline std::string quantisation(unsigned slot = 0) {
-  return segment(0xDB, byte(slot) + std::string(64, '\1'));
+inline std::string frame(unsigned marker, unsigned width, unsigned height) {
+  return segment(marker,
+                 byte(8) + big16(height) + big16(width) + byte(1) + byte(1) + byte(0x11) + byte(0));
 }
 
-// One code of one bit, which is the smallest table there is.
-inline std::string huffman(unsigned kindAndSlot) {
-  return segment(0xC4, byte(kindAndSlot) + byte(1) + std::string(15, '\0') + byte(0));
+inline std::string scan() {
+  return segment(0xDA, byte(1) + byte(1) + byte(0) + byte(0) + byte(63) + byte(0));
 }
 
-inline std::string frame(unsigned marker, unsigned width, unsigned height, unsigned components = 1,
-                         unsigned precision = 8, unsigned sampling = 0x11) {
-  std::string content = byte(precision) + big16(height) + big16(width) + byte(components);
-  for (unsigned at = 1; at <= components; ++at) content += byte(at) + byte(sampling) + byte(0);
-  return segment(marker, content);
+inline std::string exifSegment(const std::string& content) {
+  return segment(0xE1, std::string("Exif\0\0", 6) + content);
 }
 
-inline std::string scan(unsigned components = 1, unsigned last = 63) {
-  std::string content = byte(components);
-  for (unsigned at = 1; at <= components; ++at) content += byte(at) + byte(0);
-  return segment(0xDA, content + byte(0) + byte(last) + byte(0));
-}
-
-inline std::string jpeg(unsigned width, unsigned height) {
-  return jpegStart + segment(0xE0, "JFIF") + quantisation() + frame(0xC0, width, height) +
-         huffman(0x00) + huffman(0x10) + scan() + "\x55";
+inline std::string jpeg(unsigned width, unsigned height, const std::string& before = "") {
+  return jpegStart + segment(0xE0, "JFIF") + before + frame(0xC0, width, height) + scan() + "\x55";
 }
 
 // PNG.
@@ -63,10 +64,8 @@ inline std::string chunk(std::string_view name, std::string_view data) {
   return big32(static_cast<unsigned>(data.size())) + nameAndData + big32(checksum);
 }
 
-inline std::string imageHeader(unsigned width, unsigned height, unsigned depth = 8,
-                               unsigned colourType = 2) {
-  return chunk(
-      "IHDR", big32(width) + big32(height) + byte(depth) + byte(colourType) + std::string(3, '\0'));
+inline std::string imageHeader(unsigned width, unsigned height) {
+  return chunk("IHDR", big32(width) + big32(height) + byte(8) + byte(2) + std::string(3, '\0'));
 }
 
 inline std::string png(unsigned width, unsigned height) {
@@ -75,19 +74,32 @@ inline std::string png(unsigned width, unsigned height) {
 
 // GIF.
 
-inline std::string screen(unsigned width, unsigned height, unsigned flags = 0) {
-  return little16(width) + little16(height) + byte(flags) + std::string(2, '\0');
-}
-
-inline std::string frameAt(unsigned left, unsigned top, unsigned width, unsigned height,
-                           unsigned flags = 0) {
-  return "\x2C" + little16(left) + little16(top) + little16(width) + little16(height) + byte(flags);
-}
-
-inline const std::string gifPixels = byte(2) + byte(1) + byte(0x44) + byte(0);
-
 inline std::string gif(unsigned width, unsigned height) {
-  return "GIF89a" + screen(width, height) + frameAt(0, 0, width, height) + gifPixels + "\x3B";
+  return "GIF89a" + little16(width) + little16(height) + std::string(3, '\0') + "\x3B";
+}
+
+// WebP.
+
+inline std::string riffChunk(std::string_view name, const std::string& data) {
+  return std::string{name} + little32(static_cast<unsigned>(data.size())) + data +
+         std::string(data.size() % 2, '\0');
+}
+
+inline std::string webp(const std::string& chunks) {
+  return "RIFF" + little32(static_cast<unsigned>(chunks.size()) + 4) + "WEBP" + chunks;
+}
+
+inline std::string lossyWebP(unsigned width, unsigned height) {
+  return webp(riffChunk("VP8 ", std::string(3, '\0') + "\x9D\x01\x2A" + little16(width) +
+                                    little16(height) + "pixels"));
+}
+
+inline std::string losslessWebP(unsigned width, unsigned height) {
+  return webp(riffChunk("VP8L", "\x2F" + little32((width - 1) | (height - 1) << 14) + "pixels"));
+}
+
+inline std::string extendedWebP(unsigned width, unsigned height, const std::string& others = "") {
+  return webp(riffChunk("VP8X", little32(0) + little24(width - 1) + little24(height - 1)) + others);
 }
 
 }  // namespace leafund::picturebytes

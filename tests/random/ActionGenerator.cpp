@@ -15,23 +15,22 @@ Action just(ActionKind kind) { return {.kind = kind}; }
 
 bool isWhole(const Action& action) {
   if (action.ending != Ending::Picture) return action.ending != Ending::Junk;
-  return action.width >= 1 && action.height >= 1 && action.width <= 16384 &&
-         action.height <= 16384 && action.width * action.height <= 16384.0 * 2048;
+  return action.width >= 1 && action.height >= 1;
 }
 
 Action numbered(ActionKind kind, long number) { return {.kind = kind, .number = number}; }
 
-// The size of a picture: mostly small, sometimes at the limits of what is a picture.
-void drawPicture(Chance& chance, Action& action, bool mayBeTooLarge) {
+// The size of a picture: mostly small, sometimes at the limits of what is a picture. A GIF cannot
+// tell a side beyond them, and of several answered together each is wider by one.
+void drawPicture(Chance& chance, Action& action, bool mayBeEmpty) {
   static constexpr std::pair<double, double> kLimits[] = {
-      {1, 1}, {16384, 1}, {16384, 2048}, {1, 16384}};
-  static constexpr std::pair<double, double> kBeyond[] = {
-      {0, 5}, {16385, 1}, {16384, 2049}, {1, 16385}, {5, 0}};
+      {1, 1}, {65000, 1}, {65000, 65535}, {1, 65535}};
+  static constexpr std::pair<double, double> kEmpty[] = {{0, 5}, {5, 0}};
   std::tie(action.width, action.height) = std::pair(static_cast<double>(chance.between(1, 2000)),
                                                     static_cast<double>(chance.between(1, 2000)));
   if (chance.percent(4)) std::tie(action.width, action.height) = chance.oneOf(kLimits);
-  if (mayBeTooLarge && chance.percent(15)) {
-    std::tie(action.width, action.height) = chance.oneOf(kBeyond);
+  if (mayBeEmpty && chance.percent(15)) {
+    std::tie(action.width, action.height) = chance.oneOf(kEmpty);
   }
 }
 

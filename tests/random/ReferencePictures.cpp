@@ -7,11 +7,10 @@ namespace leafund::random {
 
 namespace {
 
-// A body is a picture when its sides are 1 to 16,384 pixels and its pixels take at most 128 MB.
+// A body is a picture when its sides are 1 to 65,535 pixels.
 PictureFacts pictureIn(const Action& action, double width) {
   const bool fits = action.ending == Ending::Picture && width >= 1 && action.height >= 1 &&
-                    width <= 16384 && action.height <= 16384 &&
-                    width * action.height * 4 <= 128.0 * 1024 * 1024;
+                    width <= 65535 && action.height <= 65535;
   if (!fits) return {};
   return {static_cast<int>(width), static_cast<int>(action.height), false};
 }

@@ -5,31 +5,6 @@
 namespace leafund {
 namespace {
 
-// A little-endian Exif segment that says one thing: "turn by a quarter" (orientation 6).
-std::string withQuarterTurn(const std::string& jpeg) {
-  using namespace std::string_literals;
-  const std::string tiff = "II*\0\x08\0\0\0\x01\0\x12\x01\x03\0\x01\0\0\0\x06\0\0\0\0\0\0\0"s;
-  const std::string exif = "Exif\0\0"s;
-  std::string turned = jpeg.substr(0, 2);
-  turned += "\xFF\xE1"s;
-  turned += '\0';
-  turned += static_cast<char>(2 + exif.size() + tiff.size());
-  turned.append(exif).append(tiff).append(jpeg, 2);
-  return turned;
-}
-
-TEST(PicturePixelsTest, ARotationThatThePictureTellsIsNotApplied) {
-  const auto turned = withQuarterTurn(*written(quadrants({640, 480}), "jpeg"));
-  QByteArray bytes = QByteArray::fromStdString(turned);
-  QBuffer buffer(&bytes);
-  ASSERT_EQ(QImageReader(&buffer, "jpeg").transformation(),
-            QImageIOHandler::TransformationRotate90);
-
-  const auto recipe = UIImage::initWithData(std::make_shared<const std::string>(turned));
-
-  expectQuadrants(picturePixels(*recipe, {128, 128}, stretch));
-}
-
 TEST(PicturePixelsTest, AJpegThatWasCutShortShowsItsBeginning) {
   // Random colours are hard to pack, so that the cut falls in the middle of the picture.
   QImage noise = quadrants({640, 480});
@@ -61,15 +36,6 @@ TEST(PicturePixelsTest, APictureWithAHeaderAloneGivesNothingOrGrey) {
     const QImage image = picturePixels(*shortest, {16, 16}, stretch);
     EXPECT_TRUE(image.isNull() || shows(image, 8, 8, QColor(128, 128, 128))) << format;
   }
-}
-
-TEST(PicturePixelsTest, AHeaderThatClaimsAHugePictureIsNoPicture) {
-  std::string huge = *written(quadrants({64, 64}), "jpeg");
-  const std::size_t frame = huge.find("\xFF\xC0");
-  ASSERT_NE(frame, std::string::npos);
-  huge.replace(frame + 5, 4, "\xFD\xE8\xFD\xE8");  // 65,000 by 65,000
-
-  EXPECT_FALSE(UIImage::initWithData(std::make_shared<const std::string>(huge)));
 }
 
 // In kilobytes, of addresses: room that was taken and never filled counts, too.
