@@ -37,6 +37,7 @@ enum class Twist {
   CountIsNotPrinted,
   NoBackFromTheForm,
   AnotherReasonToStop,
+  TapIsLost,  // on its way from the window to the application
 };
 
 // The whole application a second time: the lists, the screens and what is on them, written from

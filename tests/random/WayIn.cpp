@@ -36,8 +36,9 @@ LEAFUND_WRAP(endEditing,
 LEAFUND_WRAP(pressReturn,
              "ZN7leafund13UIApplication11pressReturnERKSt10shared_ptrINS_11UITextFieldEE",
              UIApplication*, const Field&);
-LEAFUND_WRAP(scroll, "ZN7leafund13UIApplication6scrollERKSt10shared_ptrINS_11UITableViewEEd",
-             UIApplication*, const Table&, double);
+LEAFUND_WRAP(scroll,
+             "ZN7leafund13UIApplication6scrollERKSt10shared_ptrINS_11UITableViewEEdSt8optionalIjE",
+             UIApplication*, const Table&, double, std::optional<unsigned>);
 LEAFUND_WRAP(resize, "ZN7leafund13UIApplication6resizeENS_6CGSizeE", UIApplication*, CGSize);
 LEAFUND_WRAP(goBack, "ZN7leafund13UIApplication6goBackEv", UIApplication*);
 
@@ -51,7 +52,7 @@ class Passage {
  public:
   Passage() { ++depth; }
   explicit Passage(const UserEvent& event) : Passage() {
-    if (theListener != nullptr) theListener->arrives(event);
+    passes_ = theListener == nullptr || theListener->arrives(event);
   }
   Passage(const Passage&) = delete;
   Passage& operator=(const Passage&) = delete;
@@ -59,6 +60,10 @@ class Passage {
     // What a skin raises within a turn waits for it.
     if (--depth == 0 && theListener != nullptr) theListener->turnIsOver();
   }
+  bool passes() const { return passes_; }
+
+ private:
+  bool passes_ = true;
 };
 
 }  // namespace
@@ -72,7 +77,7 @@ void turnWrapped(UIApplication* application, std::function<void()> work) {
 
 void tapWrapped(UIApplication* application, const View& view) {
   const Passage passage({.kind = ActionKind::Tap, .view = view});
-  tapItself(application, view);
+  if (passage.passes()) tapItself(application, view);
 }
 
 void beginEditingWrapped(UIApplication* application, const Input& input) {
@@ -95,9 +100,12 @@ void pressReturnWrapped(UIApplication* application, const Field& field) {
   pressReturnItself(application, field);
 }
 
-void scrollWrapped(UIApplication* application, const Table& table, double offset) {
-  const Passage passage({.kind = ActionKind::Scroll, .view = table, .offset = offset});
-  scrollItself(application, table, offset);
+void scrollWrapped(UIApplication* application, const Table& table, double offset,
+                   std::optional<unsigned> placements) {
+  const bool outdated = table && placements && *placements != table->placements();
+  const Passage passage(
+      {.kind = ActionKind::Scroll, .view = outdated ? nullptr : table, .offset = offset});
+  scrollItself(application, table, offset, placements);
 }
 
 void resizeWrapped(UIApplication* application, CGSize size) {

@@ -12,7 +12,8 @@ namespace leafund::random {
 // A user event as it reaches the application, before it is taken up.
 struct UserEvent {
   ActionKind kind = ActionKind::Tap;
-  std::shared_ptr<UIView> view = {};  // null where the event has none, or where its view is gone
+  std::shared_ptr<UIView> view =
+      {};  // null where it has none, where that is gone, and where a list has moved since
   std::string text = {};
   double offset = 0;
   CGSize size = {};
@@ -21,7 +22,8 @@ struct UserEvent {
 class WayInListener {
  public:
   virtual ~WayInListener() = default;
-  virtual void arrives(const UserEvent& event) = 0;
+  // False keeps a tap from the application.
+  virtual bool arrives(const UserEvent& event) = 0;
   // The application has come to rest again.
   virtual void turnIsOver() = 0;
 };

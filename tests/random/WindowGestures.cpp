@@ -60,13 +60,14 @@ void WindowUser::goBack(Chance& how) {
     return drag({static_cast<double>(how.between(0, 20)), 300},
                 {static_cast<double>(how.between(60, 250)), 310}, how);
   }
-  if (way < 3) return tapItem(itemOf("backButton"), how);
+  if (way == 1) return tapItem(itemOf("backButton"), how);
+  if (way == 2) return pressKeys(Qt::Key_Back, 1, 0, how);
   pressKeys(Qt::Key_Escape, how.percent(80) ? 1 : 2, how.percent(20) ? 4 : 0, how);
 }
 
 void WindowUser::resize(const Action& action, Chance& how) {
   const QSize size(static_cast<int>(action.width), static_cast<int>(action.height));
-  app_.window().resize(size.boundedTo({1100, 1400}).expandedTo(app_.window().minimumSize()));
+  app_.window().resize(size.boundedTo({1100, 1400}).expandedTo({280, 240}));
   if (how.percent(30)) hand_.frames(1, how);
 }
 

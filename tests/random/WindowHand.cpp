@@ -3,6 +3,7 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QInputMethodEvent>
+#include <QKeyEvent>
 #include <QTest>
 #include <QWheelEvent>
 #include <algorithm>
@@ -13,6 +14,7 @@ namespace {
 
 constexpr int kFrame = 16;        // milliseconds
 constexpr int kMostFrames = 400;  // until rest: a fling takes 2 to 3 seconds
+constexpr int kHeldFor = 20;      // milliseconds that a key is down
 constexpr int kLookAhead = 60;    // real milliseconds, after which the host prepares what may come
 
 bool isPrintable(const QString& text) {
@@ -66,11 +68,17 @@ void WindowHand::wheel(QPointF where, int notches) {
 
 void WindowHand::keyDown(int key, const QString& text, Qt::KeyboardModifiers modifiers,
                          bool repeated) {
-  qt_handleKeyEvent(&window_, QEvent::KeyPress, key, modifiers, text, repeated);
+  QKeyEvent event(QEvent::KeyPress, key, modifiers, text, repeated);
+  event.setTimestamp(static_cast<quint64>(clock_.now()));
+  QCoreApplication::sendEvent(&window_, &event);
 }
 
 void WindowHand::keyUp(int key, Qt::KeyboardModifiers modifiers) {
-  qt_handleKeyEvent(&window_, QEvent::KeyRelease, key, modifiers);
+  clock_.pass(kHeldFor);
+  QKeyEvent event(QEvent::KeyRelease, key, modifiers);
+  event.setTimestamp(static_cast<quint64>(clock_.now()));
+  QCoreApplication::sendEvent(&window_, &event);
+  clock_.pass(kHeldFor);
 }
 
 void WindowHand::keyClick(int key, const QString& text, Qt::KeyboardModifiers modifiers) {

@@ -120,7 +120,7 @@ WindowUser::Place WindowUser::placeAt(QPointF where) {
 }
 
 WindowUser::Place WindowUser::placeInFocus(int key) {
-  if (key == Qt::Key_Escape) return {.tap = {"back"}};
+  if (key == Qt::Key_Escape || key == Qt::Key_Back) return {.tap = {"back"}};
   const auto* page = app_.page();
   auto* focus = app_.window().activeFocusItem();
   if (focus == nullptr || page == nullptr || !page->isAncestorOf(focus)) return {};

@@ -35,12 +35,18 @@ class WindowSequence {
         generator_(plan.seed, plan.fate, plan.calm()),
         road_(~plan.seed) {
     watchForStop(report_, printed_, reference_);
+    if (plan.twist == Twist::TapIsLost) app_.loseTaps();
   }
 
   void run() {
+    // It opens no larger than the screen.
+    follow({.kind = ActionKind::Resize,
+            .width = static_cast<double>(app_.window().width()),
+            .height = static_cast<double>(app_.window().height())});
     check();
     const std::size_t length = plan_.script ? plan_.script->size() : plan_.length;
     for (std::size_t at = 0; at < length && told_.empty(); ++at) {
+      if (plan_.tamperAt && at >= *plan_.tamperAt) app_.hideButton();
       act(plan_.script ? (*plan_.script)[at] : next());
     }
     if (!told_.empty()) return tell(report_, told_);

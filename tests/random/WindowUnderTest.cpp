@@ -1,6 +1,7 @@
 #include "tests/random/WindowUnderTest.h"
 
 #include <QQuickItem>
+#include <QRegularExpression>
 
 #include "platform/uikit/UINavigationController.h"
 #include "platform/uikit/UITabContainer.h"
@@ -65,6 +66,18 @@ std::size_t WindowUnderTest::close() {
   return end();
 }
 
+bool WindowUnderTest::arrives(const UserEvent& event) {
+  if (losesTaps_ && event.kind == ActionKind::Tap && ++taps_ % 5 == 0) return false;
+  tell(asAction(event));
+  return true;
+}
+
+void WindowUnderTest::hideButton() {
+  for (auto* item : page()->findChildren<QQuickItem*>(QRegularExpression("Button$"))) {
+    if (!item->objectName().startsWith("back")) item->setVisible(false);
+  }
+}
+
 void WindowUnderTest::tell(const Action& action) {
   arrived_.push_back(action);
   follow_(action);
@@ -81,11 +94,13 @@ Action WindowUnderTest::asAction(const UserEvent& event) {
   // A view that has gone, or is on another screen: one that the reference does not find either.
   action.number = -1;
   action.name = "(elsewhere)";
+  if (event.kind == ActionKind::Scroll && event.view != table()) {
+    action.kind = ActionKind::TellApplication;  // changes nothing
+  }
   if (!event.view || rootOf(*event.view) != top->view().get()) return action;
   const auto tabs = top->tabContainer();
   const auto list = table();
   if (event.kind == ActionKind::Scroll) {
-    if (event.view != list) action.kind = ActionKind::TellApplication;
     action.name.clear();
   } else if (event.view == top->view() ||
              (tabs && event.view == tabs->selectedViewController()->view())) {

@@ -48,13 +48,18 @@ class WindowUnderTest : public AppUnderTest, private WayInListener {
   // The actions told since the last call.
   std::vector<Action> takeArrived() { return std::exchange(arrived_, {}); }
 
+  // Mistakes, to prove that they are noticed: each fifth tap is kept from the application, and a
+  // button is not seen any more.
+  void loseTaps() { losesTaps_ = true; }
+  void hideButton();
+
   // Closes the window and ends the application; answers how many screens outlive that.
   std::size_t close();
 
  private:
   WindowUnderTest(std::unique_ptr<WindowHost> host, std::function<void(const Action&)> follow,
                   std::function<void()> check);
-  void arrives(const UserEvent& event) override { tell(asAction(event)); }
+  bool arrives(const UserEvent& event) override;
   void turnIsOver() override { check_(); }
   void tell(const Action& action);
   Action asAction(const UserEvent& event);
@@ -63,6 +68,8 @@ class WindowUnderTest : public AppUnderTest, private WayInListener {
   std::function<void(const Action&)> follow_;
   std::function<void()> check_;
   std::vector<Action> arrived_;
+  bool losesTaps_ = false;
+  int taps_ = 0;
 };
 
 }  // namespace leafund::random

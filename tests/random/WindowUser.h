@@ -39,12 +39,16 @@ class WindowUser {
     std::size_t depth;
     bool operator==(const Top&) const = default;
   };
-  // The last tap that exchanged the screen: what follows at once at the same place is part of it.
-  struct LastTap {
-    std::optional<QPointF> where = {};
+  // A tap or a key that what follows soon at the same place may be part of. Fingers are told in
+  // real time, all else in that of the frames, so either counts.
+  struct Earlier {
+    QPointF where = {};
     int key = 0;
     int at = 0;
     QElapsedTimer since = {};
+
+    void note(int now, QPointF place);
+    bool soonAfter(int now, QPointF place) const;
   };
 
   void go(const Action& action, Chance& how);
@@ -72,7 +76,6 @@ class WindowUser {
   QPointF anyPoint(Chance& how);
   Place placeAt(QPointF where);
   Place placeInFocus(int key);
-  bool partOf(const LastTap& last) const;
   bool contentMoves();
 
   // What has arrived since the last call.
@@ -87,8 +90,8 @@ class WindowUser {
   WindowUnderTest& app_;
   const ReferenceApp& reference_;
   WindowHand hand_;
-  LastTap last_;
-  QElapsedTimer lastTouch_;
+  Earlier lastClick_, lastKey_;  // those that exchanged the screen
+  Earlier lastTouch_;
   std::string told_;
 };
 
