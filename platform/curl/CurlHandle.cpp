@@ -13,8 +13,8 @@ namespace {
 constexpr std::size_t kMostHeadBytes = std::size_t{300} * 1024;
 constexpr int kMostHeadLines = 5000;
 
-// The number has three digits (RFC 9112, 4). Of a longer one some versions of libcurl read the first
-// three, and others refuse it.
+// The number has three digits (RFC 9112, 4). Of a longer one some versions of libcurl read the
+// first three, and others refuse it.
 bool isStatusLine(std::string_view line) {
   const auto isDigit = [line](std::size_t at) {
     return at < line.size() && line[at] >= '0' && line[at] <= '9';

@@ -11,8 +11,8 @@ namespace {
 
 constexpr std::size_t kMostConnections = 6;  // To a host, as browsers have it.
 
-// Of all hosts together. Left to itself, libcurl keeps four for each fetch under way; 8.14, when one
-// of six was left, closed connections that the next fetches made anew.
+// Of all hosts together. Left to itself, libcurl keeps four for each fetch under way; 8.14, when
+// one of six was left, closed connections that the next fetches made anew.
 constexpr long kKeptConnections = 4 * kMostConnections;
 
 }  // namespace
