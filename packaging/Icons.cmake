@@ -1,5 +1,6 @@
 # The icon as it was drawn and, where rsvg-convert is there to make them, as pictures in the sizes
-# that desktops ask for. Every desktop that matters draws the SVG, too.
+# that desktops ask for. Every desktop that matters draws the SVG, too. The picture beside it is what
+# rsvg-convert makes of it at 64 by 64; it is compiled in, for the window itself.
 set(drawing ${CMAKE_CURRENT_SOURCE_DIR}/icon/leafund.svg)
 set(iconFolder ${CMAKE_INSTALL_DATADIR}/icons/hicolor)
 install(FILES ${drawing}

@@ -1,6 +1,7 @@
 #include "platform/qt/QtWindow.h"
 
 #include <QGuiApplication>
+#include <QIcon>
 #include <QInputMethod>
 #include <QKeyEvent>
 #include <QPointingDevice>
@@ -72,6 +73,12 @@ QtWindow::QtWindow() {
   // No minimum size: a maximised or fullscreen state may be smaller than any, and a window larger
   // than its state is an error that ends a Wayland connection.
   resize(kStartSize.boundedTo(screen()->availableSize()));
+  // After the first frame, which would wait for it longer than a millisecond. Where the app is
+  // installed desktops find the icon by its name, too.
+  connect(
+      this, &QQuickWindow::frameSwapped, this,
+      [this] { setIcon(QIcon(QStringLiteral(":/Leafund/leafund-64.png"))); },
+      static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
   const auto* keyboard = QGuiApplication::inputMethod();
   connect(keyboard, &QInputMethod::keyboardRectangleChanged, this,
           [this, keyboard] { setKeyboardArea(keyboard->keyboardRectangle()); });

@@ -1,6 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <QColor>
 #include <QElapsedTimer>
+#include <QIcon>
+#include <QImage>
 #include <QQuickItem>
 #include <QScreen>
 #include <QTest>
@@ -22,6 +25,14 @@ TEST_F(GlassTest, TheWindowStartsAtThePhonesNaturalSizeOrTheScreensWhereThatIsSm
   const QSize screen = app.window().screen()->availableSize();
   ASSERT_LT(screen.height(), 844);
   EXPECT_EQ(QtWindow().size(), QSize(390, screen.height()));
+}
+
+TEST_F(GlassTest, TheWindowBearsTheIconWithoutBeingInstalled) {
+  ASSERT_TRUE(app.waitUntil([&] { return !app.window().icon().isNull(); }));
+  const QImage icon = app.window().icon().pixmap(64).toImage();
+  ASSERT_EQ(icon.size(), QSize(64, 64));
+  EXPECT_EQ(icon.pixelColor(0, 0).alpha(), 0);
+  EXPECT_EQ(icon.pixelColor(20, 40), QColor("#f0b73f"));  // the coin
 }
 
 // On Wayland a window larger than its maximised or fullscreen state loses its connection, and with
