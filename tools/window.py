@@ -54,11 +54,11 @@ class Window(App):
 
     # Touching
 
-    def click(self, name, roles=None):
+    def click(self, name, roles=None, options=()):
         self.expect(name, roles or CONTROLS)
         self._bring_into_view(name, roles or CONTROLS)
         x, y = self._still_middle(name, roles or CONTROLS)
-        self._xdotool("mousemove", str(x), str(y), "click", "1")
+        self._xdotool("mousemove", str(x), str(y), "click", *map(str, options), "1")
 
     def type_into(self, field, text):
         """Replaces what a field holds."""

@@ -1,0 +1,146 @@
+#!/usr/bin/python3 -B
+"""comeback_walk.py PROCESS: scrolls, opens rows and comes back in the app that runs as PROCESS on
+$DISPLAY, in every way there is, and clicks twice as fast as a user may. After each trip the list must
+stand where it stood, to the pixel, and no double click may press what the first click brought.
+"""
+
+import itertools
+import sys
+import time
+
+from bus import Role, check, go
+from window import ROWS, TABS, Window, run
+
+STEPS = 6  # of the wheel or of a key, from the top to the end of the list and once beyond
+SIZES = ("390 844", "600 800", "1280 800", "844 390")
+INTERVALS = (60, 100, 250, 350)  # milliseconds between the clicks of a double click
+QUESTION = "Do you want to fund this campaign?"
+
+
+class Walk:
+    def __init__(self, window):
+        self.window = window
+        self.ways_back = itertools.cycle((self.by_bar, self.by_escape, self.by_alt_left, self.by_drag))
+        self.id = window.search()
+        window.resize(self.id, SIZES[0])
+
+    def steps(self):
+        return (self.sign_in, self.come_back_after_the_wheel, self.come_back_after_keys, self.click_twice)
+
+    def sign_in(self):
+        self.window.type_into("E-mail", "robin@example.org")
+        self.window.type_into("Password", "green changes")
+        self.window.click("Sign in")
+        self.window.expect("Browse", {Role.HEADING})
+
+    def come_back_after_the_wheel(self):
+        middle = (self.window.width // 2, self.window.height // 2)
+        self.sweep(lambda: self.window.touch("mousemove", *middle, "click", 5))
+
+    def come_back_after_keys(self):
+        self.window.click("Funded", TABS)
+        self.window.click("Browse", TABS)
+        self.window.touch("key", "Tab", "Home")
+        self.sweep(lambda: self.window.touch("key", "Down"))
+
+    def sweep(self, scroll):
+        for _ in range(STEPS):
+            rows = sorted(self.rows_at_rest(), key=lambda name: self.rows[name][1])
+            for name in (rows[0], rows[-1]):  # those that may be half in sight
+                self.trip(name)
+            scroll()
+
+    def trip(self, name):
+        before = self.rows
+        self.window.touch("mousemove", self.window.width // 2, self.seen_middle(before[name]), "click", 1)
+        self.window.expect(name, {Role.HEADING})
+        way_back = next(self.ways_back)
+        way_back()
+        self.window.expect("Browse", {Role.HEADING})
+        after = self.rows_at_rest()
+        check(after == before, f"the list where it was before “{name}”, {way_back.__name__}: {before}, not {after}")
+
+    def by_bar(self):
+        self.window.click("Back")
+
+    def by_escape(self):
+        self.window.touch("key", "Escape")
+
+    def by_alt_left(self):
+        self.window.touch("key", "alt+Left")
+
+    def by_drag(self):
+        ways = [("mousemove", x, 300) for x in range(6, 240, 18)]
+        self.window.touch(*ways[0], "mousedown", 1, *itertools.chain(*ways[1:]), "mouseup", 1)
+
+    def click_twice(self):
+        for size in SIZES:
+            self.window.resize(self.id, size)
+            for interval in INTERVALS:
+                self.fund(("--repeat", 2, "--delay", interval))
+                time.sleep(0.6)  # more than a slide
+                check(self.window.sees(QUESTION), f"no pledge without “Yes”, at {size} and {interval} ms")
+                self.window.click("No")
+                self.window.click("Back")
+        for size in SIZES:
+            self.window.resize(self.id, size)
+            self.fund()
+            self.window.click("Yes")
+            self.window.expect("Thank you for your pledge!")
+            time.sleep(0.6)  # or two clicks at one place are a double click
+            self.window.click("Home")
+
+    def fund(self, options=()):
+        rows = self.rows_at_rest()
+        name = max(rows, key=lambda each: self.seen(rows[each])[1] - self.seen(rows[each])[0])
+        self.window.touch("mousemove", 200, self.seen_middle(rows[name]), "click", 1)
+        self.window.type_into("Amount in dollars", "1")
+        self.window.click("Fund this campaign", options=options)
+        self.window.expect(QUESTION)
+
+    def rows_at_rest(self):
+        """Where the rows in sight stand, by their names, once they stand still; kept in self.rows."""
+        seen = []
+
+        def still():
+            seen.append(self.window.places(ROWS))
+            return len(seen) > 1 and seen[-1] and seen[-1] == seen[-2]
+
+        self.window.wait("rows that stand still", still)
+        ends = {name: self.seen(place) for name, place in seen[-1].items()}
+        self.rows = {name: seen[-1][name] for name, (top, bottom) in ends.items() if bottom - top >= 6}
+        return self.rows
+
+    def seen(self, place):
+        """The upper and lower end of what is seen of a row."""
+        top, bottom = self.window.list_edges()
+        return max(top, place[1]), min(bottom, place[1] + place[3])
+
+    def seen_middle(self, place):
+        return sum(self.seen(place)) // 2
+
+
+class SweptWindow(Window):
+    def search(self):
+        found = run("xdotool", "search", "--sync", "--onlyvisible", "--name", "^Leafund$")
+        return found.decode().split()[0]
+
+    def resize(self, window, size):
+        width, height = (int(side) for side in size.split())
+        self._xdotool("windowsize", window, str(width), str(height))
+        self.width, self.height = width, height
+
+    def touch(self, *words):
+        self._xdotool(*map(str, words))
+
+    def places(self, roles):
+        return {name: place for name, role, place in self._showing() if role in roles}
+
+    def list_edges(self):
+        """The upper and lower edge of the list on top."""
+        lists = [place for _, role, place in self._showing() if role == Role.LIST]
+        return (lists[0][1], lists[0][1] + lists[0][3]) if lists else (0, self.height)
+
+
+if __name__ == "__main__":
+    sys.exit(go(Walk, lambda: SweptWindow(int(sys.argv[1]))))
