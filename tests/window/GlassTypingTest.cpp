@@ -26,6 +26,20 @@ TEST_F(GlassTypingTest, NothingIsCorrectedAndAPasswordIsNotLearned) {
   }
   EXPECT_TRUE(hints("password") & Qt::ImhSensitiveData);
   EXPECT_FALSE(hints("userEmail") & Qt::ImhSensitiveData);
+  click("signInButton");  // its message is read in clear, and what replaces it is a password
+  EXPECT_TRUE(hints("password") & Qt::ImhSensitiveData);
+}
+
+TEST_F(GlassTypingTest, ThePasswordThatReplacesAMessageIsMaskedFromItsFirstLetter) {
+  click("signUpButton");
+  click("signUpButton");
+  auto& field = app.require("passwordField");
+  click("passwordField");
+  constexpr int kPassword = 2;  // of a TextInput's echo modes
+  ASSERT_NE(field.property("echoMode").toInt(), kPassword);
+  QInputMethodEvent composing("s", {});
+  QCoreApplication::sendEvent(&field, &composing);
+  EXPECT_EQ(field.property("echoMode").toInt(), kPassword);
 }
 
 TEST_F(GlassTypingTest, EachInputHasTheKeysOfWhatBelongsThere) {
