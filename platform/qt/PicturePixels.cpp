@@ -1,33 +1,17 @@
 #include "platform/qt/PicturePixels.h"
 
-#include <QBuffer>
-#include <QImageReader>
 #include <QLoggingCategory>
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
 #include <mutex>
 
-#include "platform/graphics/ByteReader.h"
 #include "platform/graphics/PictureHeader.h"
+#include "platform/qt/DecodedPicture.h"
 
 namespace leafund {
 
 namespace {
-
-const char* readerName(PictureHeader::Format format) {
-  switch (format) {
-    case PictureHeader::Format::JPEG:
-      return "jpeg";
-    case PictureHeader::Format::PNG:
-      return "png";
-    case PictureHeader::Format::GIF:
-      return "gif";
-    case PictureHeader::Format::WebP:
-      return "webp";
-  }
-  return "";
-}
 
 // How large the whole picture is drawn, of which the pixels asked for show the middle.
 QSizeF wholeSize(CGSize picture, QSize pixels, UIViewContentMode mode) {
@@ -52,38 +36,28 @@ QSize ownPixels(const UIImage& image) {
   return {side(image.size().width), side(image.size().height)};
 }
 
-// The beginning of a PNG, up to the first chunk that is not there whole. Its decoder takes room for
-// all that such a chunk announces, up to 2 GB, before it looks for the bytes.
-std::string_view pngWholeChunks(std::string_view body) {
-  constexpr std::size_t around = 12;  // its length, its name and its checksum
-  std::size_t end = 8;                // behind the signature
-  for (;;) {
-    ByteReader chunk{body.substr(end)};
-    const std::size_t length = chunk.big32();
-    if (!chunk.good() || body.size() - end < around + length) return body.substr(0, end);
-    end += around + length;
-  }
+// Smaller, in the colours that every screen is taken to show.
+QImage scaledInSRgb(const DecodedPicture& decoded, QSize size) {
+  if (decoded.pixels.isNull()) return {};
+  QImage scaled = decoded.pixels.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+  if (scaled.isNull() || !decoded.colours.isValid()) return scaled;
+  scaled.setColorSpace(decoded.colours);
+  scaled.convertToColorSpace(QColorSpace::SRgb);
+  return scaled;
 }
 
-// The format is named and not guessed by the reader, whose plug-ins may know formats that read
-// other files.
-QImage decoded(const std::string& body, PictureHeader::Format format, QSize size) {
-  static std::once_flag prepared;
-  std::call_once(prepared, [] {
-    // A damaged picture is passed over without a word, and its decoder would warn of it.
-    QLoggingCategory::setFilterRules(QStringLiteral("qt.gui.imageio*.warning=false"));
-    // The header was held to this already; Qt's own limit depends on its version.
-    QImageReader::setAllocationLimit(128);  // MB
-  });
-  const std::string_view sound =
-      format == PictureHeader::Format::PNG ? pngWholeChunks(body) : std::string_view(body);
-  auto bytes = QByteArray::fromRawData(sound.data(), static_cast<qsizetype>(sound.size()));
-  QBuffer buffer(&bytes);
-  QImageReader reader(&buffer, readerName(format));
-  reader.setAutoDetectImageFormat(false);
-  reader.setAutoTransform(false);
-  reader.setScaledSize(size);
-  return reader.read();
+DecodedPicture decoded(const std::string& body, const PictureHeader& header, QSize enough) {
+  switch (header.format) {
+    case PictureHeader::Format::JPEG:
+      return decodeJpeg(body, enough);
+    case PictureHeader::Format::PNG:
+      return decodePng(body);
+    case PictureHeader::Format::GIF:
+      return decodeGif(body);
+    case PictureHeader::Format::WebP:
+      return decodeWebP(body, {header.width, header.height});
+  }
+  return {};
 }
 
 // Turned and mirrored as its header says: from 5 on the stored columns are the upright rows.
@@ -113,14 +87,25 @@ QImage middle(const QImage& picture, QSizeF whole, QSize pixels) {
   return result;
 }
 
+// A damaged picture is passed over without a word, and Qt would warn of it.
+void silenceQt() {
+  static std::once_flag silenced;
+  std::call_once(silenced, [] {
+    QLoggingCategory::setFilterRules(
+        QStringLiteral("qt.gui.imageio*.warning=false\nqt.gui.icc*.warning=false"));
+  });
+}
+
 QImage bodyPixels(const std::string& body, QSize pixels, UIViewContentMode mode) {
+  silenceQt();
   const auto header = readPictureHeader(body);
   if (!header) return {};
   const QSize stored(header->width, header->height);
   const QSize own = header->isTurned() ? stored.transposed() : stored;
   const QSizeF whole = wholeSize({1.0 * own.width(), 1.0 * own.height()}, pixels, mode);
   const QSize size = decodedSize(whole, own);
-  QImage picture = decoded(body, header->format, header->isTurned() ? size.transposed() : size);
+  const QSize enough = header->isTurned() ? size.transposed() : size;
+  QImage picture = scaledInSRgb(decoded(body, *header, enough), enough);
   if (picture.isNull()) return picture;
   picture = upright(std::move(picture), header->orientation);
   const bool isJpeg = header->format == PictureHeader::Format::JPEG;

@@ -110,7 +110,7 @@ const std::vector<Fault>& faults() {
     {"HugeJpeg", [](At at) { return at.with(answers::ok(bodies::hugeJpeg())); }, Blank, Blank, Blank},
     {"HugePng", [](At at) { return at.with(answers::ok(bodies::hugePng())); }, Blank, Blank, Blank},
     {"CutJpeg", [](At at) { return at.with(answers::ok(bodies::cutJpeg(kNewColour))); }, Picture, Picture, Picture},
-    {"CutPng", [](At at) { return at.with(answers::ok(bodies::cutPng(kNewColour))); }, Blank, Blank, Blank},
+    {"CutPng", [](At at) { return at.with(answers::ok(bodies::cutPng(kNewColour))); }, Picture, Picture, Picture},
     {"PngWithABadHeader", [](At at) { return at.with(answers::ok(bodies::pngWithBadHeader())); }, Blank, Blank, Blank},
     {"PngWithBadPixels", [](At at) { return at.with(answers::ok(bodies::pngWithBadPixels())); }, Blank, Blank, Blank},
     {"DeepPng", [](At at) { return at.with(answers::ok(bodies::deepPng(kNewColour))); }, Picture, Picture, Picture},

@@ -65,14 +65,6 @@ TEST(PicturePixelsTest, NoRoomIsTakenForWhatAPngOnlyAnnounces) {
   EXPECT_LT(mostRoomTaken(), before + 100'000);
 }
 
-TEST(PicturePixelsTest, TheReaderRefusesWhatWouldTakeMoreThan128Megabytes) {
-  QImageReader::setAllocationLimit(256);  // as later versions of Qt begin
-
-  picturePixels(*picture({64, 64}), {16, 16}, stretch);
-
-  EXPECT_EQ(QImageReader::allocationLimit(), 128);
-}
-
 TEST(PicturePixelsTest, ADrawingOfVectorsGivesNothing) {
   const std::string svg =
       "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'>"

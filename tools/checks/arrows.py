@@ -26,6 +26,9 @@ LIBRARIES = (
     ("ICU", r"<unicode/", "platform/foundation"),
     ("uriparser", r"<uriparser/", "platform/foundation"),
     ("libcurl", r"<curl/", "platform/curl"),
+    ("libjpeg", r"<jpeglib", "platform/qt"),
+    ("libpng", r"<png\.h", "platform/qt"),
+    ("libwebp", r"<webp/", "platform/qt"),
 )
 
 

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QColorSpace>
+#include <QImage>
+#include <QSize>
+#include <string_view>
+
+namespace leafund {
+
+// What a decoder makes of a body: pixels as they are stored, neither upright nor in sRGB yet.
+struct DecodedPicture {
+  QImage pixels;        // Null when nothing can be made of it.
+  QColorSpace colours;  // By its ICC profile; not valid without one that is understood.
+};
+
+// What is decoded is bounded by counts and not by time, so that a body looks the same on every
+// machine. All that is made of one picture takes at most so many bytes; what would take more is
+// null.
+inline constexpr long long kMostPictureBytes = 256'000'000;
+// Each scan of a JPEG counts its pixels; behind so many of them the rest is left out.
+inline constexpr long long kMostJpegWork = 600'000'000;
+
+// At a size that is no smaller than `enough`, in pixels, unless the picture is, and not much
+// larger. RGB32; grey where a body that was cut short says nothing.
+DecodedPicture decodeJpeg(std::string_view body, QSize enough);
+
+// Whole, of an animation the first picture on its canvas. ARGB32; transparent where a body that was
+// cut short says nothing. `size` is what the header tells.
+DecodedPicture decodePng(std::string_view body);
+DecodedPicture decodeGif(std::string_view body);
+DecodedPicture decodeWebP(std::string_view body, QSize size);
+
+}  // namespace leafund

@@ -1,0 +1,194 @@
+#include <csetjmp>
+#include <cstdlib>
+
+#include "platform/qt/DecodedPicture.h"
+#include "platform/qt/JpegLibrary.h"
+
+namespace leafund {
+
+namespace {
+
+constexpr unsigned kGrey = 0xFF808080;
+// RGB32 is a number, whose bytes lie by the machine's order.
+constexpr J_COLOR_SPACE kRgb32 = Q_BYTE_ORDER == Q_LITTLE_ENDIAN ? JCS_EXT_BGRX : JCS_EXT_XRGB;
+
+// libjpeg reports an error by a function that must not return.
+struct Errors {
+  jpeg_error_mgr manager;
+  std::jmp_buf back;
+};
+
+void leave(j_common_ptr picture) { std::longjmp(reinterpret_cast<Errors*>(picture->err)->back, 1); }
+
+// The body, and behind it the mark of its end for as often as it is asked.
+struct Source {
+  jpeg_source_mgr manager;
+  bool isUsedUp;
+};
+
+boolean endTheSource(j_decompress_ptr picture) {
+  static constexpr JOCTET end[] = {0xFF, JPEG_EOI};
+  auto& source = *reinterpret_cast<Source*>(picture->src);
+  source.isUsedUp = true;
+  source.manager.next_input_byte = end;
+  source.manager.bytes_in_buffer = sizeof end;
+  return TRUE;
+}
+
+void skip(j_decompress_ptr picture, long count) {
+  auto& source = picture->src;
+  if (count <= 0) return;
+  if (static_cast<std::size_t>(count) > source->bytes_in_buffer) {
+    endTheSource(picture);
+    return;
+  }
+  source->next_input_byte += count;
+  source->bytes_in_buffer -= static_cast<std::size_t>(count);
+}
+
+// Adobe's programs store these inverted, and say who they are.
+void cmykToRgb32(unsigned char* row, unsigned width, bool isInverted) {
+  for (unsigned x = 0; x < width; ++x, row += 4) {
+    const auto ink = [&](int which) { return isInverted ? row[which] : 255 - row[which]; };
+    const auto light = [&](int which) { return static_cast<QRgb>(ink(which) * ink(3) / 255); };
+    *reinterpret_cast<QRgb*>(row) = 0xFF000000 | light(0) << 16 | light(1) << 8 | light(2);
+  }
+}
+
+class JpegDecoder {
+ public:
+  JpegDecoder(const JpegLibrary& jpeg, std::string_view body) : jpeg_(jpeg), picture_{} {
+    source_.manager.next_input_byte = reinterpret_cast<const JOCTET*>(body.data());
+    source_.manager.bytes_in_buffer = body.size();
+    source_.manager.init_source = [](j_decompress_ptr) {};
+    source_.manager.fill_input_buffer = &endTheSource;
+    source_.manager.skip_input_data = &skip;
+    source_.manager.resync_to_restart = jpeg.resyncToRestart;
+    source_.manager.term_source = [](j_decompress_ptr) {};
+    picture_.err = jpeg.stdError(&errors_.manager);
+    errors_.manager.error_exit = &leave;
+    errors_.manager.emit_message = [](j_common_ptr, int) {};  // a damaged picture is no news
+    errors_.manager.output_message = [](j_common_ptr) {};
+  }
+  JpegDecoder(const JpegDecoder&) = delete;
+  JpegDecoder& operator=(const JpegDecoder&) = delete;
+  ~JpegDecoder() { jpeg_.destroyDecompress(&picture_); }
+
+  DecodedPicture decode(QSize enough) {
+    DecodedPicture decoded;
+    if (!tried([&] { begin(enough); }) || memoryNeeded() > kMostPictureBytes) return decoded;
+    decoded.colours = colours();
+    QImage pixels(static_cast<int>(picture_.output_width), static_cast<int>(picture_.output_height),
+                  QImage::Format_RGB32);
+    if (pixels.isNull()) return decoded;
+    pixels.fill(kGrey);
+    unsigned char* const bits = pixels.bits();
+    const auto stride = static_cast<std::size_t>(pixels.bytesPerLine());
+    // An error further down leaves what has come by then.
+    tried([&] { readRows(bits, stride); });
+    if (hasRows_) decoded.pixels = std::move(pixels);
+    return decoded;
+  }
+
+ private:
+  // Whether the step came to its end. It may be left anywhere, so it owns nothing.
+  template <typename Step>
+  bool tried(Step step) {
+    if (setjmp(errors_.back) != 0) return false;
+    step();
+    return true;
+  }
+
+  void begin(QSize enough) {
+    jpeg_.createDecompress(&picture_, JPEG_LIB_VERSION, sizeof picture_);
+    picture_.src = &source_.manager;
+    jpeg_.saveMarkers(&picture_, JPEG_APP0 + 2, 0xFFFF);  // where profiles are
+    jpeg_.readHeader(&picture_, TRUE);
+    const auto isEnough = [&](unsigned eighths) {
+      return picture_.image_width * eighths >= 8U * static_cast<unsigned>(enough.width()) &&
+             picture_.image_height * eighths >= 8U * static_cast<unsigned>(enough.height());
+    };
+    picture_.scale_num = 1;
+    while (picture_.scale_num < 8 && !isEnough(picture_.scale_num)) ++picture_.scale_num;
+    picture_.scale_denom = 8;
+    const bool isOfInks =
+        picture_.jpeg_color_space == JCS_CMYK || picture_.jpeg_color_space == JCS_YCCK;
+    picture_.out_color_space = isOfInks ? JCS_CMYK : kRgb32;
+    picture_.buffered_image = jpeg_.hasMultipleScans(&picture_);
+    jpeg_.calcOutputDimensions(&picture_);
+  }
+
+  // The pixels, and the coefficients of a picture that comes in several scans.
+  long long memoryNeeded() const {
+    long long bytes = 4LL * picture_.output_width * picture_.output_height;
+    if (!picture_.buffered_image) return bytes;
+    for (int at = 0; at < picture_.num_components; ++at) {
+      const jpeg_component_info& component = picture_.comp_info[at];
+      bytes += 1LL * component.width_in_blocks * component.height_in_blocks * sizeof(JBLOCK);
+    }
+    return bytes;
+  }
+
+  QColorSpace colours() {
+    JOCTET* bytes = nullptr;
+    unsigned length = 0;
+    if (!tried([&] { jpeg_.readIccProfile(&picture_, &bytes, &length); })) return {};
+    if (bytes == nullptr) return {};
+    const QByteArray profile(reinterpret_cast<const char*>(bytes), static_cast<qsizetype>(length));
+    std::free(bytes);
+    return QColorSpace::fromIccProfile(profile);
+  }
+
+  void readRows(unsigned char* bits, std::size_t stride) {
+    jpeg_.startDecompress(&picture_);
+    if (picture_.buffered_image) readScans();
+    const long long workOfARow = workOfSourceRows(1);
+    int rowsOfNothing = 0;
+    while (picture_.output_scanline < picture_.output_height) {
+      if (!picture_.buffered_image && work_ > kMostJpegWork) return;
+      // A body that is cut short still has what is left of its last blocks.
+      if (source_.isUsedUp && !picture_.buffered_image && ++rowsOfNothing > mostRowsOfABlock()) {
+        return;
+      }
+      JSAMPROW row = bits + picture_.output_scanline * stride;
+      jpeg_.readScanlines(&picture_, &row, 1);
+      hasRows_ = true;
+      work_ += workOfARow * 8 / static_cast<int>(picture_.scale_num);
+      if (picture_.out_color_space == JCS_CMYK) {
+        cmykToRgb32(row, picture_.output_width, picture_.saw_Adobe_marker != FALSE);
+      }
+    }
+  }
+
+  void readScans() {
+    const long long workOfABlockRow = workOfSourceRows(8 * picture_.max_v_samp_factor);
+    int state = JPEG_ROW_COMPLETED;
+    while (state != JPEG_REACHED_EOI && work_ <= kMostJpegWork) {
+      state = jpeg_.consumeInput(&picture_);
+      if (state == JPEG_ROW_COMPLETED || state == JPEG_SCAN_COMPLETED) work_ += workOfABlockRow;
+    }
+    // A scan that is shown while it comes would be read to its end.
+    const bool isWhole = state == JPEG_REACHED_EOI;
+    const int scan = picture_.input_scan_number;
+    jpeg_.startOutput(&picture_, isWhole || scan <= 1 ? scan : scan - 1);
+  }
+
+  long long workOfSourceRows(int rows) const { return 1LL * rows * picture_.image_width; }
+  int mostRowsOfABlock() const { return 8 * picture_.max_v_samp_factor; }
+
+  const JpegLibrary& jpeg_;
+  jpeg_decompress_struct picture_;
+  Errors errors_{};
+  Source source_{};
+  long long work_ = 0;
+  bool hasRows_ = false;
+};
+
+}  // namespace
+
+DecodedPicture decodeJpeg(std::string_view body, QSize enough) {
+  const JpegLibrary& jpeg = JpegLibrary::get();
+  return jpeg.isThere() ? JpegDecoder(jpeg, body).decode(enough) : DecodedPicture{};
+}
+
+}  // namespace leafund

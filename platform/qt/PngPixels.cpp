@@ -1,0 +1,92 @@
+#include <png.h>
+
+#include <csetjmp>
+
+#include "platform/qt/DecodedPicture.h"
+
+namespace leafund {
+
+namespace {
+
+class PngDecoder {
+ public:
+  DecodedPicture decode(std::string_view body) {
+    png_ = png_create_read_struct(PNG_LIBPNG_VER_STRING, nullptr, nullptr, nullptr);
+    if (png_ != nullptr) info_ = png_create_info_struct(png_);
+    // Whatever goes wrong, what has come by then stays.
+    if (info_ != nullptr && setjmp(png_jmpbuf(png_)) == 0) read(body);
+    png_destroy_read_struct(&png_, &info_, nullptr);
+    return std::move(decoded_);
+  }
+
+ private:
+  static PngDecoder& of(png_structp png) {
+    return *static_cast<PngDecoder*>(png_get_progressive_ptr(png));
+  }
+
+  void read(std::string_view body) {
+    // A damaged picture is passed over without a word.
+    png_set_error_fn(
+        png_, nullptr, [](png_structp png, png_const_charp) { png_longjmp(png, 1); },
+        [](png_structp, png_const_charp) {});
+    png_set_progressive_read_fn(
+        png_, this, [](png_structp png, png_infop) { of(png).begin(); },
+        [](png_structp png, png_bytep row, png_uint_32 y, int) { of(png).take(row, y); },
+        [](png_structp, png_infop) {});
+    png_set_user_limits(png_, 0xFFFF, 0xFFFF);
+    auto* bytes = reinterpret_cast<png_const_bytep>(body.data());
+    png_process_data(png_, info_, const_cast<png_bytep>(bytes), body.size());
+  }
+
+  // The header is read, and all that stands before the pixels. Nothing here may be left by a jump
+  // while it owns something.
+  void begin() {
+    png_set_expand(png_);  // Colours by number, few bits and a colour that is clear.
+    png_set_scale_16(png_);
+    png_set_gray_to_rgb(png_);
+    if (Q_BYTE_ORDER == Q_LITTLE_ENDIAN) {
+      png_set_bgr(png_);
+      png_set_add_alpha(png_, 0xFF, PNG_FILLER_AFTER);
+    } else {
+      png_set_swap_alpha(png_);
+      png_set_add_alpha(png_, 0xFF, PNG_FILLER_BEFORE);
+    }
+    png_set_interlace_handling(png_);
+    png_read_update_info(png_, info_);
+    makeRoom();
+  }
+
+  void makeRoom() {
+    const auto width = static_cast<int>(png_get_image_width(png_, info_));
+    const auto height = static_cast<int>(png_get_image_height(png_, info_));
+    if (4LL * width * height > kMostPictureBytes) return;
+    decoded_.pixels = QImage(width, height, QImage::Format_ARGB32);
+    decoded_.pixels.fill(Qt::transparent);
+    bits_ = decoded_.pixels.bits();
+    stride_ = static_cast<std::size_t>(decoded_.pixels.bytesPerLine());
+    png_charp name = nullptr;
+    int compression = 0;
+    png_bytep profile = nullptr;
+    png_uint_32 length = 0;
+    if (png_get_iCCP(png_, info_, &name, &compression, &profile, &length) == 0) return;
+    decoded_.colours = QColorSpace::fromIccProfile(QByteArray::fromRawData(
+        reinterpret_cast<const char*>(profile), static_cast<qsizetype>(length)));
+  }
+
+  void take(png_bytep row, png_uint_32 y) {
+    if (bits_ == nullptr) png_longjmp(png_, 1);
+    if (row != nullptr) png_progressive_combine_row(png_, bits_ + y * stride_, row);
+  }
+
+  png_structp png_ = nullptr;
+  png_infop info_ = nullptr;
+  DecodedPicture decoded_;
+  unsigned char* bits_ = nullptr;
+  std::size_t stride_ = 0;
+};
+
+}  // namespace
+
+DecodedPicture decodePng(std::string_view body) { return PngDecoder().decode(body); }
+
+}  // namespace leafund

@@ -1,0 +1,164 @@
+#include <QColorSpace>
+#include <fstream>
+
+#include "tests/support/ProcessorTime.h"
+#include "tests/window/JpegBytes.h"
+#include "tests/window/PixelsFixture.h"
+
+namespace leafund {
+namespace {
+
+using jpegbytes::quadrantsOf;
+using jpegbytes::Wish;
+using jpegbytes::written;
+
+QImage drawn(const std::string& body, QSize size = {128, 128}) {
+  const auto recipe = UIImage::initWithData(std::make_shared<const std::string>(body));
+  return recipe ? picturePixels(*recipe, size, stretch) : QImage();
+}
+
+std::string quadrantJpeg(QSize size, std::function<void(jpeg_compress_struct&)> options) {
+  return written({size, quadrantsOf(size), std::move(options)});
+}
+
+// In megabytes, the most there has been.
+long mostMemory() {
+  std::ifstream status("/proc/self/status");
+  std::string word;
+  while (status >> word && word != "VmHWM:") continue;
+  long kilobytes = 0;
+  status >> kilobytes;
+  return kilobytes / 1024;
+}
+
+TEST(PictureJpegTest, EveryKindThatLibjpegWritesIsDrawn) {
+  const QSize size{200, 144};
+  const std::vector<std::pair<const char*, std::function<void(jpeg_compress_struct&)>>> kinds{
+      {"baseline", [](auto&) {}},
+      {"progressive", [](auto& picture) { jpeg_simple_progression(&picture); }},
+      {"arithmetic", [](auto& picture) { picture.arith_code = TRUE; }},
+      {"arithmetic, progressive",
+       [](auto& picture) {
+         picture.arith_code = TRUE;
+         jpeg_simple_progression(&picture);
+       }},
+      {"restarts", [](auto& picture) { picture.restart_interval = 1; }},
+      {"4:4:4",
+       [](auto& picture) {
+         picture.comp_info[0].v_samp_factor = picture.comp_info[0].h_samp_factor = 1;
+       }},
+      {"4:1:1", [](auto& picture) { picture.comp_info[0].h_samp_factor = 4; }},
+      {"RGB", [](auto& picture) { jpeg_set_colorspace(&picture, JCS_RGB); }},
+  };
+  for (const auto& [name, options] : kinds) {
+    SCOPED_TRACE(name);
+    expectQuadrants(drawn(quadrantJpeg(size, options)));
+    expectQuadrants(drawn(quadrantJpeg(size, options), size));
+  }
+}
+
+TEST(PictureJpegTest, InksAreDrawnAsColours) {
+  const QSize size{96, 96};
+  for (const J_COLOR_SPACE space : {JCS_CMYK, JCS_YCCK}) {
+    const auto adobe = [&](auto& picture) {
+      jpeg_set_colorspace(&picture, space);
+      picture.write_Adobe_marker = TRUE;
+    };
+    expectQuadrants(drawn(written({size, quadrantsOf(size, 4), adobe, 4})));
+  }
+}
+
+TEST(PictureJpegTest, APhotoOf48MegapixelsTakesLittleMemory) {
+  const QSize size{8064, 6048};
+  const std::string body = quadrantJpeg(size, [](auto&) {});
+  drawn(quadrantJpeg({64, 64}, [](auto&) {}));
+  const long before = mostMemory();
+
+  const double start = processorSeconds();
+  expectQuadrants(drawn(body));
+
+  RecordProperty("seconds", std::to_string(processorSeconds() - start));
+  EXPECT_LT(mostMemory() - before, 32);
+}
+
+TEST(PictureJpegTest, WhatWouldTakeMoreThan256MegabytesIsBlank) {
+  // 10,000 by 10,000 coefficients of three components: 300 MB.
+  const std::string body = quadrantJpeg({256, 256}, [](auto& picture) {
+    picture.comp_info[0].v_samp_factor = picture.comp_info[0].h_samp_factor = 1;
+    jpeg_simple_progression(&picture);
+  });
+  std::string huge = body;
+  huge.replace(huge.find("\xFF\xC2") + 5, 4, "\x27\x10\x27\x10");
+  const long before = mostMemory();
+
+  EXPECT_FALSE(drawn(body).isNull());
+  EXPECT_TRUE(drawn(huge).isNull());
+
+  EXPECT_LT(mostMemory() - before, 32);
+}
+
+TEST(PictureJpegTest, ScansWithoutAnEndTakeBoundedTime) {
+  const std::string body =
+      quadrantJpeg({1600, 1600}, [](auto& picture) { jpeg_simple_progression(&picture); });
+  const auto cost = [&](int scans) {
+    const std::string bomb = jpegbytes::withScans(body, scans);
+    const double start = processorSeconds();
+    expectQuadrants(drawn(bomb));
+    return processorSeconds() - start;
+  };
+
+  const double few = cost(400);
+  const double many = cost(20'000);
+
+  RecordProperty("few", std::to_string(few));
+  RecordProperty("many", std::to_string(many));
+  EXPECT_LT(many, 2 * few + 0.1);
+}
+
+TEST(PictureJpegTest, ASmallBodyThatClaimsTheLargestSizeIsSoonDrawn) {
+  std::string body = quadrantJpeg({64, 64}, [](auto&) {});
+  body.replace(body.find("\xFF\xC0") + 5, 4, "\xFF\xFF\xFF\xFF");
+  const double start = processorSeconds();
+
+  const QImage image = drawn(body);
+
+  EXPECT_TRUE(image.isNull());
+  EXPECT_LT(processorSeconds() - start, 1);
+}
+
+TEST(PictureJpegTest, AColourProfileCounts) {
+  QImage picture(64, 64, QImage::Format_RGB32);
+  picture.fill(QColor(200, 100, 50));
+  picture.setColorSpace(QColorSpace(QColorSpace::DisplayP3));
+
+  const auto recipe = UIImage::initWithData(leafund::written(picture, "jpeg"));
+
+  // By hand, from the matrices of the two spaces.
+  EXPECT_TRUE(shows(picturePixels(*recipe, {16, 16}, stretch), 8, 8, QColor(215, 93, 31), 4));
+}
+
+TEST(PictureJpegTest, ABrokenProfileDoesNotMatter) {
+  const std::string body = quadrantJpeg({64, 64}, [](auto&) {});
+  const std::string profile = std::string("ICC_PROFILE\0\1\1", 14) + std::string(200, 'x');
+  const std::string segment =
+      std::string("\xFF\xE2\0", 3) + static_cast<char>(profile.size() + 2) + profile;
+
+  expectQuadrants(drawn(body.substr(0, 2) + segment + body.substr(2)));
+}
+
+TEST(PictureJpegTest, WhateverIsCutOffTheRestIsDrawn) {
+  for (const bool isProgressive : {false, true}) {
+    const std::string body = quadrantJpeg({640, 480}, [&](auto& picture) {
+      if (isProgressive) jpeg_simple_progression(&picture);
+    });
+    for (const int percent : {25, 50, 75, 95}) {
+      const QImage image =
+          drawn(body.substr(0, body.size() * static_cast<std::size_t>(percent) / 100));
+      ASSERT_FALSE(image.isNull()) << percent;
+      EXPECT_TRUE(shows(image, 10, 2, Qt::red, 40)) << percent << isProgressive;
+    }
+  }
+}
+
+}  // namespace
+}  // namespace leafund

@@ -1,0 +1,120 @@
+#include <zlib.h>
+
+#include <QColorSpace>
+#include <vector>
+
+#include "tests/platform/PictureBytes.h"
+#include "tests/window/PixelsFixture.h"
+
+namespace leafund {
+namespace {
+
+using namespace picturebytes;
+
+QImage drawn(const std::string& body, QSize size) {
+  const auto recipe = UIImage::initWithData(std::make_shared<const std::string>(body));
+  return recipe ? picturePixels(*recipe, size, stretch) : QImage();
+}
+
+std::string packed(const std::string& rows) {
+  std::string bytes(compressBound(static_cast<uLong>(rows.size())), '\0');
+  uLongf length = static_cast<uLongf>(bytes.size());
+  compress(reinterpret_cast<Bytef*>(bytes.data()), &length,
+           reinterpret_cast<const Bytef*>(rows.data()), static_cast<uLong>(rows.size()));
+  return bytes.substr(0, length);
+}
+
+// Colours of 16 bits, of which one is clear.
+std::string deepPngWithAClearColour(unsigned side) {
+  std::string rows;
+  for (unsigned y = 0; y < side; ++y) {
+    rows += byte(0);
+    for (unsigned x = 0; x < side; ++x) {
+      for (const unsigned light : {0x1234U, 0x5678U, x < side / 2 ? 0x9ABCU : 0x9ABDU}) {
+        rows += big16(light);
+      }
+    }
+  }
+  const std::string header =
+      chunk("IHDR", big32(side) + big32(side) + byte(16) + byte(2) + std::string(3, '\0'));
+  return pngStart + header + chunk("tRNS", big16(0x1234) + big16(0x5678) + big16(0x9ABC)) +
+         chunk("IDAT", packed(rows)) + chunk("IEND", "");
+}
+
+TEST(PicturePngTest, AClearColourOf16BitsIsClearAndTheOneBesideItIsNot) {
+  const QImage image = drawn(deepPngWithAClearColour(32), {32, 32});
+  ASSERT_FALSE(image.isNull());
+  for (int y = 0; y < 32; ++y) {
+    for (int x = 0; x < 32; ++x) {
+      const QColor colour = x < 16 ? QColor(0, 0, 0, 0) : QColor(0x12, 0x56, 0x9A);
+      ASSERT_TRUE(shows(image, x, y, colour, 1));
+    }
+  }
+}
+
+TEST(PicturePngTest, EveryKindThatQtWritesIsDrawn) {
+  for (const auto format : {QImage::Format_Mono, QImage::Format_Indexed8, QImage::Format_Grayscale8,
+                            QImage::Format_Grayscale16, QImage::Format_RGB32, QImage::Format_ARGB32,
+                            QImage::Format_RGBX64, QImage::Format_RGBA64}) {
+    const QImage picture = quadrants({64, 64}).convertToFormat(format);
+    const auto recipe = UIImage::initWithData(written(picture, "png"));
+    const QImage image = picturePixels(*recipe, {64, 64}, stretch);
+    EXPECT_LE(greatestDifference(image, picture.convertToFormat(QImage::Format_ARGB32)), 1)
+        << format;
+  }
+}
+
+// Random colours below are hard to pack, so that most cuts fall into them.
+std::string restlessPng() {
+  QImage picture = quadrants({128, 128});
+  std::srand(1);
+  for (int y = 32; y < 128; ++y) {
+    for (int x = 0; x < 128; ++x) picture.setPixel(x, y, static_cast<QRgb>(std::rand()));
+  }
+  return *written(picture, "png");
+}
+
+TEST(PicturePngTest, WhateverIsCutOffTheRestIsDrawn) {
+  const std::string body = restlessPng();
+  for (const int percent : {25, 50, 75, 95}) {
+    const QImage image =
+        drawn(body.substr(0, body.size() * static_cast<std::size_t>(percent) / 100), {128, 128});
+    ASSERT_FALSE(image.isNull());
+    EXPECT_TRUE(shows(image, 10, 10, Qt::red)) << percent;
+    EXPECT_EQ(image.pixelColor(10, 127).alpha(), 0) << percent;
+  }
+}
+
+TEST(PicturePngTest, NothingIsSaidOfADamagedPicture) {
+  std::string damaged = restlessPng();
+  damaged[damaged.size() / 2] ^= 1;
+  testing::internal::CaptureStderr();
+
+  const QImage image = drawn(damaged, {128, 128});
+
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+  EXPECT_TRUE(shows(image, 10, 10, Qt::red));
+}
+
+TEST(PicturePngTest, WhatWouldTakeMoreThan256MegabytesIsBlank) {
+  const auto claims = [](unsigned width, unsigned height) {
+    return pngStart + imageHeader(width, height) + chunk("IDAT", packed("")) + chunk("IEND", "");
+  };
+
+  EXPECT_TRUE(drawn(claims(8001, 8000), {16, 16}).isNull());
+  EXPECT_TRUE(drawn(claims(65535, 65535), {16, 16}).isNull());
+}
+
+TEST(PicturePngTest, AColourProfileCounts) {
+  QImage picture(64, 64, QImage::Format_ARGB32);
+  picture.fill(QColor(200, 100, 50));
+  picture.setColorSpace(QColorSpace(QColorSpace::DisplayP3));
+
+  const auto recipe = UIImage::initWithData(written(picture, "png"));
+
+  // By hand, from the matrices of the two spaces.
+  EXPECT_TRUE(shows(picturePixels(*recipe, {16, 16}, stretch), 8, 8, QColor(215, 93, 31), 3));
+}
+
+}  // namespace
+}  // namespace leafund
