@@ -7,7 +7,7 @@ none, on a Wayland screen, by actions alone, since nobody may send it clicks fro
 import os
 import sys
 
-from bus import Atspi, go
+from bus import Atspi, Role, go
 from reader import Reader
 from window import TABS, Window, run
 
@@ -54,10 +54,10 @@ class Actions(Reader):
         self.press("Sign in")  # which takes the messages for what was typed
 
     def tab(self, name):
-        self.press(name, "page tab")
+        self.press(name, Role.PAGE_TAB)
 
     def row(self, name):
-        self.press(name, "list item")
+        self.press(name, Role.LIST_ITEM)
 
 
 class Road:
