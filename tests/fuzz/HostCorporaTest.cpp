@@ -34,6 +34,7 @@ TEST(HostCorporaTest, EveryFormatIsAmongThePictures) {
   EXPECT_GE(pictures[PictureHeader::Format::JPEG], 10);
   EXPECT_GE(pictures[PictureHeader::Format::PNG], 9);
   EXPECT_GE(pictures[PictureHeader::Format::GIF], 7);
+  EXPECT_GE(pictures[PictureHeader::Format::WebP], 7);
 }
 
 // Port 9 answers nobody, and the name would have to be looked up.

@@ -1,5 +1,6 @@
 """Small pictures, whole and broken, put together byte by byte."""
 
+import base64
 import struct
 import zlib
 
@@ -72,6 +73,26 @@ def gif(width, height, version=b"89a", before=b"", interlace=0, left=0, top=0, c
     return b"GIF" + version + screen + table + before + local + b"\2" + blocks + b"\0\x3b"
 
 
+def riff(name, data):
+    return name + struct.pack("<I", len(data)) + data + bytes(len(data) % 2)
+
+
+def webp(*chunks):
+    return riff(b"RIFF", b"WEBP" + b"".join(chunks))
+
+
+def canvas(width, height):
+    return riff(b"VP8X", bytes(4) + struct.pack("<I", width - 1)[:3] + struct.pack("<I", height - 1)[:3])
+
+
+# A gradient of 8 by 6 pixels, written by ImageMagick: its coding cannot be written by hand.
+LOSSLESS = base64.b64decode("UklGRjoAAABXRUJQVlA4TC0AAAAvB0ABAC8AEIT/bRMz8+b/+U+WBoRsJOkUTuEVXuEV3l+rE9H/+HjV"
+                            "rQ62GgAA")
+LOSSY = base64.b64decode("UklGRk4AAABXRUJQVlA4IEIAAACwAgCdASoIAAYAAoBCJagCdGuA/gGEAev+B6IBX4AA/vRbD1eEn/lrFblE"
+                         "h/vjR8okP/9g4/et/3kOIz9dIXy5eAA=")
+TIFF = b"II*\0\x08\0\0\0\1\0\x12\1\3\0\1\0\0\0\6\0\0\0\0\0\0\0"
+MOVING = struct.pack("<I", 1)[:3] + bytes(3) + b"\7\0\0\5\0\0" + bytes(4) + LOSSLESS[12:]
+
 CONTROL = b"\x21\xf9\4\5\1\0\0\0"
 PALETTE = chunk(b"PLTE", bytes(range(48)))
 WHOLE_PNG = png(9, 7)
@@ -130,6 +151,17 @@ CORPORA = {"picture": {
     "gif-no-size": gif(0, 0, codes=[4, 1, 5]),
     "gif-late-codes": gif(5, 5, codes=[4, 1, 6, 7, 7, 3, 5]),
     "gif-short": WHOLE_GIF[:40],
+    "webp-lossless": LOSSLESS,
+    "webp-lossy": LOSSY,
+    "webp-canvas": webp(canvas(8, 6), LOSSLESS[12:]),
+    "webp-exif": webp(canvas(8, 6), LOSSY[12:], riff(b"EXIF", TIFF)),
+    "webp-moving": webp(canvas(20, 10), riff(b"ANIM", bytes(6)), riff(b"ANMF", MOVING)),
+    "webp-moves-outside": webp(canvas(9, 6), riff(b"ANMF", MOVING)),
+    "webp-profile": webp(canvas(8, 6), riff(b"ICCP", bytes(128)), LOSSLESS[12:]),
+    "webp-huge": webp(canvas(65535, 65535), LOSSLESS[12:]),
+    "webp-short": LOSSY[:60],
+    "webp-sound": webp(riff(b"ALPH", bytes(9))),
+    "png-exif": png(9, 7, before=chunk(b"eXIf", TIFF)),
     "svg": b"<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'/>",
     "none": b"",
 }}
