@@ -74,8 +74,8 @@ void print(const Totals& totals, double seconds) {
   std::cout << std::endl;
 }
 
-int tellFailure(const Plan& plan, const FreeWording& wording) {
-  std::cout << "seed " << plan.seed << " diverges; shrinking" << std::endl;
+int tellFailure(const Plan& plan, const std::string& told, const FreeWording& wording) {
+  std::cout << "seed " << plan.seed << " diverges:\n" << told << "Shrinking" << std::endl;
   const auto failure = shrinkFailure(plan, wording);
   for (const auto& action : failure.script) std::cout << readable(action) << '\n';
   std::cout << failure.told << "To see it again: --replay " << plan.seed
@@ -90,7 +90,8 @@ int run(const Call& call) {
     Plan plan = Plan::ofSeed(*call.replay, call.order.fatalPercent, call.order.most);
     plan.twist = call.order.twist;
     plan.play = call.order.play;
-    if (runSequence(plan, wording).verdict == Verdict::Diverged) return tellFailure(plan, wording);
+    const auto report = runSequence(plan, wording);
+    if (report.verdict == Verdict::Diverged) return tellFailure(plan, toldBy(report), wording);
     std::cout << "seed " << *call.replay << " does not diverge" << std::endl;
     return 0;
   }
@@ -99,7 +100,7 @@ int run(const Call& call) {
   const auto diverged = runSequences(call.order, wording, totals);
   const std::chrono::duration<double> took = std::chrono::steady_clock::now() - start;
   print(totals, took.count());
-  return diverged ? tellFailure(*diverged, wording) : 0;
+  return diverged ? tellFailure(*diverged, totals.told, wording) : 0;
 }
 
 }  // namespace

@@ -94,7 +94,10 @@ std::optional<Plan> runSequences(const Order& order, const FreeWording& wording,
       if (ended == 0) continue;
       lane.finish(status);
       add(totals, lane.plan(), lane.report());
-      if (lane.report().verdict == Verdict::Diverged && !diverged) diverged = lane.plan();
+      if (lane.report().verdict == Verdict::Diverged && !diverged) {
+        diverged = lane.plan();
+        totals.told = toldBy(lane.report());
+      }
       goOn(lane);
     }
     if (lanes.size() > 1) usleep(500);

@@ -39,6 +39,7 @@ struct Totals {
   std::uint64_t firstSeed = 0, nextSeed = 0;
   std::array<std::uint64_t, kActionKinds> kinds{};
   std::array<std::uint64_t, kScenes> scenes{};
+  std::string told;  // where the one that diverged did
 };
 
 struct Order {

@@ -55,14 +55,22 @@ void WindowUser::drag(QPointF from, QPointF to, Chance& how) {
 }
 
 void WindowUser::goBack(Chance& how) {
-  const auto way = how.below(6);
-  if (way == 0) {
-    return drag({static_cast<double>(how.between(0, 20)), 300},
-                {static_cast<double>(how.between(60, 250)), 310}, how);
+  switch (how.below(8)) {
+    case 0:
+      return drag({static_cast<double>(how.between(0, 20)), 200},
+                  {static_cast<double>(how.between(60, 250)), 210}, how);
+    case 1:
+      return tapItem(itemOf("backButton"), how);
+    case 2:
+      return pressKeys(Qt::Key_Back, 1, 0, how);
+    case 3:
+      return pressKeys(Qt::Key_Left, 1, 0, how);
+    case 4:
+      hand_.pressBackButton({static_cast<double>(how.between(1, 279)), 100});
+      return expect({.tap = {"back"}}, false, "the back button of the pointer");
+    default:
+      return pressKeys(Qt::Key_Escape, how.percent(80) ? 1 : 2, how.percent(20) ? 4 : 0, how);
   }
-  if (way == 1) return tapItem(itemOf("backButton"), how);
-  if (way == 2) return pressKeys(Qt::Key_Back, 1, 0, how);
-  pressKeys(Qt::Key_Escape, how.percent(80) ? 1 : 2, how.percent(20) ? 4 : 0, how);
 }
 
 void WindowUser::resize(const Action& action, Chance& how) {

@@ -49,6 +49,11 @@ void WindowHand::press(QPointF where, bool byTouch) {
   QTest::touchEvent(&window_, finger_.get(), false).press(0, where.toPoint()).commit(false);
 }
 
+void WindowHand::pressBackButton(QPointF where) {
+  pointer(QEvent::MouseButtonPress, where, Qt::BackButton, Qt::BackButton);
+  pointer(QEvent::MouseButtonRelease, where, Qt::NoButton, Qt::BackButton);
+}
+
 void WindowHand::move(QPointF where, bool byTouch) {
   if (!byTouch) return pointer(QEvent::MouseMove, where, Qt::LeftButton, Qt::NoButton);
   QTest::touchEvent(&window_, finger_.get(), false).move(0, where.toPoint()).commit(false);

@@ -36,6 +36,7 @@ class WindowHand {
   void press(QPointF where, bool byTouch);
   void move(QPointF where, bool byTouch);
   void release(QPointF where, bool byTouch);
+  void pressBackButton(QPointF where);
   void wheel(QPointF where, int notches);
   void keyDown(int key, const QString& text = {}, Qt::KeyboardModifiers modifiers = {},
                bool repeated = false);

@@ -123,6 +123,11 @@ WindowUser::Place WindowUser::placeInFocus(int key) {
   if (key == Qt::Key_Escape || key == Qt::Key_Back) return {.tap = {"back"}};
   const auto* page = app_.page();
   auto* focus = app_.window().activeFocusItem();
+  if (key == Qt::Key_Left) {  // with Alt; an input may have another use for it
+    return {
+        .tap = {"back"},
+        .sure = focus == nullptr || !focus->flags().testFlag(QQuickItem::ItemAcceptsInputMethod)};
+  }
   if (focus == nullptr || page == nullptr || !page->isAncestorOf(focus)) return {};
   const auto name = focus->objectName().toStdString();
   if (name == "backButton") return {.tap = {"back"}};
