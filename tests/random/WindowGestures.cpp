@@ -5,6 +5,10 @@
 // What the user of a window does besides tapping and typing.
 namespace leafund::random {
 
+namespace {
+constexpr double kEdge = 30;  // points at the left of a page from which a drag leads back
+}  // namespace
+
 void WindowUser::scroll(const Action& action, Chance& how) {
   const auto& list = reference_.shown().table;
   if (!list) return;
@@ -38,6 +42,9 @@ void WindowUser::scroll(const Action& action, Chance& how) {
 
 void WindowUser::drag(QPointF from, QPointF to, Chance& how) {
   const auto place = placeAt(from);
+  // In the middle of a slide the page's left edge is elsewhere than the window's.
+  const auto* page = app_.page();
+  const bool atEdge = page != nullptr && from.x() - page->x() < kEdge;
   const bool byTouch = how.percent(70);
   const auto steps = how.between(3, 12);
   const bool fling = how.percent(50);
@@ -50,7 +57,7 @@ void WindowUser::drag(QPointF from, QPointF to, Chance& how) {
   hand_.release(to, byTouch);
   // From the left edge it leads back, if it goes far enough.
   const auto taps = takeTaps();
-  if (from.x() < 30 && to.x() > from.x() && taps == Taps{"back"}) return;
+  if (atEdge && to.x() > from.x() && taps == Taps{"back"}) return;
   judge(taps, place, true, "a drag");
 }
 
