@@ -129,7 +129,7 @@ void WindowUser::tapAt(QPointF where, Chance& how, int count, bool byTouch) {
     expect(place, moves || late || again || slow,
            (byTouch ? "touch " : "click ") + std::to_string(click + 1) + " at " + told(where));
     if (byTouch) lastTouch_.note(hand_.now(), where);
-    if (top() != before && click == 0) lastClick_.note(hand_.now(), where);
+    if (top() != before || late) lastClick_.note(hand_.now(), where);
     if (!told_.empty() || click + 1 == count) return;
     if (how.percent(70)) hand_.frames(static_cast<int>(how.between(1, 12)), how);
     expect({}, true, "between clicks");
@@ -162,7 +162,7 @@ void WindowUser::pressKeys(int key, int count, int repeats, Chance& how) {
       expect({}, false, "a key that is held");
     }
     hand_.keyUp(key, modifiers);
-    if (top() != before && press == 0) {
+    if (top() != before || late) {  // each press of a series may have a next one
       lastKey_.note(hand_.now(), {});
       lastKey_.key = key;
     }
