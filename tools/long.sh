@@ -64,6 +64,15 @@ runMany() {
   runTool "random actions" '^[0-9]+ sequences, ' '^seed .* diverges' "$random" --actions 500000 --seed "$RANDOM" --jobs "$jobs"
 }
 
+# The random user in the window, of the program as ./test built it, and from outside.
+runWindow() {
+  folder=build/debug results=build/debug/results
+  runTool "random window" '^[0-9]+ sequences, ' '^seed .* diverges' \
+    "$folder/tests/random/random_window" --actions 20000 --seed "$RANDOM" --jobs "$jobs"
+  runTool "random outside" '^seed .* actions$' '^seed .* broken$' tests/random/outside \
+    "$folder/shell/leafund" "$folder/tests/random/random_reference" 500 "$RANDOM"
+}
+
 # What the work inside takes, in instructions: the same however busy the machine is.
 runCounts() {
   installMissing bench
@@ -72,6 +81,7 @@ runCounts() {
   runTool counts '^OK ' '^FAIL ' bench/count "$folder"
 }
 
+runWindow
 runMany
 runCounts
 runTool fuzz ' 0 findings' ' [1-9][0-9]* findings' tools/fuzz all 60
