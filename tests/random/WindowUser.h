@@ -90,7 +90,7 @@ class WindowUser {
   WindowUnderTest& app_;
   const ReferenceApp& reference_;
   WindowHand hand_;
-  Earlier lastClick_, lastKey_;  // those that exchanged the screen
+  Earlier lastClick_, lastKey_;  // those that exchanged the screen, and what is part of them
   Earlier lastTouch_;
   std::string told_;
 };
