@@ -10,13 +10,15 @@ import statistics
 import subprocess
 import sys
 
-from table import Table, machine, plot
+from table import Table, machine, plot, written
 
 HERE = pathlib.Path(__file__).resolve().parent
 BUILD = pathlib.Path(sys.argv[1]).resolve()
 QUICK = "--quick" in sys.argv
 PAIRS = 7 if QUICK else 31
 REPETITIONS = 3 if QUICK else 9
+WIDGETS = "Qt Widgets"  # in a column of its own
+PEERS = {"Controls": "peer_controls", "GTK 4": "peer_gtk", WIDGETS: "peer_widgets"}
 
 median = statistics.median
 
@@ -58,25 +60,50 @@ def repeated(name):
     return medians
 
 
-def starts():
-    """Milliseconds and megabytes to the first frame, of the application and of the floor."""
-    programs = [BUILD / "shell" / "leafund", BUILD / "bench" / "floor_bench"]
-    output = subprocess.run([HERE / "start.py", str(PAIRS), *programs], check=True,
+def taken(script, rounds, programs):
+    """What a script that drives programs from outside prints: by program, a list for each figure."""
+    output = subprocess.run([HERE / script, str(rounds), BUILD, *programs], check=True,
                             stdout=subprocess.PIPE, text=True).stdout
-    times, memory = {}, {}
+    values = {}
     for line in output.splitlines():
-        name, milliseconds, kilobytes = line.split()
-        times.setdefault(name, []).append(float(milliseconds))
-        memory.setdefault(name, []).append(float(kilobytes) / 1024)
-    return [(median(each["leafund"]), median(each["floor_bench"])) for each in (times, memory)]
+        name, *numbers = line.split()
+        values.setdefault(name, []).append([float(number) for number in numbers])
+    return {name: list(zip(*lines)) for name, lines in values.items()}
 
 
-def measure_start(table):
-    (ours, floor), (our_memory, floor_memory) = starts()
-    table.add("start to the first frame", (ours, "ms"), (floor, "ms"), "the floor", 1.05)
-    table.add("peak memory at that frame", (our_memory, "MB"), (floor_memory, "MB"), "the floor",
-              1.10)
-    return our_memory, floor_memory
+def built_peers():
+    """By name, the same journey in other toolkits, as far as their packages are there."""
+    paths = {name: BUILD / "bench" / "peers" / program for name, program in PEERS.items()}
+    for name in [name for name, path in paths.items() if not path.exists()]:
+        print(f"skip          {name}: its packages were not there when it was built", flush=True)
+        del paths[name]
+    return paths
+
+
+def add_peers(table, what, ours, peers, unit, goal):
+    """A row beside the best of the peers that are worth the comparison, and the others named."""
+    widgets = peers.pop(WIDGETS, None)
+    if not peers:
+        return
+    best, *others = sorted(peers, key=peers.get)
+    rest = "".join(f" ({name}: {written(peers[name], unit)})" for name in others)
+    table.add(what, (ours, unit), (peers[best], unit), best + rest, goal,
+              (widgets, unit) if widgets else None)
+
+
+def measure_start(table, peers):
+    """Answers the megabytes of the application and of the floor."""
+    programs = [BUILD / "shell" / "leafund", BUILD / "bench" / "floor_bench", *peers.values()]
+    values = taken("start.py", PAIRS, programs)
+    figures = (("start to the first content at rest", 0, 1, "ms", 1.05, 0.9),
+               ("peak memory at that moment", 1, 1024, "MB", 1.10, 0.8))
+    for what, figure, scale, unit, floor_goal, peer_goal in figures:
+        each = {name: median(lists[figure]) / scale for name, lists in values.items()}
+        ours, floor = each["leafund"], each["floor_bench"]
+        table.add(what, (ours, unit), (floor, unit), "the floor", floor_goal)
+        add_peers(table, "the same", ours, {name: each[path.name] for name, path in peers.items()},
+                  unit, peer_goal)
+    return ours, floor
 
 
 def measure_showings(table):
@@ -165,7 +192,8 @@ def measure_size(table):
 
 def main():
     table = Table()
-    memory = measure_start(table)
+    peers = built_peers()
+    memory = measure_start(table, peers)
     showings, kept = measure_showings(table)
     frames = measure_memory(table, memory, kept)
     measure_frames(table)

@@ -11,17 +11,19 @@ class Table:
     def __init__(self):
         self.rows = []
 
-    def add(self, what, ours, beside, limit, goal):
-        """Two measurements, each a number and its unit; their ratio is held against the goal."""
+    def add(self, what, ours, beside, limit, goal, widgets=None):
+        """Two measurements, each a number and its unit; their ratio is held against the goal.
+        Qt Widgets, where they were measured, are told beside it and hold nothing."""
         ratio = ours[0] / beside[0]
         verdict = "OK" if ratio <= goal else "short"
         self.rows.append((what, written(*ours), f"{written(*beside)}, {limit}", f"{ratio:.2f}",
-                          f"{goal:g}", verdict))
+                          f"{goal:g}", verdict, written(*widgets) if widgets else "",
+                          f"{os.getloadavg()[0]:.1f}"))
         print(f"{verdict:5} {ratio:6.2f}  {what}", flush=True)
 
     def text(self):
-        head = ("what", "ours", "beside", "ratio", "at most", "")
-        lines = [head, ("---", "--:", "---", "--:", "--:", "---"), *self.rows]
+        head = ("what", "ours", "beside", "ratio", "at most", "", "Qt Widgets", "load")
+        lines = [head, ("---", "--:", "---", "--:", "--:", "---", "--:", "--:"), *self.rows]
         return "".join("| " + " | ".join(line) + " |\n" for line in lines)
 
 
