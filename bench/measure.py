@@ -17,6 +17,7 @@ BUILD = pathlib.Path(sys.argv[1]).resolve()
 QUICK = "--quick" in sys.argv
 PAIRS = 7 if QUICK else 31
 REPETITIONS = 3 if QUICK else 9
+ROUNDS = 2 if QUICK else 9
 WIDGETS = "Qt Widgets"  # in a column of its own
 PEERS = {"Controls": "peer_controls", "GTK 4": "peer_gtk", WIDGETS: "peer_widgets"}
 
@@ -104,6 +105,14 @@ def measure_start(table, peers):
         add_peers(table, "the same", ours, {name: each[path.name] for name, path in peers.items()},
                   unit, peer_goal)
     return ours, floor
+
+
+def measure_journey(table, peers):
+    programs = [BUILD / "shell" / "leafund", *peers.values()]
+    values = taken("journey.py", ROUNDS, programs)
+    each = {name: median(lists[0]) for name, lists in values.items()}
+    add_peers(table, "processor time from the start to the thanks for a pledge", each["leafund"],
+              {name: each[path.name] for name, path in peers.items()}, "ms", 0.7)
 
 
 def measure_showings(table):
@@ -194,6 +203,7 @@ def main():
     table = Table()
     peers = built_peers()
     memory = measure_start(table, peers)
+    measure_journey(table, peers)
     showings, kept = measure_showings(table)
     frames = measure_memory(table, memory, kept)
     measure_frames(table)
