@@ -70,7 +70,7 @@ Rectangle {
     }
     TapHandler {
         parent: box.input
-        onTapped: box.takeTap()
+        onTapped: if (!watch.pressContinues()) box.takeTap()
     }
     // The pointer enters when it is pressed, from where it may select.
     PointHandler {

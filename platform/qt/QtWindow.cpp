@@ -19,6 +19,10 @@ namespace {
 
 constexpr QSize kStartSize{390, 844};
 
+// How far apart two touches of a finger that means one place may lie, in points: half of the least
+// that a control is high. What Qt counts as a double tap is less than fingers scatter.
+constexpr int kFingertip = 24;
+
 // For comparison alone.
 const void* topScreen() {
   const auto* application = UIApplication::current();
@@ -102,7 +106,8 @@ bool QtWindow::event(QEvent* event) {
   if (!event->isInputEvent()) return QQuickWindow::event(event);
   const auto* before = topScreen();
   const bool taken = takePress(*event) || deliver(event);
-  if (topScreen() != before) (usedByKeys_ ? keys_ : pointer_).changedTop();
+  const bool byKey = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease;
+  if (topScreen() != before) (byKey ? keys_ : pointer_).changedTop();
   return taken;
 }
 
@@ -148,8 +153,9 @@ bool QtWindow::takeKey(QKeyEvent& key) {
 void QtWindow::notePointer(const QPointerEvent& event, int button) {
   usedByKeys_ = false;
   const auto* hints = QGuiApplication::styleHints();
-  const int reach = event.type() == QEvent::TouchBegin ? hints->touchDoubleTapDistance()
-                                                       : hints->mouseDoubleClickDistance();
+  const int reach = event.type() == QEvent::TouchBegin
+                        ? std::max(hints->touchDoubleTapDistance(), kFingertip)
+                        : hints->mouseDoubleClickDistance();
   const Press press{event.pointingDevice(),     button,
                     event.timestamp(),          event.points().first().position(),
                     static_cast<double>(reach), false};
