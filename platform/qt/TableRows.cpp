@@ -60,7 +60,7 @@ void TableRows::nameAndStack() {
   QString focused;
   for (std::size_t i = 0; i < items_.size(); ++i) {
     itemOf[table_->cells()[i]->view().get()] = items_[i];
-    if (items_[i]->hasActiveFocus()) focused = items_[i]->objectName();
+    if (items_[i]->hasFocus()) focused = items_[i]->objectName();  // also where the window is inactive
     items_[i]->setObjectName({});
   }
   QQuickItem* before = nullptr;
@@ -76,10 +76,14 @@ void TableRows::nameAndStack() {
 void TableRows::focusSeen(double top, double bottom) {
   QQuickItem* first = nullptr;
   QQuickItem* last = nullptr;
+  QQuickItem* most = nullptr;  // where none is seen whole
+  double mostSeen = 0;
   bool below = false;
   for (auto* item : items_) {
     if (item->objectName().isEmpty()) continue;
     const bool seen = item->y() >= top && item->y() + item->height() <= bottom;
+    const double part = std::min(bottom, item->y() + item->height()) - std::max(top, item->y());
+    if (part > mostSeen) most = item, mostSeen = part;
     if (item->hasActiveFocus()) {
       if (seen) return;
       below = item->y() > top;
@@ -88,15 +92,24 @@ void TableRows::focusSeen(double top, double bottom) {
     if (first == nullptr || item->y() < first->y()) first = item;
     if (last == nullptr || item->y() > last->y()) last = item;
   }
-  if (auto* row = below ? last : first) row->forceActiveFocus(Qt::ActiveWindowFocusReason);
+  auto* row = below ? last : first;
+  if (row == nullptr) row = most;
+  if (row != nullptr) row->forceActiveFocus(Qt::ActiveWindowFocusReason);
 }
 
 void TableRows::keepFocus(const QString& rowName) {
   const auto row = std::find_if(items_.begin(), items_.end(),
                                 [&](auto* item) { return item->objectName() == rowName; });
-  if (row != items_.end() && (*row)->hasActiveFocus()) return;
+  if (row != items_.end() && (*row)->hasFocus()) return;
+  const bool active = std::any_of(items_.begin(), items_.end(),
+                                  [](const auto* item) { return item->hasActiveFocus(); });
   for (auto* item : items_) item->setFocus(false);
-  if (row != items_.end()) (*row)->forceActiveFocus(Qt::ActiveWindowFocusReason);
+  if (row == items_.end()) return;
+  if (active) {
+    (*row)->forceActiveFocus(Qt::ActiveWindowFocusReason);
+  } else {
+    (*row)->setFocus(true, Qt::ActiveWindowFocusReason);
+  }
 }
 
 }  // namespace leafund
