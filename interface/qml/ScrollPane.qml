@@ -23,7 +23,14 @@ Item {
     }
     function goOn() {
         told = null;
+        visited = true;
         reveal();
+    }
+    // When the room changes, what the user went to stays in sight; where the host put the focus,
+    // nothing scrolls.
+    function keepInSight() {
+        if (told || visited || focused?.cursorRectangle)
+            reveal();
     }
 
     function reveal() {
@@ -56,11 +63,12 @@ Item {
     // or comes back and when the editing ends, nothing scrolls.
     readonly property Item focused: Window.activeFocusItem
     property bool inUse: false
+    property bool visited: false  // the focus is where the user went since the screen came
     onFocusedChanged: {
         const wasInUse = inUse;
         inUse = screenOf(focused) === screenOf(pane);
         if (!inUse)
-            told = null;
+            told = null, visited = false;
         else if (wasInUse && focused.activeFocusOnTab)
             goOn();
     }
@@ -74,7 +82,7 @@ Item {
         ignoreUnknownSignals: true  // of what has no caret
         function onCursorRectangleChanged() { Qt.callLater(pane.goOn); }
     }
-    onHeightChanged: Qt.callLater(reveal)
+    onHeightChanged: Qt.callLater(keepInSight)
 
     Keys.onUpPressed: scrollBy(-Theme.step)
     Keys.onDownPressed: scrollBy(Theme.step)
@@ -91,7 +99,7 @@ Item {
         boundsBehavior: Flickable.StopAtBounds
         interactive: contentHeight > height
         clip: true
-        onContentHeightChanged: Qt.callLater(pane.reveal)
+        onContentHeightChanged: Qt.callLater(pane.keepInSight)
         // By less it is moved by itself: a place between pixels is rounded.
         onContentYChanged: if (Math.abs(contentY - pane.placed) >= 1) pane.told = null
 
