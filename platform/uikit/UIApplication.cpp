@@ -77,7 +77,11 @@ void UIApplication::run() {
   running_ = false;
   if (settled()) return;
   complain();
-  host_.post([] {});
+  // Once, or each event until then would begin one more round of posts.
+  if (std::exchange(resuming_, true)) return;
+  host_.post([] {
+    if (auto* application = current()) application->resuming_ = false;
+  });
 }
 
 bool UIApplication::settled() const {

@@ -129,6 +129,7 @@ class UIApplication : public UIResponder {
   std::vector<std::weak_ptr<UIResponder>> changed_;
   bool stackChanged_ = false;
   bool running_ = false;
+  bool resuming_ = false;  // the rest of a turn that was given up waits for the host's loop
 };
 
 // Makes the delegate of the named class and the application, and hands control to the host. Answers

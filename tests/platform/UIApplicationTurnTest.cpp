@@ -168,6 +168,16 @@ TEST_F(UIApplicationTurnTest, ALayoutThatNeverSettlesIsGivenUpAndGoesOnInTheNext
   EXPECT_FALSE(application->stalled());
 }
 
+TEST_F(UIApplicationTurnTest, EventsBeforeTheNextPassDoNotMultiplyWhatIsLeft) {
+  view->onLayout = [&] { view->setNeedsLayout(); };
+  complaintOf([&] {
+    for (int i = 0; i < 3; ++i) application->turn([&] { view->setNeedsLayout(); });
+  });
+  ASSERT_THAT(host.steps, SizeIs(1));
+  complaintOf([&] { application->turn(host.steps[0]); });
+  EXPECT_THAT(host.steps, SizeIs(2));
+}
+
 TEST_F(UIApplicationTurnTest, ASkinThatChangesItsViewAtEveryRefreshIsGivenUp) {
   ProbeSkin restless(view, [this] { view->setHidden(!view->hidden()); });
   EXPECT_EQ(complaintOf([&] { application->turn([&] { view->setHidden(true); }); }), kComplaint);
