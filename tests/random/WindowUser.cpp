@@ -124,11 +124,11 @@ void WindowUser::tapAt(QPointF where, Chance& how, int count, bool byTouch) {
     // Qt Quick takes a finger's second tap for a double click, and no area here asks for those.
     const bool again = byTouch && lastTouch_.soonAfter(hand_.now(), where);
     const bool moves = contentMoves();
+    if (byTouch) lastTouch_.note(hand_.now(), where);  // what the first leads to takes time as well
     hand_.press(where, byTouch);
     hand_.release(where, byTouch);
     expect(place, moves || late || again || slow,
            (byTouch ? "touch " : "click ") + std::to_string(click + 1) + " at " + told(where));
-    if (byTouch) lastTouch_.note(hand_.now(), where);
     if (top() != before || late) lastClick_.note(hand_.now(), where);
     if (!told_.empty() || click + 1 == count) return;
     if (how.percent(70)) hand_.frames(static_cast<int>(how.between(1, 12)), how);
