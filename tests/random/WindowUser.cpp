@@ -12,7 +12,7 @@ namespace {
 
 constexpr int kMostTabs = 30;
 constexpr int kTogether = 500;  // milliseconds, in which clicks may be one multiple click,
-constexpr double kNear = 30;    // and points
+constexpr double kNear = 35;    // and points
 constexpr int kSurelyTogether = 300;
 constexpr qsizetype kMostTyped = 120;
 
