@@ -87,7 +87,6 @@ class Walk:
             self.fund()
             self.window.click("Yes")
             self.window.expect("Thank you for your pledge!")
-            time.sleep(0.6)  # or two clicks at one place are a double click
             self.window.click("Home")
 
     def fund(self, options=()):
