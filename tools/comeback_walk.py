@@ -56,7 +56,9 @@ class Walk:
         self.window.expect(name, {Role.HEADING})
         way_back = next(self.ways_back)
         way_back()
-        self.window.expect("Browse", {Role.HEADING})
+        self.window.wait(
+            f"the list after “{name}”, {way_back.__name__}", lambda: self.window.sees("Browse", {Role.HEADING})
+        )
         after = self.rows_at_rest()
         check(after == before, f"the list where it was before “{name}”, {way_back.__name__}: {before}, not {after}")
 
@@ -70,7 +72,8 @@ class Walk:
         self.window.touch("key", "alt+Left")
 
     def by_drag(self):
-        ways = [("mousemove", x, 300) for x in range(6, 240, 18)]
+        # At a hand's pace: in less than a frame no drag is seen.
+        ways = [("mousemove", x, 300, "sleep", 0.02) for x in range(6, 240, 18)]
         self.window.touch(*ways[0], "mousedown", 1, *itertools.chain(*ways[1:]), "mouseup", 1)
 
     def click_twice(self):
