@@ -60,7 +60,8 @@ void TableRows::nameAndStack() {
   QString focused;
   for (std::size_t i = 0; i < items_.size(); ++i) {
     itemOf[table_->cells()[i]->view().get()] = items_[i];
-    if (items_[i]->hasFocus()) focused = items_[i]->objectName();  // also where the window is inactive
+    if (items_[i]->hasFocus())
+      focused = items_[i]->objectName();  // also where the window is inactive
     items_[i]->setObjectName({});
   }
   QQuickItem* before = nullptr;

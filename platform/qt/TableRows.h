@@ -29,8 +29,8 @@ class TableRows : public QQuickItem {
   void setTable(ViewObject* table);
 
   // Puts the focus on a row that lies wholly between two heights of the table: where it has left
-  // that stretch at the bottom on the last such row, otherwise on the first, and where there is none
-  // on the row of which most is seen. It stays on a row that lies there.
+  // that stretch at the bottom on the last such row, otherwise on the first, and where there is
+  // none on the row of which most is seen. It stays on a row that lies there.
   Q_INVOKABLE void focusSeen(double top, double bottom);
 
  signals:

@@ -16,11 +16,9 @@ namespace {
 
 UIApplication* theApplication = nullptr;
 
-// Of rounds that took no waiting work: a layout or a refresh that goes on for ever is a mistake in
-// a screen or a skin.
+// Of rounds that took no waiting work: what goes on for ever is a mistake in a screen or a skin.
 constexpr int kMostRounds = 100;
-// Of waiting work that one turn takes: more than any user raises, and soon over if work raises work
-// for ever.
+// Of waiting work: more than any user raises, and soon over if work raises work for ever.
 constexpr int kMostWork = 10'000;
 
 void complain() {
@@ -77,8 +75,7 @@ void UIApplication::run() {
   running_ = false;
   if (settled()) return;
   complain();
-  // Once, or each event until then would begin one more round of posts.
-  if (std::exchange(resuming_, true)) return;
+  if (std::exchange(resuming_, true)) return;  // or posts would multiply with every event
   host_.post([] {
     if (auto* application = current()) application->resuming_ = false;
   });

@@ -1,55 +1,12 @@
 #include <QElapsedTimer>
 
 #include "model/Catalogue.h"
-#include "tests/window/FingerFixture.h"
+#include "tests/window/PressFixture.h"
 
 namespace leafund {
 namespace {
 
-// Clicks, touches and keys that come faster than a user can look.
-class GlassPressTest : public FingerTest {
- protected:
-  // Presses and lifts the pointer that many times at one place, that many milliseconds apart by the
-  // events, and each when the slide that the one before began has ended.
-  void clickTimes(QPoint where, int times, int apart = 100,
-                  Qt::MouseButton button = Qt::LeftButton) {
-    for (int i = 0; i < times; ++i) {
-      if (i > 0) app.settle();
-      sendPointer(where, button, QEvent::MouseButtonPress);
-      sendPointer(where, Qt::NoButton, QEvent::MouseButtonRelease, button);
-      pass(apart);
-    }
-  }
-  void clickTimes(const std::string& name, int times, int apart = 100) {
-    app.settle();
-    clickTimes(middleOf(name), times, apart);
-  }
-  void key(Qt::Key key, QEvent::Type type, bool repeat = false, Qt::KeyboardModifiers with = {}) {
-    QKeyEvent event(type, key, with, {}, repeat);
-    event.setTimestamp(static_cast<quint64>(now_));
-    QCoreApplication::sendEvent(&app.window(), &event);
-  }
-  void pass(int milliseconds) { now_ += milliseconds; }
-
-  void openCampaign() {
-    signIn();
-    click("abc-0");
-  }
-  std::string screen() {
-    app.settle();
-    return app.shown()->className();
-  }
-
-  void sendPointer(QPoint where, Qt::MouseButton held, QEvent::Type type,
-                   Qt::MouseButton lifted = Qt::NoButton) {
-    qt_handleMouseEvent(&app.window(), where, app.window().mapToGlobal(where), held,
-                        lifted == Qt::NoButton ? held : lifted, type, {}, now_);
-    QCoreApplication::processEvents();
-  }
-
- private:
-  int now_ = 1'000'000;  // milliseconds
-};
+class GlassPressTest : public PressTest {};
 
 TEST_F(GlassPressTest, ADoubleClickOnFundAsksAndBooksNothing) {
   int underTheSecond = 0;  // how often Yes came to lie there
@@ -133,18 +90,6 @@ TEST_F(GlassPressTest, ASecondTouchWhereTheFirstChangedNoScreenCounts) {
   EXPECT_EQ(screen(), "OtherCampaignsTableViewController");
 }
 
-TEST_F(GlassPressTest, AClickBehindAKeyThatChangedTheScreenIsItsOwn) {
-  signIn();
-  clickTimes("browseTab", 1);
-  click("abc-0");
-  const auto where = middleOf("dollarAmountField");
-  clickTimes(where, 1, 50);
-  key(Qt::Key_Escape, QEvent::KeyPress);
-  app.settle();
-  clickTimes(where, 1);
-  EXPECT_EQ(screen(), "OneCampaignViewController");
-}
-
 TEST_F(GlassPressTest, ADoubleTapOfAFingerBooksNothing) {
   openCampaign();
   type("dollarAmountField", "1");
@@ -192,22 +137,6 @@ TEST_F(GlassPressTest, TheSecondPressOfADoubleOneEntersNoInput) {
   FAIL() << "no second touch came in time";
 }
 
-TEST_F(GlassPressTest, AKeyWhileTheButtonIsHeldDoesNotMakeTheSecondClickItsOwn) {
-  openCampaign();
-  type("dollarAmountField", "1");
-  app.window().resize(1280, 800);
-  ASSERT_TRUE(app.waitUntil([&] { return app.page()->width() == 1280; }));
-  app.settle();
-  const auto fund = middleOf("FundButton");
-  sendPointer(fund, Qt::LeftButton, QEvent::MouseButtonPress);
-  key(Qt::Key_Shift, QEvent::KeyPress);
-  sendPointer(fund, Qt::NoButton, QEvent::MouseButtonRelease, Qt::LeftButton);
-  pass(100);
-  app.settle();
-  clickTimes(fund, 1);
-  EXPECT_EQ(screen(), "ConfirmPageVC");
-}
-
 TEST_F(GlassPressTest, ASecondTouchThatIsDrawnAlongScrolls) {
   signIn();
   const auto where = middleOf("abc-3");
@@ -216,72 +145,6 @@ TEST_F(GlassPressTest, ASecondTouchThatIsDrawnAlongScrolls) {
   touch(where, where - QPoint(0, 200));
   EXPECT_EQ(screen(), "OtherCampaignsTableViewController");
   EXPECT_GT(app.require("table").property("contentY").toDouble(), 100);
-}
-
-TEST_F(GlassPressTest, AKeyThatIsHeldLeavesOneScreenHoweverItsRepeatsAreTold) {
-  signIn();
-  click("fundedTab");
-  click("Funded-0");
-  click("campaignUpdates");
-  key(Qt::Key_Escape, QEvent::KeyPress);
-  pass(660);
-  for (int i = 0; i < 20; ++i) {  // as a busy window system tells them: let go and pressed at once
-    key(Qt::Key_Escape, QEvent::KeyRelease, i % 2 == 0);
-    key(Qt::Key_Escape, QEvent::KeyPress, i % 2 == 0);
-    pass(40);
-  }
-  EXPECT_EQ(screen(), "OneCampaignViewController");
-  key(Qt::Key_Escape, QEvent::KeyRelease);
-  pass(500);
-  key(Qt::Key_Escape, QEvent::KeyPress);
-  EXPECT_EQ(screen(), "FundCampaignVC");
-}
-
-TEST_F(GlassPressTest, ReturnPressedTwicePressesOneButton) {
-  openCampaign();
-  type("dollarAmountField", "1");
-  app.require("FundButton").forceActiveFocus(Qt::TabFocusReason);
-  for (int i = 0; i < 2; ++i) {
-    key(Qt::Key_Return, QEvent::KeyPress);
-    key(Qt::Key_Return, QEvent::KeyRelease);
-    app.require("yesButton").forceActiveFocus(Qt::TabFocusReason);
-    pass(150);
-  }
-  EXPECT_EQ(screen(), "ConfirmPageVC");
-  key(Qt::Key_Return, QEvent::KeyPress);
-  pass(500);
-  key(Qt::Key_Return, QEvent::KeyRelease);
-  pass(50);
-  key(Qt::Key_Return, QEvent::KeyPress);
-  EXPECT_EQ(screen(), "ThankYouVC");
-}
-
-TEST_F(GlassPressTest, AltLeftAndThePointersBackButtonLeadBack) {
-  click("signUpButton");
-  key(Qt::Key_Left, QEvent::KeyPress, false, Qt::AltModifier);
-  EXPECT_EQ(screen(), "LandingPageVC");
-  click("signUpButton");
-  click("nameField");
-  pass(500);
-  key(Qt::Key_Left, QEvent::KeyPress, false, Qt::AltModifier);
-  EXPECT_EQ(screen(), "LandingPageVC");
-  signIn();
-  click("fundedTab");
-  click("Funded-0");
-  click("campaignUpdates");
-  clickTimes({200, 400}, 2, 100, Qt::BackButton);  // a double click leaves one screen
-  EXPECT_EQ(screen(), "OneCampaignViewController");
-  pass(500);
-  clickTimes({200, 400}, 1, 500, Qt::BackButton);
-  EXPECT_EQ(screen(), "FundCampaignVC");
-  clickTimes({200, 400}, 1, 500, Qt::BackButton);
-  EXPECT_EQ(app.navigation().topViewController()->className(), "TabBarVC");
-}
-
-TEST_F(GlassPressTest, ControlQClosesTheWindow) {
-  click("userEmail");
-  key(Qt::Key_Q, QEvent::KeyPress, false, Qt::ControlModifier);
-  EXPECT_FALSE(app.window().isVisible());
 }
 
 }  // namespace

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QPoint>
+
+#include "tests/window/FingerFixture.h"
+
+namespace leafund {
+
+// Clicks, touches and keys that come faster than a user can look.
+class PressTest : public FingerTest {
+ protected:
+  // Presses and lifts the pointer that many times at one place, that many milliseconds apart by the
+  // events, and each when the slide that the one before began has ended.
+  void clickTimes(QPoint where, int times, int apart = 100,
+                  Qt::MouseButton button = Qt::LeftButton) {
+    for (int i = 0; i < times; ++i) {
+      if (i > 0) app.settle();
+      sendPointer(where, button, QEvent::MouseButtonPress);
+      sendPointer(where, Qt::NoButton, QEvent::MouseButtonRelease, button);
+      pass(apart);
+    }
+  }
+  void clickTimes(const std::string& name, int times, int apart = 100) {
+    app.settle();
+    clickTimes(middleOf(name), times, apart);
+  }
+  void key(Qt::Key key, QEvent::Type type, bool repeat = false, Qt::KeyboardModifiers with = {}) {
+    QKeyEvent event(type, key, with, {}, repeat);
+    event.setTimestamp(static_cast<quint64>(now_));
+    QCoreApplication::sendEvent(&app.window(), &event);
+  }
+  void pass(int milliseconds) { now_ += milliseconds; }
+
+  void openCampaign() {
+    signIn();
+    click("abc-0");
+  }
+  std::string screen() {
+    app.settle();
+    return app.shown()->className();
+  }
+
+  void sendPointer(QPoint where, Qt::MouseButton held, QEvent::Type type,
+                   Qt::MouseButton lifted = Qt::NoButton) {
+    qt_handleMouseEvent(&app.window(), where, app.window().mapToGlobal(where), held,
+                        lifted == Qt::NoButton ? held : lifted, type, {}, now_);
+    QCoreApplication::processEvents();
+  }
+
+ private:
+  int now_ = 1'000'000;  // milliseconds
+};
+
+}  // namespace leafund
