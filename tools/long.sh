@@ -6,7 +6,7 @@
 # that is ending ("Tracer caught signal 11", about once in 50 runs).
 runAddressSuites() {
   enter asan-ubsan
-  build asan-ubsan "" -DLEAFUND_PICTURE_HOST="$pictureHost"
+  buildTree asan-ubsan "$folder" all -DLEAFUND_PICTURE_HOST="$pictureHost"
   export ASAN_OPTIONS=detect_stack_use_after_return=1
   export UBSAN_OPTIONS=print_stacktrace=1
   local suite
@@ -23,7 +23,7 @@ runAddressSuites() {
 # a window: Qt Quick, which is not built for it, would tell of hundreds of races of its own.
 runThreadSuites() {
   enter tsan
-  build tsan "platform_tests contract_headless_tests pictures_tests"
+  buildTree tsan "$folder" "platform_tests contract_headless_tests pictures_tests"
   export TSAN_OPTIONS=suppressions=$PWD/tests/tsan-suppressions.txt
   runSuite "tsan fetches" -L '^(platform|contract_headless|pictures)$' \
     -R 'Session|MainQueue|Transfer'
@@ -47,7 +47,7 @@ outliveDisplay() {
 # How much of each room all suites together run.
 runCoverage() {
   enter coverage
-  build coverage "" -DLEAFUND_PICTURE_HOST="$pictureHost"
+  buildTree coverage "$folder" all -DLEAFUND_PICTURE_HOST="$pictureHost"
   find "$folder" -name '*.gcda' -delete
   runSuite "all, counted" -L .
   outliveDisplay
@@ -57,7 +57,7 @@ runCoverage() {
 # What is too much for a build that nobody optimised.
 runMany() {
   enter release
-  build release "screens_tests random_actions"
+  buildTree release "$folder" "screens_tests random_actions"
   runSuite "a million showings" -L '^screens$' -R RowShowingsTest
   local random
   random=$(find "$folder" -name random_actions -type f)
@@ -77,7 +77,7 @@ runWindow() {
 runCounts() {
   installMissing bench
   enter bench
-  build release counted_bench -DLEAFUND_BENCH=ON -DLEAFUND_TESTS=OFF
+  buildTree release "$folder" counted_bench -DLEAFUND_BENCH=ON -DLEAFUND_TESTS=OFF
   runTool counts '^OK ' '^FAIL ' bench/count "$folder"
 }
 

@@ -4,8 +4,17 @@
 # Without a locale Qt 6.8 warns of one that is not UTF-8, and any warning fails a test.
 [[ $(locale charmap 2>/dev/null) == UTF-8 ]] || export LC_ALL=C.UTF-8
 
+. tools/install.sh
+
 say() { printf '%s\n' "$*"; }
 fail() { printf '%s: %s\n' "${0##*/}" "$*" >&2; exit 1; }
+
+# The command's head comment is its usage. A path it is given counts from where it was called.
+calledFrom=$OLDPWD
+pathOf() { (cd "$calledFrom" && realpath -m -- "$1"); }
+usage() { sed -n '2,/^[^#]/s/^# \{0,1\}//p' "$(pathOf "$0")"; }
+misused() { usage >&2; exit 2; }
+[[ " $* " =~ " "(-h|--help)" " ]] && { usage; exit 0; }
 
 # Every process and folder made on the way is noted here and ended by endEverything, in reverse.
 started=()
@@ -48,42 +57,46 @@ await() {
   return $status
 }
 
-# Prints the packages of the named lists.
-packagesOf() {
-  local list
-  for list in "$@"; do awk -v list="$list" '$1 == list { print $2 }' tools/packages; done | sort -u
-}
-
-missingPackages() {
-  local package
-  for package in $(packagesOf "$@"); do
-    [[ $(dpkg-query -W -f '${db:Status-Abbrev}' "$package" 2>/dev/null) == ii* ]] || say "$package"
+# Says every quarter of a minute how far what it reads has come: apt's installing, or ninja's building.
+progress() {
+  local line stage='' said=$SECONDS
+  while read -r line; do
+    [[ $line =~ ^dlstatus:.*:([0-9]+)\.[0-9]+: ]] && stage="downloaded ${BASH_REMATCH[1]} %"
+    [[ $line =~ ^pmstatus:.*:([0-9]+)\.[0-9]+: ]] && stage="installed ${BASH_REMATCH[1]} %"
+    [[ $line =~ ^\[([0-9]+)/([0-9]+)\] ]] && stage="built ${BASH_REMATCH[1]} of ${BASH_REMATCH[2]}"
+    [[ -n $stage ]] && ((SECONDS - said >= 15)) && say "  $stage" && said=$SECONDS
   done
 }
 
-# Installs what is missing of the named lists, and nothing else.
-installMissing() {
-  if ! command -v dpkg-query >/dev/null; then
-    say "This is no Debian system; needed are: $(packagesOf "$@" | xargs)"
-    return
-  fi
-  local missing asRoot=()
-  mapfile -t missing < <(missingPackages "$@")
-  ((${#missing[@]})) || return 0
-  say "Installing: ${missing[*]}"
-  if ((EUID)); then
-    command -v sudo >/dev/null || fail "neither root nor sudo: please install ${missing[*]}"
-    asRoot=(sudo)
-  fi
-  local log=build/packages.log
-  mkdir -p build
-  {
-    "${asRoot[@]}" apt-get update &&
-      "${asRoot[@]}" env DEBIAN_FRONTEND=noninteractive \
-        apt-get install -y --no-install-recommends "${missing[@]}"
-  } >"$log" 2>&1 && return
-  tail -n 20 "$log"
-  fail "the packages could not be installed"
+# Runs a command to its end, with what it says added to a log; says how far it is.
+awaitLogged() {
+  local log=$1 out copying status
+  exec {out}> >(tee -a "$log" | progress)
+  copying=$!
+  await "${@:2}" >&"$out" 2>&1
+  status=$?
+  exec {out}>&-
+  wait "$copying"
+  return $status
+}
+
+# Builds a preset in a folder: the targets named, "all" among them; the rest goes to CMake.
+buildTree() {
+  local preset=$1 folder=$2 targets=$3 log=$2/build.log
+  mkdir -p "$folder"
+  say "Building in $folder (log: $log)"
+  : >"$log"
+  # shellcheck disable=SC2086 # a list
+  awaitLogged "$log" cmake --preset "$preset" -B "$folder" "${@:4}" &&
+    awaitLogged "$log" cmake --build "$folder" --target $targets && return
+  grep -E -A 8 'error:|FAILED:|CMake Error' "$log" | head -60
+  fail "the build failed"
+}
+
+# The newest version of a tool of LLVM that is there.
+newest() {
+  local version
+  for version in {40..14}; do command -v "$1-$version" && return; done
 }
 
 # Two clones on one machine do not meet: each build folder has a port of its own, from its path.

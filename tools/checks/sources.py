@@ -6,6 +6,8 @@ import re
 import shutil
 import subprocess
 
+from .tree import Unavailable
+
 FORMAT = "clang-format-19"
 KEYWORDS = {"if", "for", "while", "switch", "return", "sizeof", "decltype", "noexcept", "requires"}
 
@@ -43,7 +45,7 @@ def guards(project):
 
 def formatted(project):
     if not shutil.which(FORMAT):
-        return [f"{FORMAT} is not installed"]
+        raise Unavailable(f"{FORMAT} is not there, and others set the lines otherwise")
     told_of = each(
         project, project.files(".h", ".cpp"), lambda path: [FORMAT, "--dry-run", "--Werror", path]
     )
