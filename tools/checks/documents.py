@@ -3,6 +3,7 @@
 import json
 import pathlib
 import re
+import subprocess
 
 FIRST = ("README.md", "CONTRIBUTING.md", "SECURITY.md", "CHANGELOG.md", "tests/README.md")
 # What a document may call that comes from a package.
@@ -117,10 +118,38 @@ def functions(project):
     return found
 
 
+def behaviours(project):
+    sources = "".join(project.text(path) for path in project.files(".cpp") if path.endswith("Test.cpp"))
+    tests = {".".join(names) for names in re.findall(r"^TEST(?:_F|_P)?\(\s*(\w+),\s*(\w+)\s*\)", sources, re.M)}
+    rows = [line for line in project.text("tests/README.md").splitlines()
+            if line.startswith("|") and re.search(r"`\w+Test\.\w+`", line)]
+    named = {name for row in rows for name in re.findall(r"`(\w+\.\w+)`", row)}
+    return sorted(named - tests) if rows else ["tests/README.md holds no table of behaviours"]
+
+
+def usages(project):
+    """Commands that do not say how they are called, or take a word that they do not know."""
+    found = []
+    for path in project.scripts():
+        if path not in ("run", "test") and not re.match(r"(bench|tools)/[^/]+$", path):
+            continue
+        asked, misused = (
+            subprocess.run([project.top / path, word], cwd=project.top, capture_output=True, text=True, timeout=20)
+            for word in ("--help", "--no-such-word")
+        )
+        if asked.returncode or path.split("/")[-1] not in asked.stdout:
+            found.append(f"{path} --help")
+        if misused.returncode != 2:
+            found.append(f"{path} --no-such-word ends with {misused.returncode}")
+    return found
+
+
 CHECKS = (
     ("documents name what exists", "correct the path", paths),
     ("documents link to what exists", "correct the link", links),
     ("documents call what exists", "correct the command, or add its package's", commands),
     ("documents set what exists", "correct the preset or the variable", settings),
+    ("the table of behaviours", "name a test that exists", behaviours),
+    ("commands say how they are called", "take --help, and end with 2 at a word they do not know", usages),
     ("documents know the code", "correct the name of the function", functions),
 )
