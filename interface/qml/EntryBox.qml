@@ -14,7 +14,7 @@ Rectangle {
     readonly property bool wrong: reason ? reason.visible : view.coloured
     readonly property string accessibleReason: reason && reason.visible ? reason.text : ""
     readonly property bool userIsIn: input.activeFocus
-    // Nothing in it and nobody: the caption stands where the text will.
+    // Empty and unfocused: the caption stands where the text will.
     readonly property bool resting: !userIsIn && !input.text && !input.preeditText
 
     visible: view.visible

@@ -16,7 +16,7 @@ EntryBox {
         width: parent.width
         activeFocusOnTab: true
         clip: true
-        // Left, it shows its beginning.
+        // On blur, scroll to the start.
         autoScroll: activeFocus
         onActiveFocusChanged: if (!activeFocus) ensureVisible(0)
         activeFocusOnPress: false

@@ -13,9 +13,9 @@ namespace leafund {
 // ignored. Callable from any thread; a line is never mixed with another.
 void writeDiagnosticLine(std::string_view line);
 
-// To be called before anything else of the program. A standard stream that was handed over closed
-// is opened to nowhere: what opens next would otherwise take its number, and get its lines. And
-// whoever reads the lines may go: writing to nobody ends no process.
+// Call this before anything else in the program. Opens closed standard streams to /dev/null, since
+// the next file opened would otherwise take their number and receive our lines; and ignores SIGPIPE,
+// since a closed pipe must not kill us.
 void secureStandardStreams();
 
 // The number in decimal digits with a leading "-" when negative; the same in every locale.

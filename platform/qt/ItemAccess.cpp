@@ -12,7 +12,7 @@ namespace leafund {
 
 namespace {
 
-// A pane whose items are not to be met, as long as they are in it.
+// A pane that hides its children from assistive technology.
 class ClosedAccess final : public ItemAccess {
  public:
   using ItemAccess::ItemAccess;

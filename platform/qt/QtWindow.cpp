@@ -93,7 +93,7 @@ void QtWindow::setKeyboardArea(const QRectF& area) {
   fit();
 }
 
-// A keyboard that floats covers what the user moves it over, and is none of ours.
+// Ignore floating keyboards: the user puts them where they are not in the way.
 void QtWindow::fit() {
   const bool docked = !keyboardArea_.isEmpty() && keyboardArea_.bottom() >= height();
   const double content = docked ? keyboardArea_.top() : height();

@@ -72,7 +72,7 @@ ScenePage& SceneStage::pageFor(UIViewController& controller) {
 
 void SceneStage::exchangeFor(QQuickItem& incoming, bool forward) {
   const double edge = forward ? glass_.width() : -glass_.width() * kLowerShare;
-  // Turned round in the middle of a slide, both go on from where they are.
+  // If reversed mid-slide, both go on from where they are.
   const double incomingX = &incoming == outgoing_ ? incoming.x() : edge;
   const double outgoingX = shown_ != nullptr ? shown_->x() : 0;
   animation_.stop();
@@ -85,7 +85,7 @@ void SceneStage::exchangeFor(QQuickItem& incoming, bool forward) {
   }
   incoming.setVisible(true);
   incoming.setEnabled(true);
-  // A focus that the host gives back is none that the user gave.
+  // Restored focus does not count as user focus.
   incoming.forceActiveFocus(Qt::ActiveWindowFocusReason);
   if (outgoing_ == nullptr) return;
   incoming.setX(incomingX);
