@@ -10,6 +10,7 @@ gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402
 
 LIMIT = 15.0  # seconds that any one step may take
+LOOK_AGAIN = 0.08  # seconds: each look asks the app some hundred questions
 # A role's name in words differs from version to version, a role does not.
 Role = Atspi.Role
 FIELDS = {Role.TEXT, Role.ENTRY, Role.PASSWORD_TEXT, Role.EDITBAR}
@@ -48,7 +49,7 @@ class App:
                 raise RoadBroken(f"the app ended; expected {what}")
             if time.monotonic() > end:
                 raise RoadBroken(f"not within {LIMIT:.0f} s: {what}")
-            time.sleep(0.02)
+            time.sleep(LOOK_AGAIN)
 
     def walk(self, enters):
         """Every node, in reading order; below one that is not to be entered, none."""
