@@ -1,7 +1,7 @@
 #!/usr/bin/python3 -B
-"""comeback_walk.py PROCESS: scrolls, opens rows and comes back in the app that runs as PROCESS on
-$DISPLAY, in every way there is, and clicks twice as fast as a user may. After each trip the list must
-stand where it stood, to the pixel, and no double click may press what the first click brought.
+"""comeback_walk.py PROCESS PORT: scrolls, opens rows and comes back in the app that runs as PROCESS on
+$DISPLAY and takes fingers on PORT, in every way there is, and presses twice as fast as a user may. After each
+trip the list must stand where it stood, to the pixel, and no second press may press what the first brought.
 """
 
 import itertools
@@ -9,6 +9,7 @@ import sys
 import time
 
 from bus import Role, check, go
+from finger import Fingers
 from window import ROWS, TABS, Window, run
 
 STEPS = 6  # of the wheel or of a key, from the top to the end of the list and once beyond
@@ -20,12 +21,20 @@ QUESTION = "Do you want to fund this campaign?"
 class Walk:
     def __init__(self, window):
         self.window = window
-        self.ways_back = itertools.cycle((self.by_bar, self.by_escape, self.by_alt_left, self.by_drag))
+        self.ways_back = itertools.cycle((self.by_bar, self.by_escape, self.by_alt_left, self.by_drag, self.by_finger))
+        self.fingers = Fingers(int(sys.argv[2]))
         self.id = window.search()
         window.resize(self.id, SIZES[0])
 
     def steps(self):
-        return (self.sign_in, self.come_back_after_the_wheel, self.come_back_after_keys, self.click_twice)
+        return (
+            self.sign_in,
+            self.come_back_after_the_wheel,
+            self.come_back_after_keys,
+            self.come_back_after_fingers,
+            self.click_twice,
+            self.tap_twice,
+        )
 
     def sign_in(self):
         self.window.type_into("E-mail", "robin@example.org")
@@ -43,16 +52,31 @@ class Walk:
         self.window.touch("key", "Tab", "Home")
         self.sweep(lambda: self.window.touch("key", "Down"))
 
-    def sweep(self, scroll):
+    def come_back_after_fingers(self):
+        self.window.click("Funded", TABS)
+        self.window.click("Browse", TABS)
+        middle = self.window.width // 2
+        self.sweep(lambda: self.draw((middle, 500), (middle, 340)), self.tap)
+
+    def sweep(self, scroll, press=None):
         for _ in range(STEPS):
             rows = sorted(self.rows_at_rest(), key=lambda name: self.rows[name][1])
             for name in (rows[0], rows[-1]):  # those that may be half in sight
-                self.trip(name)
+                self.trip(name, press or self.press)
             scroll()
 
-    def trip(self, name):
+    def press(self, place):
+        self.window.touch("mousemove", *place, "click", 1)
+
+    def tap(self, place):
+        self.fingers.tap((self.window.width, self.window.height), place)
+
+    def draw(self, start, end):
+        self.fingers.draw((self.window.width, self.window.height), start, end)
+
+    def trip(self, name, press):
         before = self.rows
-        self.window.touch("mousemove", self.window.width // 2, self.seen_middle(before[name]), "click", 1)
+        press((self.window.width // 2, self.seen_middle(before[name])))
         self.window.expect(name, {Role.HEADING})
         way_back = next(self.ways_back)
         way_back()
@@ -76,6 +100,22 @@ class Walk:
         ways = [("mousemove", x, 300, "sleep", 0.02) for x in range(6, 240, 18)]
         self.window.touch(*ways[0], "mousedown", 1, *itertools.chain(*ways[1:]), "mouseup", 1)
 
+    def by_finger(self):
+        self.draw((6, 300), (240, 310))
+
+    def tap_twice(self):
+        for size in SIZES:
+            self.window.resize(self.id, size)
+            self.ask()
+            place = self.window.still_middle("Fund this campaign")
+            self.tap(place)
+            time.sleep(0.08)
+            self.tap(place)
+            time.sleep(0.6)  # more than a slide
+            check(self.window.sees(QUESTION), f"no pledge without “Yes” of a finger, at {size}")
+            self.window.click("No")
+            self.window.click("Back")
+
     def click_twice(self):
         for size in SIZES:
             self.window.resize(self.id, size)
@@ -92,11 +132,15 @@ class Walk:
             self.window.expect("Thank you for your pledge!")
             self.window.click("Home")
 
-    def fund(self, options=()):
+    def ask(self):
+        """Opens a campaign and types an amount."""
         rows = self.rows_at_rest()
         name = max(rows, key=lambda each: self.seen(rows[each])[1] - self.seen(rows[each])[0])
         self.window.touch("mousemove", 200, self.seen_middle(rows[name]), "click", 1)
         self.window.type_into("Amount in dollars", "1")
+
+    def fund(self, options=()):
+        self.ask()
         self.window.click("Fund this campaign", options=options)
         self.window.expect(QUESTION)
 
@@ -134,6 +178,10 @@ class SweptWindow(Window):
 
     def touch(self, *words):
         self._xdotool(*map(str, words))
+
+    def still_middle(self, name):
+        self._bring_into_view(name, {Role.PUSH_BUTTON})
+        return self._still_middle(name, {Role.PUSH_BUTTON})
 
     def places(self, roles):
         return {name: place for name, role, place in self._showing() if role in roles}
