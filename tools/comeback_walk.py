@@ -186,11 +186,6 @@ class SweptWindow(Window):
     def places(self, roles):
         return {name: place for name, role, place in self._showing() if role in roles}
 
-    def list_edges(self):
-        """The upper and lower edge of the list on top."""
-        lists = [place for _, role, place in self._showing() if role == Role.LIST]
-        return (lists[0][1], lists[0][1] + lists[0][3]) if lists else (0, self.height)
-
 
 if __name__ == "__main__":
     sys.exit(go(Walk, lambda: SweptWindow(int(sys.argv[1]))))

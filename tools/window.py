@@ -63,7 +63,10 @@ class Window(App):
         # A user looks first; what comes sooner at one place is a double click, and one tap.
         time.sleep(max(0, self._clicked + DOUBLE_CLICK - time.monotonic()))
         self._clicked = time.monotonic()
-        self._xdotool("mousemove", str(x), str(y), "click", *map(str, options), "1")
+        self.press((x, y), options)
+
+    def press(self, place, options=()):
+        self._xdotool("mousemove", *map(str, place), "click", *map(str, options), "1")
 
     def type_into(self, field, text):
         """Replaces what a field holds."""
@@ -74,6 +77,16 @@ class Window(App):
         """Saves the screen once it stands still."""
         self.wait("a screen that stands still", self._is_still)
         run("import", "-window", "root", path)
+
+    def scroll_towards(self, y):
+        """A little towards what lies above or below of what is seen."""
+        self._xdotool("mousemove", str(self.width // 2), str(self.height // 2))
+        self._xdotool("click", "5" if y > self.height // 2 else "4")
+
+    def list_edges(self):
+        """The upper and lower edge of the list on top."""
+        lists = [place for _, role, place in self._showing() if role == Role.LIST]
+        return (lists[0][1], lists[0][1] + lists[0][3]) if lists else (0, self.height)
 
     # The rest is how.
 
@@ -101,14 +114,14 @@ class Window(App):
         return extents.x, extents.y, extents.width, extents.height
 
     def _bring_into_view(self, name, roles):
-        """Turns the wheel until the middle of a control lies on the screen."""
+        """Scrolls until the middle of a control can be pressed: that of a row may lie under the tabs."""
 
         def in_view():
             _, y = self._middle(name, roles)
-            if 0 < y < self.height:
+            top, bottom = self.list_edges() if roles == ROWS else (0, self.height)
+            if top < y < bottom:
                 return True
-            self._xdotool("mousemove", str(self.width // 2), str(self.height // 2))
-            self._xdotool("click", "5" if y > 0 else "4")
+            self.scroll_towards(y)
             return False
 
         self.wait(f"“{name}” within reach", in_view)

@@ -188,3 +188,32 @@ openBuses() {
   dbus-send --session --print-reply --dest=org.a11y.Bus /org/a11y/bus org.a11y.Bus.GetAddress \
     >"$state/accessibility" || fail "the accessibility bus did not start"
 }
+
+# A virtual screen of X of that size, which Qt's programs then open on.
+openX11() {
+  rm -f "$state/display"
+  start Xvfb -displayfd 3 -screen 0 "${1}x24" -nolisten tcp 3>"$state/display" 2>"$state/screen.log"
+  written "$state/display" "the virtual screen"
+  unset WAYLAND_DISPLAY
+  export DISPLAY QT_QPA_PLATFORM=xcb
+  DISPLAY=:$(<"$state/display")
+}
+
+# A Wayland screen of that size that nobody sees, with that shell: the kiosk makes each window as large as
+# the screen, but draws none where there is no keyboard; the desktop draws them.
+openWayland() {
+  rm -f "$state/wayland"*
+  start weston --backend=headless-backend.so --shell="$2-shell.so" --no-config --idle-time=0 \
+    --socket=wayland --width="${1%x*}" --height="${1#*x}" >"$state/screen.log" 2>&1
+  written "$state/wayland" "the Wayland screen"
+  unset DISPLAY
+  # Qt 6.4 looks for the keyboard of a desktop that offers to help with typing, and ends where there is none.
+  export WAYLAND_DISPLAY=wayland QT_QPA_PLATFORM=wayland QT_IM_MODULE=compose
+}
+
+# Starts the app so that it takes fingers (tools/finger.py) on the port in $fingers.
+startWithFingers() {
+  fingers=$(python3 -c 'import sys; sys.path.insert(0, "tools"); import finger; print(finger.free_port())')
+  # On Wayland no window has the focus where there is no keyboard.
+  QT_TUIOTOUCH_DELIVER_WITHOUT_FOCUS=1 QT_QPA_GENERIC_PLUGINS=tuiotouch:udp=$fingers start "$@"
+}

@@ -1,23 +1,27 @@
 #!/usr/bin/python3 -B
-"""outside_user.py PROCESS OUTPUT REFERENCE ACTIONS SEED: does random actions in the app that runs as PROCESS
-on $DISPLAY, with real clicks and keys, and compares what assistive technology is told, and what the app
-printed to the file OUTPUT, with the program REFERENCE after each. Prints the actions, and fails at the first
-difference.
+"""outside_user.py PROCESS PORT OUTPUT REFERENCE ACTIONS SEED: does random actions in the app that runs as
+PROCESS and takes fingers on PORT: on $DISPLAY with real clicks and keys, too, and where there is none, on a
+Wayland screen, with fingers alone. Compares what assistive technology is told, and what the app printed to the
+file OUTPUT, with the program REFERENCE after each. Prints the actions, and fails at the first difference.
 """
 
+import os
 import random
 import subprocess
 import sys
+import time
 from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "tools"))
-from bus import FIELDS, Atspi, Role, RoadBroken  # noqa: E402
+from bus import FIELDS, Atspi, Role, RoadBroken, check  # noqa: E402
+from finger import Fingers  # noqa: E402
 from window import CONTROLS, ROWS, TABS, Window  # noqa: E402
 
 BUTTONS = {Role.PUSH_BUTTON}
 ADDRESS = "http://127.0.0.1:9/none.jpg"  # nobody answers there, so the picture stays empty
 # Pressing these exchanges the screen, so that a double click is one tap.
 LEAVING = {"newButton", "yesButton", "noButton", "homeButton", "campaignUpdates"}
+TWICE = 0.08  # seconds between two presses that are one
 TEXTS = ("wren@example.org", "secret", "25", "1.50", "0", "nan", "x", "Rain Barrels")
 
 
@@ -48,10 +52,66 @@ class Reference:
         return [view for view in self.views if view[0] in kinds and not view[2]]
 
 
+class Hand(Window):
+    """Presses with a pointer or a finger, as the lot says; without $DISPLAY with a finger."""
+
+    def __init__(self, process, port, lot):
+        self.lot, self.fingers, self.on_x = lot, Fingers(port), "DISPLAY" in os.environ
+        super().__init__(process)
+
+    def press(self, place, options=()):
+        if self.on_x and self.lot.random() < 0.6:
+            return super().press(place, options)
+        self._tap(place)
+        if options:
+            time.sleep(TWICE)
+            self._tap(place)
+        return None
+
+    def type_into(self, field, text):
+        if self.on_x:
+            return super().type_into(field, text)
+        self.click(field, FIELDS)
+        nodes = [node for node in self.walk(lambda _: True) if node.get_role() in FIELDS
+                 and node.get_name() == field and self._place(node)[3] > 0]
+        check(len(nodes) == 1, f"one field “{field}”: {len(nodes)}")
+        return Atspi.EditableText.set_text_contents(nodes[0], text)
+
+    def scroll(self):
+        x, y = self.width // 2, self.height // 2
+        if self.on_x and self.lot.random() < 0.5:
+            wheel = ("click", "--repeat", self.lot.randint(1, 8), "--delay", 30, self.lot.choice("45"))
+            return self._xdotool("mousemove", *map(str, (x, y, *wheel)))
+        return self._draw((x, y), (x, y + self.lot.randint(-300, 300)))
+
+    def go_back(self):
+        """By a key or from the edge, without the button."""
+        if self.on_x and self.lot.random() < 0.7:
+            return self._xdotool("key", self.lot.choice(("Escape", "alt+Left")))
+        return self._draw((5, 300), (260, 310))
+
+    def _tap(self, place):
+        self.fingers.tap((self.width, self.height), place)
+
+    def _draw(self, start, end):
+        self.fingers.draw((self.width, self.height), start, end)
+
+    def _screen(self):
+        if self.on_x:
+            return super()._screen()
+        frame = self.application.get_child_at_index(0).get_extents(Atspi.CoordType.SCREEN)
+        return frame.width, frame.height
+
+    def scroll_towards(self, y):
+        if self.on_x:
+            return super().scroll_towards(y)
+        middle = (self.width // 2, self.height // 2)
+        return self._draw(middle, (middle[0], middle[1] + (-150 if y > middle[1] else 150)))
+
+
 class User:
-    def __init__(self, window, output, reference, seed):
-        self.window, self.output, self.reference = window, output, reference
-        self.lot = random.Random(seed)
+    def __init__(self, window, output, reference, lot):
+        self.window, self.output, self.reference, self.lot = window, output, reference, lot
 
     def act(self):
         """One action, by window and reference; its words."""
@@ -67,7 +127,7 @@ class User:
         choices += [("scroll",)] * 4 * bool(shown)
         choices += [("back",)] * 2 * reference.back
         verb, *what = self.lot.choice(choices)
-        twice = ("--repeat", 2, "--delay", 80) if self.lot.random() < 0.3 else ()
+        twice = ("--repeat", 2, "--delay", int(1000 * TWICE)) if self.lot.random() < 0.3 else ()
         if verb == "tap":
             self.window.click(what[5], BUTTONS | TABS, twice if what[0] in LEAVING else ())
             reference.do("tap", what[0])
@@ -83,14 +143,12 @@ class User:
             reference.do("row", what[0])
             return f"row {what[0]} {twice}"
         if verb == "scroll":
-            middle = (str(self.window.width // 2), str(self.window.height // 2))
-            wheel = ("click", "--repeat", str(self.lot.randint(1, 8)), "--delay", "30", self.lot.choice("45"))
-            self.window._xdotool("mousemove", *middle, *wheel)
+            self.window.scroll()
             return "scroll"
         if self.lot.random() < 0.5:
             self.window.click("Back", BUTTONS)
         else:
-            self.window._xdotool("key", self.lot.choice(("Escape", "alt+Left")))
+            self.window.go_back()
         reference.do("back")
         return "back"
 
@@ -130,8 +188,9 @@ class User:
                 if node.get_role() in FIELDS]
 
 
-def main(process, output, program, actions, seed):
-    user = User(Window(int(process)), output, Reference(program), int(seed))
+def main(process, port, output, program, actions, seed):
+    lot = random.Random(int(seed))
+    user = User(Hand(int(process), int(port), lot), output, Reference(program), lot)
     try:
         user.compare()
         for number in range(int(actions)):
