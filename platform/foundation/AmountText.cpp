@@ -1,23 +1,20 @@
 #include "platform/foundation/AmountText.h"
 
-#include <locale.h>
-#include <stdlib.h>
-
 #include <algorithm>
 #include <array>
-#include <charconv>
+#include <clocale>
+#include <cmath>
+#include <cstdio>
+#include <cstdlib>
 #include <limits>
 
 namespace leafund {
 
 namespace {
 
-// Plain strtof follows the locale of the process, and a graphical toolkit sets that at start: under
-// de_DE it reads "12.5" as 12. Never freed, so that it outlives every use.
-locale_t cLocale() {
-  static const locale_t locale = newlocale(LC_ALL_MASK, "C", nullptr);
-  return locale;
-}
+// strtof and printf follow the locale of the process, and a graphical toolkit sets that at start:
+// under de_DE they read and write "12,5".
+std::string_view decimalPoint() { return std::localeconv()->decimal_point; }
 
 bool isWhiteSpaceOrNotAscii(char character) {
   constexpr std::string_view whiteSpace = " \t\n\v\f\r";
@@ -32,21 +29,27 @@ std::optional<float> amountFromText(std::string_view text) {
     return std::nullopt;
   }
   // The copy ends in a NUL, as strtof wants it. A NUL inside the text stops strtof before the end.
-  const std::string typed{text};
+  std::string typed{text};
+  const std::string_view point = decimalPoint();
+  if (point != ".") {
+    if (typed.find(point) != std::string::npos) return std::nullopt;
+    if (const auto dot = typed.find('.'); dot != std::string::npos) typed.replace(dot, 1, point);
+  }
   char* end = nullptr;
-  const float amount = strtof_l(typed.c_str(), &end, cLocale());
+  const float amount = std::strtof(typed.c_str(), &end);
   if (end != typed.c_str() + typed.size()) return std::nullopt;
   return amount;
 }
 
 std::string dollarText(float amount) {
-  // The longest: "$-", the 39 digits of the largest float, the point and two decimals.
-  std::array<char, std::numeric_limits<float>::max_exponent10 + 1 + 5> text{'$'};
-  // As a double, which is how printf would be given it.
-  const auto end = std::to_chars(text.begin() + 1, text.end(), static_cast<double>(amount),
-                                 std::chars_format::fixed, 2)
-                       .ptr;
-  return {text.begin(), end};
+  // The longest: "$-", the 39 digits of the largest float, the point, which may be some bytes long
+  // in a locale, two decimals and a NUL.
+  std::array<char, std::numeric_limits<float>::max_exponent10 + 1 + 16> printed{};
+  std::snprintf(printed.data(), printed.size(), "$%.2f", static_cast<double>(amount));
+  std::string text{printed.data()};
+  if (!std::isfinite(amount)) return text;
+  const std::size_t pointSize = decimalPoint().size();
+  return text.replace(text.size() - 2 - pointSize, pointSize, ".");
 }
 
 }  // namespace leafund
