@@ -1,5 +1,5 @@
-#include "platform/foundation/Diagnostics.h"
 #include "platform/qt/QtHost.h"
+#include "platform/qt/StandardStreams.h"
 #include "shell/AppDelegate.h"
 #include "shell/Storyboard.h"
 

@@ -13,11 +13,6 @@ namespace leafund {
 // ignored. Callable from any thread; a line is never mixed with another.
 void writeDiagnosticLine(std::string_view line);
 
-// Call this before anything else in the program. Opens closed standard streams to /dev/null, since
-// the next file opened would otherwise take their number and receive our lines; and ignores
-// SIGPIPE, since a closed pipe must not kill us.
-void secureStandardStreams();
-
 // The number in decimal digits with a leading "-" when negative; the same in every locale.
 std::string decimalText(std::ptrdiff_t number);
 

@@ -4,7 +4,6 @@
 
 #include <array>
 #include <cstdio>
-#include <cstdlib>
 #include <limits>
 #include <string>
 #include <string_view>
@@ -67,35 +66,6 @@ TEST(DiagnosticsTest, HasWrittenTheLineOutWhenItReturns) {
   close(ends[1]);
   ASSERT_GT(size, 0);
   EXPECT_EQ(std::string_view(got.data(), static_cast<std::size_t>(size)), "at once\n");
-}
-
-// In a process of its own, which ends with 7 when all is well.
-void writeToNobody() {
-  std::array<int, 2> ends{};
-  if (pipe(ends.data()) != 0) std::exit(1);
-  dup2(ends[1], STDOUT_FILENO);
-  close(ends[0]);
-  close(ends[1]);
-  secureStandardStreams();
-  writeDiagnosticLine("to nobody");
-  std::exit(7);
-}
-
-void openWithoutStandardStreams() {
-  close(STDIN_FILENO);
-  close(STDOUT_FILENO);
-  secureStandardStreams();
-  const int next = open("/dev/zero", O_RDWR);
-  writeDiagnosticLine("to nowhere");
-  std::exit(next > STDERR_FILENO ? 7 : 1);
-}
-
-TEST(DiagnosticsTest, AReaderThatHasGoneEndsNoProcess) {
-  EXPECT_EXIT(writeToNobody(), testing::ExitedWithCode(7), "");
-}
-
-TEST(DiagnosticsTest, AStreamThatWasClosedIsNotTakenByWhatOpensNext) {
-  EXPECT_EXIT(openWithoutStandardStreams(), testing::ExitedWithCode(7), "");
 }
 
 TEST(DiagnosticsTest, DecimalTextWritesTheWholeRange) {
