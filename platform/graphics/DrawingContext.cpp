@@ -1,5 +1,6 @@
 #include "platform/graphics/DrawingContext.h"
 
+#include <atomic>
 #include <utility>
 
 namespace leafund {
@@ -12,11 +13,18 @@ namespace {
 struct ContextStack {
   std::size_t buried = 0;
   std::unique_ptr<Drawing> top;
+  ContextStack* older = nullptr;  // some other thread's
 };
 
 ContextStack& contexts() {
-  thread_local ContextStack stack;
-  return stack;
+  // Kept when its thread ends, since not every platform runs destructors there; it stays reachable.
+  static std::atomic<ContextStack*> newest;
+  thread_local ContextStack* stack = nullptr;
+  if (stack == nullptr) {
+    stack = new ContextStack;
+    stack->older = newest.exchange(stack);
+  }
+  return *stack;
 }
 
 }  // namespace

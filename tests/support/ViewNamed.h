@@ -1,10 +1,10 @@
 #pragma once
 
 #include <memory>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 
+#include "platform/foundation/FatalError.h"
 #include "platform/uikit/UINavigationController.h"
 #include "platform/uikit/UITabContainer.h"
 #include "platform/uikit/UIViewController.h"
@@ -20,11 +20,11 @@ inline std::shared_ptr<UIView> descendant(const UIView& root, std::string_view n
   return nullptr;
 }
 
-// A view of the screen on top of the stack, by its name. Throws where there is none.
+// A view of the screen on top of the stack, by its name; fatal where there is none.
 inline std::shared_ptr<UIView> viewNamed(const UINavigationController& navigation,
                                          std::string_view name) {
   auto found = descendant(*navigation.topViewController()->view(), name);
-  if (!found) throw std::out_of_range("no view is named " + std::string(name));
+  if (!found) fatalError("test", "no view is named " + std::string(name));
   return found;
 }
 
