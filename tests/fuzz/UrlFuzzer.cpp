@@ -3,14 +3,14 @@
 #include "platform/foundation/NSURL.h"
 #include "tests/fuzz/Fuzzers.h"
 #include "tests/fuzz/Promise.h"
-#include "tests/fuzz/UriGrammar.h"
+#include "tests/support/UriJudge.h"
 
 namespace leafund::fuzz {
 
 void url(std::string_view input) {
   const auto address = NSURL::initWithString(input);
-  promised(address.has_value() == (!input.empty() && isUriReference(input)),
-           "an address is what the grammar calls a reference, and is not empty");
+  promised(address.has_value() == (!input.empty() && judgedUriReference(input)),
+           "an address is what uriparser takes for a reference, and is not empty");
   if (!address) return;
   const std::string& kept = address->absoluteString();
   promised(kept == input, "an address is kept as it was typed");

@@ -24,7 +24,7 @@ FREE = ("shell/main.cpp", "tests/", "bench/")
 LIBRARIES = (
     ("Qt", r"<(Q[A-Z]|Qt[A-Z])", "platform/qt"),
     ("ICU", r"<unicode/", "platform/foundation"),
-    ("uriparser", r"<uriparser/", "platform/foundation"),
+    ("uriparser", r"<uriparser/", "tests/support"),
     ("libcurl", r"<curl/", "platform/curl"),
     ("libjpeg", r"<jpeglib", "platform/qt"),
     ("libpng", r"<png\.h", "platform/qt"),
