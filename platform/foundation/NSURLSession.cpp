@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "platform/Host.h"
+
 namespace leafund {
 
 NSURLSessionDataTask::NSURLSessionDataTask(NSURLRequest request, CompletionHandler handler)

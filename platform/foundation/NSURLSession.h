@@ -1,9 +1,10 @@
 #pragma once
 
+#include <cstddef>
 #include <memory>
 
-#include "platform/Host.h"
 #include "platform/foundation/NSURLRequest.h"
+#include "platform/foundation/NSURLResponse.h"
 
 namespace leafund {
 
@@ -33,8 +34,9 @@ class NSURLSession {
 
   static NSURLSession& sharedSession();
 
-  // The handler runs once, on a thread of the session's own, never inside resume(). What it holds
-  // is let go on the main thread, because screens and cells must end there.
+  // The handler runs once, never inside resume() and never with the host's onMain(), because it may
+  // be on a thread of the session's own. What it holds is let go on the main thread, because
+  // screens and cells must end there.
   std::shared_ptr<NSURLSessionDataTask> dataTaskWithRequestCompletionHandler(
       NSURLRequest request, CompletionHandler handler);
 };

@@ -3,6 +3,8 @@
 #include <atomic>
 #include <utility>
 
+#include "platform/Host.h"
+
 namespace leafund {
 
 namespace {

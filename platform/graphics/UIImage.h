@@ -3,7 +3,7 @@
 #include <memory>
 #include <vector>
 
-#include "platform/Host.h"
+#include "platform/foundation/NSURLResponse.h"
 #include "platform/graphics/Geometry.h"
 
 namespace leafund {
