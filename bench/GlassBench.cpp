@@ -109,8 +109,8 @@ QQuickItem& GlassBench::item(const std::string& name) {
 }
 
 std::shared_ptr<UITableView> GlassBench::table() {
-  const auto tabs = application->navigation()->topViewController()->tabContainer();
-  return std::dynamic_pointer_cast<UITableView>(tabs->selectedViewController()->view());
+  const auto child = application->navigation()->topViewController()->shownChild();
+  return std::dynamic_pointer_cast<UITableView>(child->view());
 }
 
 std::shared_ptr<UIView> GlassBench::view(const std::string& name) {

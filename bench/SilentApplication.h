@@ -31,8 +31,7 @@ class SilentApplication {
   bool shown(std::string_view className) const { return top().className() == className; }
 
   std::shared_ptr<UITableView> table() const {
-    return std::dynamic_pointer_cast<UITableView>(
-        top().tabContainer()->selectedViewController()->view());
+    return std::dynamic_pointer_cast<UITableView>(top().shownChild()->view());
   }
   void tap(std::string_view name) { application->tap(view(name)); }
   void type(std::string_view name, std::string text) {

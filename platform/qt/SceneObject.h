@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QtQmlIntegration/qqmlintegration.h>
+
 #include <QObject>
 #include <QVariantMap>
 #include <memory>
@@ -45,8 +46,7 @@ class SceneObject : public QObject {
   void changed();
 
  private:
-  void readViews(const UIView& parent, const UIViewController& controller);
-  void readView(const std::shared_ptr<UIView>& view);
+  void readViews(const UIViewController& controller);
 
   QVariantMap views_;
   ViewObject* root_;

@@ -7,7 +7,6 @@
 
 #include "platform/uikit/UIApplication.h"
 #include "platform/uikit/UIStoryboard.h"
-#include "platform/uikit/UITabContainer.h"
 
 namespace leafund {
 
@@ -36,38 +35,15 @@ SceneStage::SceneStage(QQmlEngine& engine, QQuickItem& glass)
 }
 
 void SceneStage::show(const UINavigationController& navigation) {
-  auto leaving = takeLeaving(navigation);
-  auto& top = *navigation.topViewController();
-  const auto known = pages_.size();
-  auto& page = pageFor(top);
-  page.refresh(navigation, top);
-  if (page.item() != shown_) exchangeFor(*page.item(), pages_.size() > known);
-  for (auto& gone : leaving) {
+  auto change = pages_.follow(navigation, [this](UIViewController& screen) {
+    return std::make_unique<ScenePage>(loader_, screen, &glass_);
+  });
+  change.shown.refresh(navigation, *navigation.topViewController());
+  if (change.shown.item() != shown_) exchangeFor(*change.shown.item(), change.came);
+  for (auto& gone : change.gone) {
     // Only what slides out is still seen; the others end here.
     if (gone->item() == outgoing_) leaving_.push_back(std::move(gone));
   }
-}
-
-std::vector<std::unique_ptr<ScenePage>> SceneStage::takeLeaving(
-    const UINavigationController& navigation) {
-  const auto& stack = navigation.viewControllers();
-  const auto stays = [&](const std::unique_ptr<ScenePage>& page) {
-    return std::any_of(stack.begin(), stack.end(),
-                       [&](const auto& controller) { return page->shows(*controller); });
-  };
-  const auto gone = std::stable_partition(pages_.begin(), pages_.end(), stays);
-  std::vector<std::unique_ptr<ScenePage>> leaving(std::make_move_iterator(gone),
-                                                  std::make_move_iterator(pages_.end()));
-  pages_.erase(gone, pages_.end());
-  return leaving;
-}
-
-ScenePage& SceneStage::pageFor(UIViewController& controller) {
-  const auto found = std::find_if(pages_.begin(), pages_.end(),
-                                  [&](const auto& page) { return page->shows(controller); });
-  if (found != pages_.end()) return **found;
-  pages_.push_back(std::make_unique<ScenePage>(loader_, controller, &glass_));
-  return *pages_.back();
 }
 
 void SceneStage::exchangeFor(QQuickItem& incoming, bool forward) {
@@ -126,9 +102,8 @@ void SceneStage::lookAhead() {
   const auto* storyboard = top->storyboard();
   if (storyboard == nullptr) return;
   auto next = storyboard->scenesAfter(top->className());
-  if (const auto tabs = top->tabContainer()) {
-    std::ranges::copy(storyboard->scenesAfter(tabs->selectedViewController()->className()),
-                      std::back_inserter(next));
+  if (const auto child = top->shownChild()) {
+    std::ranges::copy(storyboard->scenesAfter(child->className()), std::back_inserter(next));
   }
   const auto missing = std::ranges::find_if(
       next, [&](const auto& className) { return !loader_.hasAhead(className); });

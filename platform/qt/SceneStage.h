@@ -22,9 +22,6 @@ class SceneStage : public QObject {
   void show(const UINavigationController& navigation);
 
  private:
-  // Pages whose screens left the stack.
-  std::vector<std::unique_ptr<ScenePage>> takeLeaving(const UINavigationController& navigation);
-  ScenePage& pageFor(UIViewController& controller);
   void exchangeFor(QQuickItem& incoming, bool forward);
   void slide(QQuickItem& incoming, bool forward);
   void endSlide();
@@ -34,7 +31,7 @@ class SceneStage : public QObject {
   QQuickItem& glass_;
   SceneLoader loader_;
   QTimer rest_;
-  std::vector<std::unique_ptr<ScenePage>> pages_;
+  ScreenPages<ScenePage> pages_;
   std::vector<std::unique_ptr<ScenePage>> leaving_;  // until their slide has ended
   QQuickItem* shown_ = nullptr;
   QQuickItem* outgoing_ = nullptr;  // while it slides

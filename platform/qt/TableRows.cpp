@@ -54,8 +54,9 @@ bool TableRows::eventFilter(QObject* row, QEvent* event) {
 }
 
 void TableRows::nameAndStack() {
-  const auto table = std::dynamic_pointer_cast<UITableView>(table_->view());
-  if (!table) return;  // on its way out: it stays as it was last shown
+  const auto view = table_->view();
+  if (!view) return;  // on its way out: it stays as it was last shown
+  const auto& table = static_cast<const UITableView&>(*view);
   std::map<const UIView*, QQuickItem*> itemOf;
   QString focused;
   for (std::size_t i = 0; i < items_.size(); ++i) {
@@ -65,7 +66,7 @@ void TableRows::nameAndStack() {
     items_[i]->setObjectName({});
   }
   QQuickItem* before = nullptr;
-  for (const auto& [row, cell] : table->visibleCells()) {
+  for (const auto& [row, cell] : table.visibleCells()) {
     auto* item = itemOf[cell.get()];
     item->setObjectName(qtText(cell->reuseIdentifier()) + '-' + QString::number(row));
     if (before != nullptr) item->stackAfter(before);

@@ -45,9 +45,10 @@ void readInput(const UITextInput& input, ViewLook& look) {
   look.showsMessage = input.showsMessage();
   // What was typed is what counts: nothing may be corrected, completed or capitalised on the way.
   auto hints = hintsFor(input.keyboardType()) | Qt::ImhNoPredictiveText | Qt::ImhNoAutoUppercase;
-  if (const auto* field = dynamic_cast<const UITextField*>(&input)) {
-    look.secure = field->secureTextEntry();
-    look.masked = field->masked();
+  if (input.kind() == ViewKind::TextField) {
+    const auto& field = static_cast<const UITextField&>(input);
+    look.secure = field.secureTextEntry();
+    look.masked = field.masked();
   }
   if (look.secure) hints |= Qt::ImhSensitiveData;
   look.inputHints = static_cast<int>(hints);
@@ -60,14 +61,9 @@ void readTab(const UITabBarItem& tab, ViewLook& look) {
     look.selectedTitleColor = qtColor(color->CGColor());
 }
 
-void readControl(const UIControl& control, ViewLook& look) {
-  if (const auto* input = dynamic_cast<const UITextInput*>(&control)) {
-    readInput(*input, look);
-  } else if (const auto* button = dynamic_cast<const UIButton*>(&control)) {
-    look.text = qtText(button->title());
-  } else if (const auto* tab = dynamic_cast<const UITabBarItem*>(&control)) {
-    readTab(*tab, look);
-  }
+void readLabel(const UILabel& label, ViewLook& look) {
+  look.text = wordsToRead(label.text());
+  if (!look.accessibleName.isEmpty()) look.accessibleName += QStringLiteral(": ") + look.text;
 }
 
 void readTable(const UITableView& table, ViewLook& look) {
@@ -81,21 +77,39 @@ void readPicture(const UIImageView& picture, ViewLook& look) {
   look.contentMode = picture.contentMode();
 }
 
+void readProgress(const UIProgressView& progress, ViewLook& look) {
+  look.progress = static_cast<double>(progress.shownProgress());
+  look.progressFrom = static_cast<double>(progress.animatedFrom());
+}
+
+void readTabBar(const UITabBar& bar, ViewLook& look) {
+  if (const auto& color = bar.tintColor()) look.tintColor = qtColor(color->CGColor());
+}
+
 void readKind(const UIView& view, ViewLook& look) {
-  if (const auto* control = dynamic_cast<const UIControl*>(&view)) {
-    readControl(*control, look);
-  } else if (const auto* label = dynamic_cast<const UILabel*>(&view)) {
-    look.text = wordsToRead(label->text());
-    if (!look.accessibleName.isEmpty()) look.accessibleName += QStringLiteral(": ") + look.text;
-  } else if (const auto* picture = dynamic_cast<const UIImageView*>(&view)) {
-    readPicture(*picture, look);
-  } else if (const auto* progress = dynamic_cast<const UIProgressView*>(&view)) {
-    look.progress = static_cast<double>(progress->shownProgress());
-    look.progressFrom = static_cast<double>(progress->animatedFrom());
-  } else if (const auto* table = dynamic_cast<const UITableView*>(&view)) {
-    readTable(*table, look);
-  } else if (const auto* bar = dynamic_cast<const UITabBar*>(&view)) {
-    if (const auto& color = bar->tintColor()) look.tintColor = qtColor(color->CGColor());
+  switch (view.kind()) {
+    case ViewKind::Label:
+      return readLabel(static_cast<const UILabel&>(view), look);
+    case ViewKind::Image:
+      return readPicture(static_cast<const UIImageView&>(view), look);
+    case ViewKind::Progress:
+      return readProgress(static_cast<const UIProgressView&>(view), look);
+    case ViewKind::Button:
+      look.text = qtText(static_cast<const UIButton&>(view).title());
+      return;
+    case ViewKind::TextField:
+    case ViewKind::TextView:
+      return readInput(static_cast<const UITextInput&>(view), look);
+    case ViewKind::Table:
+      return readTable(static_cast<const UITableView&>(view), look);
+    case ViewKind::TabBar:
+      return readTabBar(static_cast<const UITabBar&>(view), look);
+    case ViewKind::Tab:
+      return readTab(static_cast<const UITabBarItem&>(view), look);
+    case ViewKind::Plain:
+    case ViewKind::Scroll:
+    case ViewKind::Cell:
+      return;
   }
 }
 

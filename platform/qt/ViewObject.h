@@ -7,18 +7,12 @@
 #include <memory>
 #include <vector>
 
+#include "platform/display/Cards.h"
 #include "platform/qt/ViewLook.h"
 #include "platform/uikit/Skin.h"
 #include "platform/uikit/UIView.h"
 
 namespace leafund {
-
-// A card behind a row's content: where it lies and how it is painted.
-struct CardLook {
-  CGRect frame;
-  CALayer layer;
-  bool operator==(const CardLook&) const = default;
-};
 
 // The bridge between a view of the toolkit and its item on the glass, one class for all kinds of
 // view. It copies what the view shows at each refresh and tells by one signal. It holds the view
@@ -93,13 +87,12 @@ class ViewObject : public QObject, public Skin {
   double contentHeight() const { return look_.contentHeight; }
   double contentOffset() const { return look_.contentOffset; }
   unsigned placement() const { return look_.placements + aims_; }
-  bool hasImage() const { return look_.image != nullptr; }
 
   // Of a row its content, picture, title and detail, by these names.
   QVariantMap parts() const { return parts_; }
   const ViewLook& look() const { return look_; }
   // The looks of the cards lying in this view, undermost first, each look once.
-  const std::vector<CardLook>& cards() const { return cards_; }
+  const std::vector<CardLook>& cards() const { return cards_.looks(); }
   // Of a table one for each cell it ever made, in the order made, which never changes.
   const std::vector<ViewObject*>& cells() const { return cells_; }
   // Null when the view is gone.
@@ -119,16 +112,13 @@ class ViewObject : public QObject, public Skin {
  private:
   void leaveView();
   void takeParts(const UIView& view);
-  void addParts(UIView& view);
-  void takeNewCards(const UIView& view);
-  void takeNewCells(const UIView& view);
+  void addParts(const UIView& view);
 
   std::weak_ptr<UIView> view_;
   ViewLook look_;
   QVariantMap parts_;
-  std::vector<CardLook> cards_;
+  Cards cards_;
   std::vector<ViewObject*> cells_;
-  std::size_t knownSubviews_ = 0;
   unsigned aims_ = 0;  // how often another view was shown
 };
 

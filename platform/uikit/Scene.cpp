@@ -100,7 +100,7 @@ UITabBar& SceneBase::tabs(const std::vector<TabTraits>& tabs) {
 UIButton& SceneBase::buttonOnTab(const std::string& tabName, std::string name, std::string title) {
   auto button = std::make_shared<UIButton>(std::move(title));
   place(button, std::move(name));
-  controller_.tabContainer()->addButtonOnTab(tabName, button);
+  controller_.tabContainer_.lock()->addButtonOnTab(tabName, button);
   return *button;
 }
 

@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "platform/uikit/UINavigationController.h"
-#include "platform/uikit/UITabContainer.h"
 #include "platform/uikit/UITableView.h"
 #include "platform/uikit/UITableViewCell.h"
 #include "platform/uikit/UITapGestureRecognizer.h"
@@ -119,11 +118,10 @@ void UIApplication::noteNeedsLayout(UIView& view) {
 UIViewController* UIApplication::controllerOf(const UIView& view) const {
   const UIView* root = &view;
   for (; root != nullptr; root = root->superview()) {
-    for (const auto& screen : navigation_->viewControllers()) {
-      if (screen->viewIfLoaded().get() == root) return screen.get();
-      const auto tabs = screen->tabContainer();
-      const auto tab = tabs ? tabs->selectedViewController() : nullptr;
-      if (tab && tab->viewIfLoaded().get() == root) return tab.get();
+    for (auto screen : navigation_->viewControllers()) {
+      for (; screen != nullptr; screen = screen->shownChild()) {
+        if (screen->viewIfLoaded().get() == root) return screen.get();
+      }
     }
   }
   return nullptr;

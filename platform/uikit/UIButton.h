@@ -9,6 +9,7 @@ namespace leafund {
 
 class UIButton : public UIControl {
  public:
+  ViewKind kind() const override { return ViewKind::Button; }
   explicit UIButton(std::string title) : title_(std::move(title)) {}
   const std::string& title() const { return title_; }
 

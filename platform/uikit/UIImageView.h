@@ -12,6 +12,7 @@ enum class UIViewContentMode { ScaleToFill, ScaleAspectFill };
 
 class UIImageView : public UIView {
  public:
+  ViewKind kind() const override { return ViewKind::Image; }
   const std::shared_ptr<const UIImage>& image() const { return image_; }
   // Null empties the view.
   void setImage(std::shared_ptr<const UIImage> image) {

@@ -10,6 +10,7 @@ namespace leafund {
 // Words the user reads.
 class UILabel : public UIView {
  public:
+  ViewKind kind() const override { return ViewKind::Label; }
   const std::string& text() const { return text_; }
   void setText(std::string text) {
     text_ = std::move(text);

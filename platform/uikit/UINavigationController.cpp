@@ -5,7 +5,6 @@
 
 #include "platform/foundation/FatalError.h"
 #include "platform/uikit/UIApplication.h"
-#include "platform/uikit/UITabContainer.h"
 
 namespace leafund {
 
@@ -53,18 +52,16 @@ std::shared_ptr<UIViewController> UINavigationController::nearestBelow(
 }
 
 bool UINavigationController::isShown(const UIViewController& controller) const {
-  const auto& top = topViewController();
-  if (top.get() == &controller) return true;
-  const auto tabs = top->tabContainer();
-  return tabs && tabs->selectedViewController().get() == &controller;
+  for (auto screen = topViewController(); screen != nullptr; screen = screen->shownChild()) {
+    if (screen.get() == &controller) return true;
+  }
+  return false;
 }
 
 const std::string& UINavigationController::barTitle(const UIViewController& controller) const {
-  const auto tabs = controller.tabContainer();
-  if (tabs && tabs->selectedViewController()) {
-    return tabs->selectedViewController()->navigationItem().title();
-  }
-  return controller.navigationItem().title();
+  const auto* screen = &controller;
+  while (const auto child = screen->shownChild()) screen = child.get();  // its parent keeps it
+  return screen->navigationItem().title();
 }
 
 bool UINavigationController::showsBar(const UIViewController& controller) const {
@@ -79,19 +76,15 @@ void UINavigationController::setSize(CGSize size) {
 void UINavigationController::appear(bool animated) {
   const auto top = topViewController();
   if (auto* application = UIApplication::current()) application->noteStackChanged();
-  top->view();
-  const auto tabs = top->tabContainer();
-  if (tabs) tabs->selectedViewController()->view();
+  for (auto screen = top; screen != nullptr; screen = screen->shownChild()) screen->view();
   layOutShown();
-  top->viewWillAppear(animated);
-  if (tabs) tabs->selectedViewController()->viewWillAppear(animated);
+  top->appear(animated);
 }
 
 void UINavigationController::layOutShown() const {
   const auto& top = topViewController();
   top->view()->setFrame(rootFrame(*top));
-  if (const auto tabs = top->tabContainer()) tabs->layOut();
-  top->viewDidLayoutSubviews();
+  top->layOut();
 }
 
 CGRect UINavigationController::rootFrame(const UIViewController& controller) const {

@@ -32,11 +32,10 @@ class UINavigationController : public std::enable_shared_from_this<UINavigationC
   std::shared_ptr<UIViewController> nearestBelow(const UIViewController& controller,
                                                  std::string_view sceneName) const;
 
-  // The screen that takes input: the topmost one or, where it holds tabs, itself and the selected
-  // one.
+  // Whether the screen takes input: the topmost one does, and the child that it shows.
   bool isShown(const UIViewController& controller) const;
 
-  // The bar's text for a screen on the stack: its own title or that of its selected tab. A screen
+  // The bar's text for a screen on the stack: its own title or that of the child it shows. A screen
   // without a text has no bar.
   const std::string& barTitle(const UIViewController& controller) const;
   bool showsBar(const UIViewController& controller) const;

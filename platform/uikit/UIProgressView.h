@@ -6,6 +6,7 @@ namespace leafund {
 
 class UIProgressView : public UIView {
  public:
+  ViewKind kind() const override { return ViewKind::Progress; }
   // As it was given, which may be infinite, negative or not a number.
   float progress() const { return progress_; }
   // What is drawn: from 0 to 1, not-a-number as empty.

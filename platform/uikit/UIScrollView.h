@@ -9,6 +9,7 @@ namespace leafund {
 // item only when the number of placements has changed, so that the two never chase one another.
 class UIScrollView : public UIView {
  public:
+  ViewKind kind() const override { return ViewKind::Scroll; }
   // How far its content is scrolled, in points from its top left.
   CGPoint contentOffset() const { return contentOffset_; }
   // By logic or layout: a placement.

@@ -92,7 +92,7 @@ void UITabContainer::layOut() {
     sendSubviewToBack(content);
   }
   content->setFrame({0, 0, root.width, barTop});
-  shown_->viewDidLayoutSubviews();
+  shown_->layOut();
 }
 
 }  // namespace leafund

@@ -29,6 +29,7 @@ class UITabBarItemAppearance {
 // One tab: its title, whether it is selected, and in which colour its title is drawn then.
 class UITabBarItem : public UIControl {
  public:
+  ViewKind kind() const override { return ViewKind::Tab; }
   static UITabBarItemAppearance& appearance();
 
   explicit UITabBarItem(std::string title);
@@ -58,6 +59,7 @@ class UITabBarAppearance {
 // The bar that holds the tab items.
 class UITabBar : public UIView {
  public:
+  ViewKind kind() const override { return ViewKind::TabBar; }
   static constexpr double kHeight = 64;  // points
   static UITabBarAppearance& appearance();
 
@@ -79,7 +81,6 @@ class UITabContainer : public UIView {
   // The button is hidden while another tab is selected; an unknown tab hides it for good.
   void addButtonOnTab(const std::string& tabName, const std::shared_ptr<UIView>& button);
   const std::shared_ptr<UITabBar>& tabBar() const { return tabBar_; }
-  std::size_t selectedIndex() const { return selected_; }
   // Null before the first tab is there.
   const std::shared_ptr<UIViewController>& selectedViewController() const { return shown_; }
 

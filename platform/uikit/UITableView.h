@@ -52,6 +52,7 @@ class UITableView : public UIScrollView {
  public:
   UITableView();
   ~UITableView() override;
+  ViewKind kind() const override { return ViewKind::Table; }
 
   void setDataSource(std::weak_ptr<UITableViewDataSource> source) {
     dataSource_ = std::move(source);

@@ -18,6 +18,7 @@ enum class UITableViewCellStyle {
 // One row. Tapping it starts the segue that the prototype names, with the cell as sender.
 class UITableViewCell : public UIView {
  public:
+  ViewKind kind() const override { return ViewKind::Cell; }
   UITableViewCell(UITableViewCellStyle style, std::string reuseIdentifier,
                   std::string segueIdentifier = {});
 

@@ -58,6 +58,7 @@ class UITextInput : public UIControl {
 // One line.
 class UITextField : public UITextInput {
  public:
+  ViewKind kind() const override { return ViewKind::TextField; }
   bool secureTextEntry() const { return secureTextEntry_; }
   void setSecureTextEntry(bool secure) { secureTextEntry_ = secure; }
   // Typed characters of a secure field are masked; a message of the screen is read in clear.
@@ -78,6 +79,7 @@ struct NSRange {
 // Many lines, to read or to write.
 class UITextView : public UITextInput {
  public:
+  ViewKind kind() const override { return ViewKind::TextView; }
   bool editable() const override { return editable_; }
   void setEditable(bool editable) { editable_ = editable; }
   // Scrolls so that the range is seen. Only the top is ever asked for, where every text begins on

@@ -14,6 +14,23 @@ namespace leafund {
 
 class UITapGestureRecognizer;
 
+// What a host must know of a view's class to show it. A kind names the class that can be read,
+// which is the view's own or one it derives from.
+enum class ViewKind {
+  Plain,
+  Label,      // UILabel
+  Image,      // UIImageView
+  Progress,   // UIProgressView
+  Button,     // UIButton
+  TextField,  // UITextField
+  TextView,   // UITextView
+  Scroll,     // UIScrollView
+  Table,      // UITableView
+  Cell,       // UITableViewCell
+  TabBar,     // UITabBar
+  Tab         // UITabBarItem
+};
+
 // A rectangle on the screen. The parent owns its subviews; the way up is a plain pointer that the
 // parent clears when it goes. Children, name and layer are allocated only when used: a card is kept
 // for every showing of a row, and an empty deque in each would cost 576 bytes.
@@ -21,6 +38,8 @@ class UIView : public UIResponder {
  public:
   explicit UIView(CGRect frame = {}) : frame_(frame) {}
   ~UIView() override;
+
+  virtual ViewKind kind() const { return ViewKind::Plain; }
 
   // In points, in the parent's coordinates.
   CGRect frame() const { return frame_; }

@@ -59,6 +59,22 @@ std::shared_ptr<UINavigationController> UIViewController::navigationController()
   return parent_ != nullptr ? parent_->navigationController() : navigation_.lock();
 }
 
+std::shared_ptr<UIViewController> UIViewController::shownChild() const {
+  const auto tabs = tabContainer_.lock();
+  return tabs ? tabs->selectedViewController() : nullptr;
+}
+
+void UIViewController::appear(bool animated) {
+  viewWillAppear(animated);
+  if (const auto child = shownChild()) child->appear(animated);
+}
+
+// The views inside get their frames from the root view's, which is set.
+void UIViewController::layOut() {
+  if (const auto tabs = tabContainer_.lock()) tabs->layOut();
+  viewDidLayoutSubviews();
+}
+
 const std::shared_ptr<UIViewController>& UIViewController::childOfScene(
     const std::string& sceneName) {
   const auto found = std::find_if(children_.begin(), children_.end(), [&](const auto& child) {

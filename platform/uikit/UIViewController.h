@@ -67,9 +67,10 @@ class UIViewController : public UIResponder {
   const std::string& className() const { return className_; }
   // What it was made from; null for a screen made by hand.
   const UIStoryboard* storyboard() const { return storyboard_; }
-  // Its tabs, when its scene holds some.
-  std::shared_ptr<UITabContainer> tabContainer() const { return tabContainer_.lock(); }
-  // The tab's screen of that scene, made at first use and kept.
+  // The screen that this one shows inside itself, as that of the selected tab; null elsewhere, and
+  // while the view is not loaded.
+  std::shared_ptr<UIViewController> shownChild() const;
+  // The child of that scene, made at first use and kept.
   const std::shared_ptr<UIViewController>& childOfScene(const std::string& sceneName);
   const std::vector<std::shared_ptr<UIViewController>>& childViewControllers() const {
     return children_;
@@ -87,6 +88,8 @@ class UIViewController : public UIResponder {
   friend class UITabContainer;
 
   void buildView();
+  void appear(bool animated);
+  void layOut();
   void checkOutlets() const;
 
   std::string className_;

@@ -38,7 +38,7 @@ TEST_F(DrawingContract, ThePictureOfTheTopContextIsTheOneDrawnIntoIt) {
 
 TEST_F(AppearanceContract, TheTabBarMadeAfterTheLaunchShowsTheAccentColour) {
   signIn();
-  const auto bar = top()->tabContainer()->tabBar();
+  const auto bar = std::static_pointer_cast<UITabBar>(view("tabBar"));
   EXPECT_EQ(bar->tintColor(), kAccent);
   ASSERT_EQ(bar->subviews().size(), 4U);
   for (const auto& item : bar->subviews()) {

@@ -136,7 +136,7 @@ bool StageApplication::rowsHaveTheirOwnPictures() {
 bool StageApplication::hasAllPictures() {
   for (const auto* item : shownItems(page())) {
     if (!item->inherits("leafund::PictureItem")) continue;
-    if (!item->property("view").value<ViewObject*>()->hasImage()) return false;
+    if (item->property("view").value<ViewObject*>()->look().image == nullptr) return false;
   }
   return true;
 }

@@ -24,9 +24,7 @@ class UITabContainerTest : public testing::Test {
     scene.segue(scene.buttonOnTab("twoTab", "addButton", "Add"), "add");
     screen.navigationItem().setHidesBackButton(true);
   }
-  std::shared_ptr<UITabContainer> tabs() {
-    return app.navigation().topViewController()->tabContainer();
-  }
+  std::shared_ptr<UIView> tabBar() { return app.view("tabBar"); }
   std::shared_ptr<ProbeScreen> shown() { return app.shownAs<ProbeScreen>(); }
   void performFromShown(const std::string& identifier) {
     app.application->turn([&] { shown()->performSegueWithIdentifierSender(identifier, nullptr); });
@@ -45,7 +43,6 @@ class UITabContainerTest : public testing::Test {
 };
 
 TEST_F(UITabContainerTest, TheFirstTabIsSelectedAndItsScreenAppearsWithItsHolder) {
-  EXPECT_EQ(tabs()->selectedIndex(), 0U);
   EXPECT_EQ(shown()->className(), "One");
   EXPECT_THAT(log, ElementsAre("Home viewDidLoad", "One viewDidLoad", "Home viewWillAppear",
                                "One viewWillAppear"));
@@ -55,7 +52,7 @@ TEST_F(UITabContainerTest, OnlyTheSelectedItemSaysSo) {
   app.tap("twoTab");
   std::vector<bool> selected;
   std::vector<std::string> titles;
-  for (const auto& view : tabs()->tabBar()->subviews()) {
+  for (const auto& view : tabBar()->subviews()) {
     selected.push_back(std::static_pointer_cast<UITabBarItem>(view)->selected());
     titles.push_back(std::static_pointer_cast<UITabBarItem>(view)->title());
   }
@@ -97,8 +94,8 @@ TEST_F(UITabContainerTest, ATabsScreenIsMadeWhenFirstSelectedAndKept) {
 
 TEST_F(UITabContainerTest, TheScreenFillsTheRoomAboveTheBarBeforeItAppears) {
   constexpr double room = 844 - UINavigationController::kBarHeight;
-  EXPECT_EQ(tabs()->frame(), (CGRect{0, 0, 390, room}));
-  EXPECT_EQ(tabs()->tabBar()->frame(), (CGRect{0, room - 64, 390, 64}));
+  EXPECT_EQ(app.view("tabs")->frame(), (CGRect{0, 0, 390, room}));
+  EXPECT_EQ(tabBar()->frame(), (CGRect{0, room - 64, 390, 64}));
   EXPECT_THAT(shown()->framesAtAppearance, ElementsAre(CGRect{0, 0, 390, room - 64}));
   app.tap("twoTab");
   EXPECT_THAT(shown()->framesAtAppearance, ElementsAre(CGRect{0, 0, 390, room - 64}));
@@ -135,7 +132,7 @@ TEST_F(UITabContainerTest, TheViewOfATabThatWasLeftIsOffTheTreeAndOutOfReach) {
   EXPECT_EQ(first->viewIfLoaded()->superview(), nullptr);
   EXPECT_FALSE(app.application->reachable(*first->viewIfLoaded()));
   EXPECT_TRUE(app.application->reachable(*app.shown()->viewIfLoaded()));
-  EXPECT_EQ(app.shown()->viewIfLoaded()->superview(), tabs().get());
+  EXPECT_EQ(app.shown()->viewIfLoaded()->superview(), app.view("tabs").get());
 }
 
 TEST_F(UITabContainerTest, AButtonOnATabIsSeenAndReachedOnThatTabAlone) {
@@ -150,7 +147,7 @@ TEST_F(UITabContainerTest, AButtonOnATabIsSeenAndReachedOnThatTabAlone) {
 
 TEST_F(UITabContainerTest, AButtonForAnUnknownTabIsNeverSeen) {
   const auto button = std::make_shared<UIView>();
-  tabs()->addButtonOnTab("nowhereTab", button);
+  std::static_pointer_cast<UITabContainer>(app.view("tabs"))->addButtonOnTab("nowhereTab", button);
   EXPECT_TRUE(button->hidden());
   app.tap("twoTab");
   EXPECT_TRUE(button->hidden());

@@ -66,8 +66,7 @@ TEST_F(UIViewControllerTest, ACoveredScreenWhoseViewWasReleasedLoadsAnewWhenItCo
   app.application->goBack();
   EXPECT_THAT(log, ElementsAre("Home viewDidLoad", "Home viewWillAppear, animated",
                                "One viewWillAppear, animated"));
-  EXPECT_EQ(app.shown()->view()->superview(),
-            app.navigation().topViewController()->tabContainer().get());
+  EXPECT_EQ(app.shown()->view()->superview(), app.view("tabs").get());
   app.tap("openButton");
   EXPECT_THAT(app.stack(), ElementsAre("Home", "Detail"));
 }
@@ -79,7 +78,7 @@ TEST_F(UIViewControllerTest, TheScreensOfTabsOutliveTheViewThatHeldTheirTabs) {
   app.tap("openButton");
   const auto holder = app.navigation().viewControllers()[0];
   holder->releaseView();
-  EXPECT_EQ(holder->tabContainer(), nullptr);
+  EXPECT_EQ(holder->shownChild(), nullptr);
   EXPECT_EQ(view->superview(), nullptr);
   app.application->goBack();
   EXPECT_EQ(holder->childViewControllers(), children);

@@ -212,11 +212,7 @@ UIStoryboard previewStoryboard(const PreviewState& state) {
 }
 
 void actPreview(UIApplication& application, const PreviewState& state) {
-  if (const auto tabs = application.navigation()->topViewController()->tabContainer()) {
-    for (const auto& item : tabs->tabBar()->subviews()) {
-      if (item->name() == state.tab) application.tap(item);
-    }
-  }
+  if (!state.tab.empty()) application.tap(viewNamed(*application.navigation(), state.tab));
   state.act(application, *shownScreen(*application.navigation()));
 }
 

@@ -184,8 +184,8 @@ void AppUnderTest::describe(Sheet& sheet) {
                   .y = root.frame().y,
                   .width = root.frame().width,
                   .height = root.frame().height});
-    const auto tabs = screen->tabContainer();
-    const UIView* tabRoot = tabs ? tabs->selectedViewController()->viewIfLoaded().get() : nullptr;
+    const auto child = screen->shownChild();
+    const UIView* tabRoot = child ? child->viewIfLoaded().get() : nullptr;
     describeContent(root, tabRoot, sheet);
     for (const auto& tab : screen->childViewControllers()) {
       see(tab);

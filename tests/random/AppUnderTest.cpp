@@ -65,9 +65,8 @@ std::shared_ptr<UITextInput> AppUnderTest::input(const std::string& name) const 
 }
 
 std::shared_ptr<UITableView> AppUnderTest::table() const {
-  const auto tabs = application_->navigation()->topViewController()->tabContainer();
-  return tabs ? std::dynamic_pointer_cast<UITableView>(tabs->selectedViewController()->view())
-              : nullptr;
+  const auto child = application_->navigation()->topViewController()->shownChild();
+  return child ? std::dynamic_pointer_cast<UITableView>(child->view()) : nullptr;
 }
 
 std::shared_ptr<UIView> AppUnderTest::row(long number) const {

@@ -98,12 +98,11 @@ Action WindowUnderTest::asAction(const UserEvent& event) {
     action.kind = ActionKind::TellApplication;  // changes nothing
   }
   if (!event.view || rootOf(*event.view) != top->view().get()) return action;
-  const auto tabs = top->tabContainer();
+  const auto child = top->shownChild();
   const auto list = table();
   if (event.kind == ActionKind::Scroll) {
     action.name.clear();
-  } else if (event.view == top->view() ||
-             (tabs && event.view == tabs->selectedViewController()->view())) {
+  } else if (event.view == top->view() || (child && event.view == child->view())) {
     action.kind = ActionKind::TapBeside;
     action.name.clear();
   } else if (const auto cell = std::dynamic_pointer_cast<UITableViewCell>(event.view)) {

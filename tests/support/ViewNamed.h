@@ -3,10 +3,10 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "platform/foundation/FatalError.h"
 #include "platform/uikit/UINavigationController.h"
-#include "platform/uikit/UITabContainer.h"
 #include "platform/uikit/UIViewController.h"
 
 namespace leafund {
@@ -28,11 +28,11 @@ inline std::shared_ptr<UIView> viewNamed(const UINavigationController& navigatio
   return found;
 }
 
-// The screen that the user sees: the one on top, or the selected one of its tabs.
+// The screen that the user sees: the one on top, or the child that it shows.
 inline std::shared_ptr<UIViewController> shownScreen(const UINavigationController& navigation) {
-  const auto& top = navigation.topViewController();
-  const auto tabs = top->tabContainer();
-  return tabs ? tabs->selectedViewController() : top;
+  auto screen = navigation.topViewController();
+  while (auto child = screen->shownChild()) screen = std::move(child);
+  return screen;
 }
 
 }  // namespace leafund

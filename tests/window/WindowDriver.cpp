@@ -59,12 +59,12 @@ class WindowDriver final : public Driver {
 
   bool pictureShown(const std::string& name) override {
     const auto* view = app_.require(name).property("view").value<ViewObject*>();
-    return app_.waitUntil([&] { return view->hasImage(); });
+    return app_.waitUntil([&] { return view->look().image != nullptr; });
   }
   bool rowPictureShown(std::ptrdiff_t row) override {
     const auto* view = rowItem(row).property("view").value<ViewObject*>();
     const auto* picture = view->parts().value("picture").value<ViewObject*>();
-    return app_.waitUntil([&] { return picture->hasImage(); });
+    return app_.waitUntil([&] { return picture->look().image != nullptr; });
   }
   std::string pictureAddress(const std::string& fileName) override {
     return app_.server().address("/" + fileName);
