@@ -44,6 +44,7 @@ FocusScope {
 
     // What no control takes for itself goes to the screen.
     MouseArea {
+        readonly property bool isGround: true
         anchors.fill: parent
         onClicked: page.scene.root.tap()
     }

@@ -105,6 +105,7 @@ Item {
 
         // A tap beside the controls, which the pane would keep to itself where it scrolls.
         MouseArea {
+            readonly property bool isGround: true
             width: flickable.width
             height: flickable.contentHeight
             onClicked: pane.scene.root.tap()

@@ -56,6 +56,21 @@ void cancelTaps(QPointerEvent& event) {
   }
 }
 
+// Whether a finger comes while others only rest, on the ground or on what would scroll.
+bool joinsRestingFingers(QPointerEvent& event) {
+  bool joins = false;
+  for (const auto& point : event.points()) {
+    const auto* holder = event.exclusiveGrabber(point);
+    if (point.state() == QEventPoint::Pressed) {
+      joins = true;
+    } else if (holder != nullptr && !holder->property("isGround").toBool()) {
+      const bool mayScroll = holder->inherits("QQuickFlickable");
+      if (!mayScroll || holder->property("dragging").toBool()) return false;
+    }
+  }
+  return joins && event.pointCount() > 1;
+}
+
 // Qt Quick takes a finger's second touch for a double click, and drops it where no item asks for
 // those, as none does. While this lives it sees two touches.
 class WithoutDoubleTaps {
@@ -112,6 +127,14 @@ bool QtWindow::event(QEvent* event) {
 }
 
 bool QtWindow::deliver(QEvent* event) {
+  if (event->type() == QEvent::TouchUpdate) {
+    auto& touch = static_cast<QTouchEvent&>(*event);
+    // Qt Quick lets one finger at a time do what a pointer does, and controls hear of no other.
+    if (joinsRestingFingers(touch)) {
+      QTouchEvent cancelled(QEvent::TouchCancel, touch.pointingDevice());
+      QQuickWindow::event(&cancelled);
+    }
+  }
   if (event->type() != QEvent::TouchBegin) return QQuickWindow::event(event);
   const WithoutDoubleTaps every;
   return QQuickWindow::event(event);
