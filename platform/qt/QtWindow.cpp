@@ -169,7 +169,10 @@ bool QtWindow::takePress(QEvent& event) {
 bool QtWindow::takeKey(QKeyEvent& key) {
   usedByKeys_ = true;
   const Press press{nullptr, key.key(), key.timestamp(), {}, 0, key.isAutoRepeat()};
-  const int interval = QGuiApplication::styleHints()->mouseDoubleClickInterval();
+  // Whoever presses a key twice to go back means two screens; only while it is held it is one
+  // press.
+  const int interval =
+      leadsBack(key) ? 0 : QGuiApplication::styleHints()->mouseDoubleClickInterval();
   return keys_.continues(press, interval) && presses(key);
 }
 
