@@ -57,7 +57,7 @@ Pressable {
             text: tab.view.text
             textFormat: Text.PlainText
             color: tab.view.selected ? tab.view.selectedTitleColor : Theme.quiet
-            font { pointSize: Theme.lead * tab.share; weight: tab.view.selected ? Font.Bold : Font.Medium }
+            font { pointSize: Math.max(1, Theme.lead * tab.share); weight: tab.view.selected ? Font.Bold : Font.Medium }
             Accessible.ignored: true
         }
     }

@@ -59,6 +59,16 @@ TEST_F(GlassTest, TheWindowTakesEverySizeOnEveryScreenAndTheToolkitFollows) {
   takeAll();
 }
 
+// Qt warns of letters without a size.
+TEST_F(GlassTest, NoWindowIsTooNarrowForTheTitlesOfTheTabs) {
+  signIn();
+  for (int width = 60; width > 0; --width) {
+    app.window().resize(width, 240);
+    ASSERT_TRUE(app.waitUntil([&] { return app.page()->width() == width; }));
+    ASSERT_FALSE(HasFailure()) << width;
+  }
+}
+
 TEST_F(GlassTest, AHiddenBackButtonRefusesBarAndKeys) {
   signIn();
   EXPECT_FALSE(app.require("backButton").isVisible());
