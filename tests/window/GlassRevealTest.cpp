@@ -103,6 +103,35 @@ TEST_F(GlassRevealTest, AReasonBelowAnInputIsScrolledIntoSight) {
   expectInSight([&] { return seenAt("moneyErrorField"); }, "the reason");
 }
 
+TEST_F(GlassRevealTest, WhyAnAmountIsRefusedIsScrolledIntoSight) {
+  signIn();
+  for (const QSize size : {QSize(844, 390), QSize(280, 240)}) {
+    SCOPED_TRACE(testing::Message() << size.width() << "x" << size.height());
+    resizeTo(size);
+    for (const std::string amount : {"much", "100000000"}) {
+      for (const bool byKey : {false, true}) {
+        SCOPED_TRACE(testing::Message() << amount << (byKey ? " by a key" : " by a click"));
+        click("abc-0");
+        type("dollarAmountField", amount);
+        if (byKey) {
+          QTest::keyClick(&app.window(), Qt::Key_Tab);
+          app.press(Qt::Key_Return);
+        } else {
+          click("FundButton");
+        }
+        ASSERT_TRUE(app.require("errorLabel").isVisible());
+        expectInSight([&] { return seenAt("errorLabel"); }, "the reason");
+        for (int i = 0; i < 5; ++i) app.press(Qt::Key_PageUp);
+        app.settle();
+        app.press(Qt::Key_Return);
+        expectInSight([&] { return seenAt("errorLabel"); }, "the reason, once more");
+        app.press(Qt::Key_Escape);
+        app.settle();
+      }
+    }
+  }
+}
+
 TEST_F(GlassRevealTest, OnceTheUserGoesOnTheFocusIsInSightAgain) {
   openForm();
   resizeTo({390, 568});
