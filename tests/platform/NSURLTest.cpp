@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <malloc.h>
 
 #include <string>
 #include <string_view>
@@ -119,6 +120,14 @@ TEST(NSURLTest, TakesATextOfAMegabyte) {
 
 TEST(NSURLTest, TakesAMillionPathSegments) {
   EXPECT_TRUE(NSURL::initWithString("http://h" + std::string(1'000'000, '/')));
+}
+
+TEST(NSURLTest, WhatTheParserNeededIsGivenBack) {
+  const auto parse = [] { NSURL::initWithString("http://example.org/a/path/of/segments"); };
+  parse();
+  const auto before = mallinfo2().uordblks;
+  for (int i = 0; i < 1000; ++i) parse();
+  EXPECT_LT(mallinfo2().uordblks, before + 10'000);
 }
 
 }  // namespace
