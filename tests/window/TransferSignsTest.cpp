@@ -37,11 +37,16 @@ TEST_F(CurlTransferTest, EachOfManyAnswersMayHaveALongHead) {
 
 TEST_F(CurlTransferTest, WhoWaitsBehindASilentHostIsIdleTooAndIsNeverAsked) {
   CurlTransfer transfer({.idle = 1s});
+  // They all begin at once, however busy the machine is: who begins later is idle later.
+  std::promise<void> all;
+  transfer.start(server_.serve("/first", answers::ok("bytes")),
+                 [added = all.get_future().share()](auto&&...) { added.wait(); });
   const auto url = server_.serve("/picture", answers::neverAnswers());
   std::vector<std::future<Outcome>> outcomes;
   for (int i = 0; i < 9; ++i) outcomes.push_back(started(transfer, url));
+  all.set_value();
   for (auto& outcome : outcomes) EXPECT_TRUE(outcomeOf(std::move(outcome)).isError());
-  EXPECT_EQ(server_.requests().size(), 6U);
+  EXPECT_EQ(server_.requests().size(), 1U + 6U);
 }
 
 }  // namespace
