@@ -28,6 +28,19 @@ TEST_F(CurlTransferTest, ASlowHeadMayTakeLongerThanTheIdleTime) {
   EXPECT_TRUE(answered(dripHead(14, 100ms), {.idle = 1s}).isResponse(200, "bytes"));
 }
 
+// What fetched the quick one has then been silent for longer than the idle time.
+TEST_F(CurlTransferTest, EachFetchHasItsIdleTimeToItself) {
+  CurlTransfer transfer({.idle = 1s});
+  const auto slow = server_.serve("/slow", dripHead(14, 100ms));
+  const auto quick = server_.serve("/quick", answers::ok("bytes"));
+  auto first = started(transfer, slow);
+  EXPECT_TRUE(fetched(transfer, quick).isResponse(200, "bytes"));
+  EXPECT_TRUE(outcomeOf(std::move(first)).isResponse(200, "bytes"));
+  auto second = started(transfer, slow);
+  EXPECT_TRUE(fetched(transfer, quick).isResponse(200, "bytes"));
+  EXPECT_TRUE(outcomeOf(std::move(second)).isResponse(200, "bytes"));
+}
+
 // What was used for one answer is used for the next.
 TEST_F(CurlTransferTest, EachOfManyAnswersMayHaveALongHead) {
   CurlTransfer transfer;
