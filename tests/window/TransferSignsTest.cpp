@@ -44,8 +44,14 @@ TEST_F(CurlTransferTest, EachFetchHasItsIdleTimeToItself) {
 // What was used for one answer is used for the next.
 TEST_F(CurlTransferTest, EachOfManyAnswersMayHaveALongHead) {
   CurlTransfer transfer;
-  const auto url = server_.serve("/picture", answers::manyHeaders("bytes", 4'000));
-  for (int i = 0; i < 3; ++i) EXPECT_TRUE(fetched(transfer, url).isResponse(200, "bytes")) << i;
+  std::string wide;
+  for (int i = 0; i < 200; ++i) wide += "X-Filler: " + std::string(1012, 'x') + "\r\n";  // 1 KB
+  const auto lines = server_.serve("/lines", answers::manyHeaders("bytes", 4'000));
+  const auto bytes = server_.serve("/bytes", answers::under("HTTP/1.1 200 OK", "bytes", wide));
+  for (int i = 0; i < 3; ++i) {
+    EXPECT_TRUE(fetched(transfer, lines).isResponse(200, "bytes")) << i;
+    EXPECT_TRUE(fetched(transfer, bytes).isResponse(200, "bytes")) << i;
+  }
 }
 
 TEST_F(CurlTransferTest, WhoWaitsBehindASilentHostIsIdleTooAndIsNeverAsked) {
