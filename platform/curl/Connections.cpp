@@ -1,6 +1,7 @@
 #include "platform/curl/Connections.h"
 
 #include <netinet/in.h>
+#include <poll.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -18,34 +19,81 @@ int portOf(curl_socket_t socket, decltype(&getsockname) nameOf) {
   return isKnown ? ntohs(name.sin6_port) : -1;
 }
 
-bool hasNothingToRead(curl_socket_t socket) {
+enum class Heard { Nothing, Bytes, End };
+
+// Last words before the end are none too many: a host may say why it closes a connection that was
+// idle, and TLS always does.
+Heard heardOn(curl_socket_t socket) {
   char byte = 0;
-  return recv(socket, &byte, 1, MSG_PEEK | MSG_DONTWAIT) < 0 &&
-         (errno == EAGAIN || errno == EWOULDBLOCK);
+  const auto count = recv(socket, &byte, 1, MSG_PEEK | MSG_DONTWAIT);
+  if (count < 0 && (errno == EAGAIN || errno == EWOULDBLOCK)) return Heard::Nothing;
+  if (count <= 0) return Heard::End;
+  pollfd end{socket, POLLRDHUP, 0};
+  return poll(&end, 1, 0) > 0 ? Heard::End : Heard::Bytes;
 }
 
 }  // namespace
 
-bool Connections::isQuiet(int herePort, int therePort) const {
-  bool isFound = false;
-  for (const curl_socket_t socket : sockets_) {
-    if (portOf(socket, &getsockname) != herePort) continue;
-    if (portOf(socket, &getpeername) != therePort) continue;
-    if (!hasNothingToRead(socket)) return false;
-    isFound = true;
-  }
-  return isFound;
+Connections::Use Connections::nextUse(const std::string& host) {
+  Host& asked = hosts_[host];
+  if (asked.manners == Manners::Watched && Clock::now() - asked.since >= quiet_) judge(asked);
+  if (asked.manners == Manners::Quiet) return Use::Any;
+  if (asked.manners != Manners::Unknown) return Use::Once;
+  asked.manners = Manners::Asked;
+  return Use::Watched;
 }
 
-curl_socket_t Connections::open(void* connections, curlsocktype, curl_sockaddr* address) {
+void Connections::judge(Host& host) {
+  const Heard heard = heardOn(host.watched);
+  if (heard == Heard::Nothing) host.manners = Manners::Quiet;
+  if (heard == Heard::Bytes) host.manners = Manners::Loud;
+  if (heard == Heard::End) host.manners = Manners::Unknown;
+}
+
+bool Connections::isWatching(const std::string& host) const {
+  const auto found = hosts_.find(host);
+  return found != hosts_.end() && found->second.manners == Manners::Watched;
+}
+
+bool Connections::isLoud(const std::string& host) const {
+  const auto found = hosts_.find(host);
+  return found != hosts_.end() && found->second.manners == Manners::Loud;
+}
+
+void Connections::hadAnswer(const std::string& host, curl_socket_t watched) {
+  Host& asked = hosts_[host];
+  if (asked.manners != Manners::Asked) return;
+  const auto found = sockets_.find(watched);
+  const bool isOpen = found != sockets_.end() && found->second == host;
+  asked = isOpen ? Host{Manners::Watched, watched, Clock::now()} : Host{};
+}
+
+bool Connections::isQuiet(int herePort, int therePort) {
+  for (const auto& [socket, host] : sockets_) {
+    if (portOf(socket, &getsockname) != herePort) continue;
+    if (portOf(socket, &getpeername) != therePort) continue;
+    const Heard heard = heardOn(socket);
+    if (heard == Heard::Bytes) hosts_[host].manners = Manners::Loud;
+    return heard == Heard::Nothing;
+  }
+  return false;
+}
+
+curl_socket_t Connections::open(const std::string& host, const curl_sockaddr& address) {
   const curl_socket_t opened =
-      socket(address->family, address->socktype | SOCK_CLOEXEC, address->protocol);
-  if (opened != CURL_SOCKET_BAD) static_cast<Connections*>(connections)->sockets_.insert(opened);
+      socket(address.family, address.socktype | SOCK_CLOEXEC, address.protocol);
+  if (opened != CURL_SOCKET_BAD) sockets_.emplace(opened, host);
   return opened;
 }
 
 int Connections::close(void* connections, curl_socket_t socket) {
-  static_cast<Connections*>(connections)->sockets_.erase(socket);
+  auto& self = *static_cast<Connections*>(connections);
+  if (const auto closed = self.sockets_.extract(socket)) {
+    Host& host = self.hosts_[closed.mapped()];
+    // Newer versions of libcurl close such a connection themselves, and it is not used again.
+    if (heardOn(socket) == Heard::Bytes) host.manners = Manners::Loud;
+    if (host.manners == Manners::Watched && host.watched == socket) host = {};
+  }
   return ::close(socket);
 }
 

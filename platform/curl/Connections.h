@@ -2,24 +2,62 @@
 
 #include <curl/curl.h>
 
-#include <set>
+#include <chrono>
+#include <map>
+#include <string>
 
 namespace leafund {
 
-// The connections that libcurl has open, so that a fetch can tell whether one that was used before
-// is quiet. Bytes behind its last answer would be read as the next one: libcurl looks for them only
-// in the packet that ends the answer.
+// The connections that libcurl has open, and which hosts are trusted with a kept one.
+//
+// HTTP/1.1 does not say which request an answer is for. What a host sends behind an answer is read
+// as the next one, and cannot be told from it once the next request has left; libcurl looks for it
+// only in the packet that ends the answer. So a host's connections are used again only after one of
+// them has stayed quiet for a while, and never again after a byte too many.
 class Connections {
  public:
-  // Neither can be read from nor is closed. By its port here and the port of the host.
-  bool isQuiet(int herePort, int therePort) const;
+  using Clock = std::chrono::steady_clock;
 
-  // As libcurl opens and closes sockets by callbacks; `connections` is such an object.
-  static curl_socket_t open(void* connections, curlsocktype purpose, curl_sockaddr* address);
+  // What a fetch gets from libcurl.
+  enum class Use {
+    Any,      // One that is open already, or a new one, and kept.
+    Watched,  // A new one, kept to see what comes behind the answer.
+    Once      // A new one, closed behind the answer.
+  };
+
+  // `quiet`: how long the watched connection must stay so, zero or more.
+  explicit Connections(std::chrono::milliseconds quiet) : quiet_(quiet) {}
+
+  // For the next fetch from that host, an origin. After `Watched`, hadAnswer() must follow.
+  Use nextUse(const std::string& host);
+  // Has a watched connection open on which nothing is asked now.
+  bool isWatching(const std::string& host) const;
+  // The fetch over the watched connection has ended; CURL_SOCKET_BAD where it is not open any more.
+  void hadAnswer(const std::string& host, curl_socket_t watched);
+  // For a host that has sent a byte too many: its connections are not used again.
+  void distrust(const std::string& host) { hosts_[host].manners = Manners::Loud; }
+  bool isLoud(const std::string& host) const;
+
+  // Whether the open connection, by its port here and the port of the host, has nothing to read.
+  bool isQuiet(int herePort, int therePort);
+
+  // For libcurl, which is told of them by callbacks.
+  curl_socket_t open(const std::string& host, const curl_sockaddr& address);
   static int close(void* connections, curl_socket_t socket);
 
  private:
-  std::set<curl_socket_t> sockets_;
+  enum class Manners { Unknown, Asked, Watched, Quiet, Loud };
+  struct Host {
+    Manners manners = Manners::Unknown;
+    curl_socket_t watched = CURL_SOCKET_BAD;
+    Clock::time_point since = {};
+  };
+
+  static void judge(Host& host);
+
+  const std::chrono::milliseconds quiet_;
+  std::map<curl_socket_t, std::string> sockets_;  // and their hosts
+  std::map<std::string, Host> hosts_;
 };
 
 }  // namespace leafund

@@ -30,9 +30,8 @@ std::string_view trimmed(std::string_view text) {
   return text;
 }
 
-// What the line of a head says of the body's length.
-std::optional<std::string_view> lengthIn(std::string_view line) {
-  constexpr std::string_view name = "content-length:";
+// The value, if the line begins with that name, which is in lower case and ends in a colon.
+std::optional<std::string_view> valueOf(std::string_view name, std::string_view line) {
   const auto isSame = [](char lower, char any) {
     return any == lower || (any >= 'A' && any <= 'Z' && any - 'A' + 'a' == lower);
   };
@@ -65,8 +64,8 @@ CurlHandle::CurlHandle(const CurlLibrary& curl, Connections& connections, std::s
   set(CURLOPT_MAXFILESIZE_LARGE, static_cast<curl_off_t>(mostBodyBytes));
   set(CURLOPT_NOSIGNAL, 1L);
   set(CURLOPT_QUICK_EXIT, 1L);  // Does not wait for a name to be looked up.
-  set(CURLOPT_OPENSOCKETFUNCTION, &Connections::open);
-  set(CURLOPT_OPENSOCKETDATA, &connections);
+  set(CURLOPT_OPENSOCKETFUNCTION, &openSocket);
+  set(CURLOPT_OPENSOCKETDATA, this);
   set(CURLOPT_CLOSESOCKETFUNCTION, &Connections::close);
   set(CURLOPT_CLOSESOCKETDATA, &connections);
   set(CURLOPT_PREREQFUNCTION, &beforeRequest);
@@ -82,21 +81,36 @@ CurlHandle::~CurlHandle() {
   curl_.slistFreeAll(headers_);
 }
 
-void CurlHandle::aim(const WebAddress& address, Connection connection) {
+void CurlHandle::aim(const WebAddress& address, Connections::Use use) {
   body_.clear();
   headBytes_ = 0;
   headLines_ = 0;
   length_.reset();
+  maySpeakOfItsEnd_ = false;
+  host_ = address.origin();
+  use_ = use;
   usesAKeptConnection_ = false;
   lastSign_ = Clock::now();
   curl_.easySetopt(handle_, CURLOPT_URL, address.text().c_str());
-  curl_.easySetopt(handle_, CURLOPT_FRESH_CONNECT, connection == Connection::New ? 1L : 0L);
+  curl_.easySetopt(handle_, CURLOPT_FRESH_CONNECT, use == Connections::Use::Any ? 0L : 1L);
+  curl_.easySetopt(handle_, CURLOPT_FORBID_REUSE, use == Connections::Use::Once ? 1L : 0L);
 }
 
 int CurlHandle::status() const {
   long status = 0;
   curl_.easyGetinfo(handle_, CURLINFO_RESPONSE_CODE, &status);
   return static_cast<int>(status);
+}
+
+curl_socket_t CurlHandle::socket() const {
+  curl_socket_t socket = CURL_SOCKET_BAD;
+  curl_.easyGetinfo(handle_, CURLINFO_ACTIVESOCKET, &socket);
+  return socket;
+}
+
+bool CurlHandle::hadBytesBehind() const {
+  return use_ != Connections::Use::Once && length_ && !maySpeakOfItsEnd_ &&
+         socket() == CURL_SOCKET_BAD;
 }
 
 std::optional<std::string> CurlHandle::redirectLocation() const {
@@ -110,6 +124,11 @@ std::optional<std::string> CurlHandle::redirectLocation() const {
   const std::string_view location = trimmed(header->value);
   if (location.empty()) return std::nullopt;
   return std::string(location);
+}
+
+curl_socket_t CurlHandle::openSocket(void* handle, curlsocktype, curl_sockaddr* address) {
+  auto& self = *static_cast<CurlHandle*>(handle);
+  return self.connections_.open(self.host_, *address);
 }
 
 // When there is a connection. An abort ends the fetch, and the connection.
@@ -128,7 +147,8 @@ bool CurlHandle::acceptsHeadLine(std::string_view line) {
   ++headLines_;
   if (headBytes_ > kMostHeadBytes || headLines_ > kMostHeadLines) return false;
   if (line.starts_with("HTTP/") && !isStatusLine(line)) return false;
-  const auto length = lengthIn(line);
+  if (line.starts_with("HTTP/1.0") || valueOf("connection:", line)) maySpeakOfItsEnd_ = true;
+  const auto length = valueOf("content-length:", line);
   if (length && length_.value_or(std::string(*length)) != *length) return false;
   if (length) length_ = *length;
   return !length || length->find(',') == std::string_view::npos;  // a list of lengths

@@ -27,10 +27,9 @@ class CurlHandle {
   // What libcurl knows it by.
   CURL* get() const { return handle_; }
 
-  enum class Connection { Any, New };
-
   // Forgets the last answer and turns to that address.
-  void aim(const WebAddress& address, Connection connection);
+  void aim(const WebAddress& address, Connections::Use use);
+  Connections::Use use() const { return use_; }
 
   // When the last piece of the answer came, or the handle was aimed.
   Clock::time_point lastSign() const { return lastSign_; }
@@ -39,6 +38,11 @@ class CurlHandle {
   int status() const;
   // Whether the connection had served another answer before.
   bool usedAKeptConnection() const { return usesAKeptConnection_; }
+  // That the answer came by; CURL_SOCKET_BAD when it is closed.
+  curl_socket_t socket() const;
+  // Whether libcurl closed the connection although the answer had an end of its own and did not say
+  // that it was the last: bytes came behind it in the same packet.
+  bool hadBytesBehind() const;
 
   // Of an answer that arrived whole.
   std::string takeBody() { return std::exchange(body_, {}); }
@@ -48,6 +52,7 @@ class CurlHandle {
   std::optional<std::string> redirectLocation() const;
 
  private:
+  static curl_socket_t openSocket(void* handle, curlsocktype purpose, curl_sockaddr* address);
   static int beforeRequest(void* handle, char* there, char* here, int therePort, int herePort);
   bool acceptsHeadLine(std::string_view line);
   static std::size_t readHead(char* bytes, std::size_t one, std::size_t count, void* handle);
@@ -62,6 +67,9 @@ class CurlHandle {
   std::size_t headBytes_ = 0;
   int headLines_ = 0;
   std::optional<std::string> length_;  // as the head says it
+  bool maySpeakOfItsEnd_ = false;      // has a line about the connection, or is older than HTTP/1.1
+  std::string host_;                   // the origin aimed at
+  Connections::Use use_ = Connections::Use::Once;
   bool usesAKeptConnection_ = false;
   Clock::time_point lastSign_;
 };

@@ -18,7 +18,7 @@ constexpr long kKeptConnections = 4 * kMostConnections;
 }  // namespace
 
 CurlSession::CurlSession(const CurlTransfer::Limits& limits, std::string library)
-    : limits_(limits), libraryName_(std::move(library)) {}
+    : limits_(limits), libraryName_(std::move(library)), connections_(limits.quiet) {}
 
 void CurlSession::add(std::string address, CompletionHandler completion) {
   const std::lock_guard lock(mutex_);
@@ -110,17 +110,19 @@ void CurlSession::begin(Fetch fetch) {
 }
 
 void CurlSession::advance(Line& line) {
-  while (line.underWay < kMostConnections && !line.waiting.empty()) {
+  while (!line.waiting.empty()) {
+    const std::string host = line.waiting.front().address->origin();
+    if (line.underWay + (connections_.isWatching(host) ? 1 : 0) >= kMostConnections) return;
     Fetch fetch = std::move(line.waiting.front());
     line.waiting.pop_front();
     fetch.handle = takeHandle();
-    send(std::move(fetch), CurlHandle::Connection::Any);
+    send(std::move(fetch), connections_.nextUse(host));
     ++line.underWay;
   }
 }
 
-void CurlSession::send(Fetch fetch, CurlHandle::Connection connection) {
-  fetch.handle->aim(*fetch.address, connection);
+void CurlSession::send(Fetch fetch, Connections::Use use) {
+  fetch.handle->aim(*fetch.address, use);
   CURL* const handle = fetch.handle->get();
   underWay_.emplace(handle, std::move(fetch));
   curl_->multiAddHandle(multi_, handle);
@@ -142,17 +144,27 @@ void CurlSession::endReady() {
 }
 
 void CurlSession::end(CURL* handle, CURLcode result) {
-  const CurlHandle& ended = *underWay_.at(handle).handle;
-  if (result == CURLE_OK) return complete(leave(handle));
-  // A kept connection that was not quiet, or whose next bytes were no answer.
-  if (ended.status() == 0 && ended.usedAKeptConnection()) {
-    return send(takeOut(handle), CurlHandle::Connection::New);
+  const Fetch& ended = underWay_.at(handle);
+  if (result == CURLE_OK && ended.handle->hadBytesBehind()) {
+    connections_.distrust(ended.address->origin());
   }
+  if (ended.handle->usedAKeptConnection()) {
+    // The connection was not quiet, its next bytes were no answer, or they may be one too many.
+    const bool hasNoAnswer = result != CURLE_OK && ended.handle->status() == 0;
+    if (hasNoAnswer || connections_.isLoud(ended.address->origin())) {
+      return send(takeOut(handle), Connections::Use::Once);
+    }
+  }
+  if (result == CURLE_OK) return complete(leave(handle));
   Fetch fetch = leave(handle);
   fail(fetch, std::string("no whole answer: ") + curl_->easyStrerror(result));
 }
 
 CurlSession::Fetch CurlSession::takeOut(CURL* handle) {
+  const Fetch& ended = underWay_.at(handle);
+  if (ended.handle->use() == Connections::Use::Watched) {
+    connections_.hadAnswer(ended.address->origin(), ended.handle->socket());
+  }
   curl_->multiRemoveHandle(multi_, handle);
   return std::move(underWay_.extract(handle).mapped());
 }

@@ -61,7 +61,7 @@ class CurlSession {
   std::unique_ptr<CurlHandle> takeHandle();
   void endReady();
   // Lets the fetch, which has a handle, begin or begin anew.
-  void send(Fetch fetch, CurlHandle::Connection connection);
+  void send(Fetch fetch, Connections::Use use);
   Fetch takeOut(CURL* handle);
   // Takes the fetch out of what is under way, and lets the next one to its host begin.
   Fetch leave(CURL* handle);

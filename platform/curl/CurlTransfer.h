@@ -25,13 +25,15 @@ class CurlSession;
 // libcurl would find a file to write the keys of encrypted connections to.
 class CurlTransfer {
  public:
-  // Above zero, all of them.
+  // Above zero, all of them but the last.
   struct Limits {
     int redirects = NSURLSession::kMostRedirects;
     // Without a byte of a body or a line of a head, and also without a connection: a host is asked
     // over at most six at once.
     std::chrono::milliseconds idle = std::chrono::seconds{NSURLSession::kIdleSeconds};
     std::size_t bodyBytes = NSURLSession::kMostBodyBytes;
+    // Behind an answer, before a host's connections are used again: see Connections. Zero or more.
+    std::chrono::milliseconds quiet = std::chrono::milliseconds{50};
   };
 
   CurlTransfer();

@@ -1,5 +1,7 @@
 #include "tests/support/PictureServer.h"
 
+#include <sys/socket.h>
+
 #include <QEventLoop>
 #include <QSslCertificate>
 #include <QSslConfiguration>
@@ -135,8 +137,10 @@ void PictureServer::listenAndServe(const std::function<void(int port)>& listenin
 }
 
 void PictureServer::accept(QTcpSocket& client) {
+  clients_.push_back(&client);
   count(+1);
   QObject::connect(&client, &QTcpSocket::disconnected, &client, [this, &client] {
+    std::erase(clients_, &client);
     count(-1);
     client.deleteLater();
   });
@@ -170,8 +174,17 @@ void PictureServer::count(int change) {
   const std::lock_guard lock(mutex_);
   connections_ += change;
   if (change > 0) ++connectionsSoFar_;
-  mostConnections_ = std::max(mostConnections_, connections_);
+  mostConnections_ = std::max(mostConnections_, connections_ - left());
   changed_.notify_all();
+}
+
+// What a client closed before it opened the newest connection would otherwise count beside it.
+int PictureServer::left() const {
+  return static_cast<int>(std::count_if(clients_.begin(), clients_.end(), [](auto* client) {
+    char byte = 0;
+    return recv(static_cast<int>(client->socketDescriptor()), &byte, 1, MSG_PEEK | MSG_DONTWAIT) ==
+           0;
+  }));
 }
 
 }  // namespace leafund

@@ -65,6 +65,8 @@ class PictureServer {
   // Answers what is whole of `received`, and leaves the rest.
   void answerRequests(QTcpSocket& client, std::string& received);
   void count(int change);
+  // Of those that are open, whose closing the server may not have been told of yet.
+  int left() const;
 
   mutable std::mutex mutex_;
   mutable std::condition_variable changed_;
@@ -75,6 +77,7 @@ class PictureServer {
   int connectionsSoFar_ = 0;
   const Speaks speaks_;
   int port_ = 0;
+  std::vector<QTcpSocket*> clients_;  // on the server's thread
   std::unique_ptr<QThread> thread_;
 };
 

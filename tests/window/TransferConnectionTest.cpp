@@ -1,3 +1,4 @@
+#include <QPointer>
 #include <QTcpSocket>
 #include <QTimer>
 #include <atomic>
@@ -16,9 +17,11 @@ class TransferConnectionTest : public CurlTransferTest {
     return [this, bytes, pause](QTcpSocket& client) {
       answers::ok(kPicture)(client);
       client.flush();
-      QTimer::singleShot(pause, &client, [this, bytes, &client] {
-        if (client.isOpen()) client.write(bytes.data(), static_cast<qint64>(bytes.size()));
-        client.flush();
+      QTimer::singleShot(pause, [this, bytes, kept = QPointer(&client)] {
+        if (kept && kept->isOpen()) {
+          kept->write(bytes.data(), static_cast<qint64>(bytes.size()));
+          kept->flush();
+        }
         ++sent_;
         sent_.notify_all();
       });
@@ -32,16 +35,22 @@ class TransferConnectionTest : public CurlTransferTest {
     int pictures = 0;
     for (int i = 0; i < count; ++i) {
       if (fetched(transfer, server_.address("/picture")).isResponse(200, kPicture)) ++pictures;
-      for (int sent = sent_; sent <= i; sent = sent_) sent_.wait(sent);
+      waitUntilSent(i + 1);
     }
     return pictures;
   }
 
-  int picturesAtOnce(int count) {
+  void waitUntilSent(int count) const {
+    for (int sent = sent_; sent < count; sent = sent_) sent_.wait(sent);
+  }
+
+  int picturesAtOnce(int count, const std::string& path = "/picture") {
     CurlTransfer transfer;
+    return picturesAtOnce(transfer, count, path);
+  }
+  int picturesAtOnce(CurlTransfer& transfer, int count, const std::string& path) {
     std::vector<std::future<Outcome>> fetches;
-    for (int i = 0; i < count; ++i)
-      fetches.push_back(started(transfer, server_.address("/picture")));
+    for (int i = 0; i < count; ++i) fetches.push_back(started(transfer, server_.address(path)));
     int pictures = 0;
     for (auto& fetch : fetches) {
       if (outcomeOf(std::move(fetch)).isResponse(200, kPicture)) ++pictures;
@@ -58,7 +67,7 @@ class TransferConnectionTest : public CurlTransferTest {
 };
 
 TEST_F(TransferConnectionTest, AConnectionIsUsedAgainWhileItIsQuiet) {
-  CurlTransfer transfer;
+  CurlTransfer transfer({.quiet = 0ms});
   server_.serve("/picture", answers::ok(kPicture));
 
   for (int i = 0; i < 20; ++i) {
@@ -69,10 +78,27 @@ TEST_F(TransferConnectionTest, AConnectionIsUsedAgainWhileItIsQuiet) {
 }
 
 TEST_F(TransferConnectionTest, TwoHundredFetchesTakeSixConnections) {
+  CurlTransfer transfer({.quiet = 0ms});
   server_.serve("/picture", answers::ok(kPicture));
+  fetched(transfer, server_.address("/picture"));
 
-  EXPECT_EQ(picturesAtOnce(200), 200);
+  EXPECT_EQ(picturesAtOnce(transfer, 200, "/picture"), 200);
   EXPECT_EQ(server_.connectionsSoFar(), 6);
+}
+
+TEST_F(TransferConnectionTest, AHostThatStaysQuietIsTrustedAfterAWhile) {
+  CurlTransfer transfer;
+  server_.serve("/picture", answers::ok(kPicture));
+  const auto begin = std::chrono::steady_clock::now();
+  int fetches = 0;
+  do {
+    fetched(transfer, server_.address("/picture"));
+    ++fetches;
+  } while (server_.connectionsSoFar() == fetches);
+
+  EXPECT_GE(std::chrono::steady_clock::now() - begin, CurlTransfer::Limits{}.quiet);
+  EXPECT_EQ(picturesAtOnce(transfer, 200, "/picture"), 200);
+  EXPECT_LE(server_.connectionsSoFar(), fetches + 4);
 }
 
 TEST_F(TransferConnectionTest, ALineBreakBehindEachPictureCostsNone) {
@@ -92,6 +118,29 @@ TEST_F(TransferConnectionTest, ASecondAnswerIsNotTakenForTheNextOne) {
   server_.serve("/picture", withBytesBehind(kSecondAnswer, 0ms));
 
   EXPECT_EQ(picturesOneByOne(60), 60);
+}
+
+TEST_F(TransferConnectionTest, ASecondAnswerThatComesLateIsNotTakenForTheNextOneEither) {
+  for (const auto pause : {0ms, 1ms, 2ms, 5ms, 10ms, 20ms}) {
+    server_.serve("/picture", withBytesBehind(kSecondAnswer, pause));
+    EXPECT_EQ(picturesAtOnce(60), 60) << pause / 1ms;
+  }
+}
+
+// What comes when the next request has left is taken for its answer, so some are lost at first.
+// What comes later waits on the connections to be heard.
+TEST_F(TransferConnectionTest, AHostThatWasTrustedAndSaysTooMuchIsFoundOutAfterAPause) {
+  CurlTransfer transfer({.quiet = 0ms});
+  server_.serve("/picture", answers::ok(kPicture));
+  EXPECT_EQ(picturesAtOnce(transfer, 60, "/picture"), 60);
+  server_.serve("/loud", withBytesBehind(kSecondAnswer, 5ms));
+
+  RecordProperty("wrong", 60 - picturesAtOnce(transfer, 60, "/loud"));
+  waitUntilSent(static_cast<int>(server_.requestsFor("/loud")));
+  const int connections = server_.connectionsSoFar();
+
+  EXPECT_EQ(picturesAtOnce(transfer, 60, "/loud"), 60);
+  EXPECT_EQ(server_.connectionsSoFar(), connections + 60);
 }
 
 TEST_F(TransferConnectionTest, BytesInTheSamePacketCostNoPicture) {
@@ -116,7 +165,7 @@ TEST_F(TransferConnectionTest, TheBodyOfAnAnswerThatHasNoneCostsNoPicture) {
 TEST_F(TransferConnectionTest, WhatIsNoAnswerIsAskedForOnceMoreAtMost) {
   server_.serve("/picture", answers::ok(kPicture));
   server_.serve("/nonsense", answers::noHttp());
-  CurlTransfer transfer;
+  CurlTransfer transfer({.quiet = 0ms});
   fetched(transfer, server_.address("/picture"));
 
   EXPECT_TRUE(fetched(transfer, server_.address("/nonsense")).isError());
