@@ -127,6 +127,16 @@ Answer longerThanItsLength(const std::string& body, const std::string& rest) {
   return bytes(statusLine200 + lengthLine(body.size()) + "\r\n" + body + rest);
 }
 
+Answer withBytesLater(Answer answer, const std::string& rest, std::chrono::milliseconds pause) {
+  return [answer = std::move(answer), rest, pause](QTcpSocket& client) {
+    answer(client);
+    client.flush();
+    QTimer::singleShot(pause, &client, [&client, rest] {
+      if (client.isOpen()) send(client, rest);
+    });
+  };
+}
+
 Answer closedAfterHead(std::size_t length) {
   return closing(statusLine200 + lengthLine(length) + "\r\n");
 }

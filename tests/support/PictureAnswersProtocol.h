@@ -42,6 +42,9 @@ PictureServer::Answer endlessChunkSize();
 
 // A length that ends before the body does.
 PictureServer::Answer longerThanItsLength(const std::string& body, const std::string& rest);
+// And bytes behind the answer, in a packet of their own.
+PictureServer::Answer withBytesLater(PictureServer::Answer answer, const std::string& rest,
+                                     std::chrono::milliseconds pause);
 // A length that is true, and no byte of the body.
 PictureServer::Answer closedAfterHead(std::size_t length);
 

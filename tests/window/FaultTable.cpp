@@ -12,12 +12,14 @@ namespace {
 
 using enum Settled;
 using std::chrono_literals::operator""s;
+using std::chrono_literals::operator""ms;
 
 using At = FaultHosts&;
 
 // The picture that comes with, or in spite of, what is wrong.
 std::string picture() { return bodies::jpeg(kNewColour); }
 std::string page() { return bodies::errorPage(); }
+const std::string secondAnswer = "HTTP/1.1 200 OK\r\nContent-Length: 4\r\n\r\njunk";
 
 }  // namespace
 
@@ -82,7 +84,10 @@ const std::vector<Fault>& faults() {
     {"ClosedInTheBody", [](At at) { return at.with(answers::shortContentLength()); }, Kept, Kept, Kept},
     {"EndsWithTheConnection", [](At at) { return at.with(answers::okUntilClosed(picture())); }, Picture, Picture, Picture},
     {"LongerThanItsLength", [](At at) { return at.with(answers::longerThanItsLength(picture(), "junk")); }, Picture, Picture, Picture},
-    {"TwoAnswersForOne", [](At at) { return at.with(answers::longerThanItsLength(picture(), "HTTP/1.1 200 OK\r\nContent-Length: 4\r\n\r\njunk")); }, Picture, Picture, Picture},
+    {"TwoAnswersForOne", [](At at) { return at.with(answers::longerThanItsLength(picture(), secondAnswer)); }, Picture, Picture, Picture},
+    {"BytesBehindLater", [](At at) { return at.with(answers::withBytesLater(answers::ok(picture()), "\n", 1ms)); }, Picture, Picture, Picture},
+    {"SecondAnswerLater", [](At at) { return at.with(answers::withBytesLater(answers::ok(picture()), secondAnswer, 1ms)); }, Picture, Picture, Picture},
+    {"NoContentWithAPicture", [](At at) { return at.with(answers::under("HTTP/1.1 204 No Content", picture())); }, Kept, Kept, Kept},
     {"TwoLengths", [](At at) { return at.with(answers::withHeaders("Content-Length: 5\r\nContent-Length: 6\r\n", picture())); }, Kept, Kept, Kept},
     {"NegativeLength", [](At at) { return at.with(answers::withHeaders("Content-Length: -5\r\n", picture())); }, Kept, Kept, Kept},
     {"LengthInWords", [](At at) { return at.with(answers::withHeaders("Content-Length: many\r\n", picture())); }, Kept, Kept, Kept},

@@ -89,7 +89,10 @@ TEST_F(CurlTransferTest, OnlyWholeWebAddressesAreFetched) {
   for (const char* url :
        {"", "foo", "/etc/passwd", "//127.0.0.1/x", "file:///etc/passwd", "ftp://127.0.0.1/x",
         "data:image/gif;base64,R0lGODlhAQABAAAAACw=", "qrc:/x", "http:", "http://", "http:///x",
-        "https:x", "http://127.0.0.1:99999/", "http://a b/"}) {
+        "https:x", "http://127.0.0.1:99999/", "http://a b/",
+        // Addresses by the grammar, but no name can be looked up that holds these.
+        "http://a%00b/", "http://a%0Ab/", "http://a%20b/", "http://a%2Fb/", "http://a%3Ab/",
+        "http://a%40b/"}) {
     EXPECT_TRUE(fetched(transfer, url).isError()) << url;
   }
 }
