@@ -121,10 +121,13 @@ def functions(project):
 def behaviours(project):
     sources = "".join(project.text(path) for path in project.files(".cpp") if path.endswith("Test.cpp"))
     tests = {".".join(names) for names in re.findall(r"^TEST(?:_F|_P)?\(\s*(\w+),\s*(\w+)\s*\)", sources, re.M)}
-    rows = [line for line in project.text("tests/README.md").splitlines()
-            if line.startswith("|") and re.search(r"`\w+Test\.\w+`", line)]
-    named = {name for row in rows for name in re.findall(r"`(\w+\.\w+)`", row)}
-    return sorted(named - tests) if rows else ["tests/README.md holds no table of behaviours"]
+    found = []
+    for document in ("tests/README.md", "SECURITY.md"):
+        rows = [line for line in project.text(document).splitlines() if line.startswith("|")]
+        named = {name for row in rows for name in re.findall(r"`(\w+Test\.\w+)`", row)}
+        found += sorted(f"{document}: {name}" for name in named - tests)
+        found += [] if named else [f"{document} holds no table of tests"]
+    return found
 
 
 def usages(project):
@@ -149,7 +152,7 @@ CHECKS = (
     ("documents link to what exists", "correct the link", links),
     ("documents call what exists", "correct the command, or add its package's", commands),
     ("documents set what exists", "correct the preset or the variable", settings),
-    ("the table of behaviours", "name a test that exists", behaviours),
+    ("tables name tests", "name one that exists", behaviours),
     ("commands say how they are called", "take --help, and end with 2 at a word they do not know", usages),
     ("documents know the code", "correct the name of the function", functions),
 )
