@@ -29,6 +29,7 @@ LIBRARIES = (
     ("libcurl", r"<curl/", "platform/curl"),
     ("libjpeg", r"<jpeglib", "platform/qt"),
     ("libpng", r"<png\.h", "platform/qt"),
+    ("giflib", r"<gif_lib\.h", "platform/qt"),
     ("libwebp", r"<webp/", "platform/qt"),
 )
 
