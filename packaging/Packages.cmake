@@ -13,14 +13,14 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION misc)
 
 # Libraries are read from the program. Beside them it needs the QML modules that its interface
-# imports, its typeface, and what it loads by itself: libjpeg, libwebp, giflib, and
+# imports, its typeface, and what it loads by itself: libjpeg, libwebp, giflib, Little CMS, and
 # libcurl with the certificates for https.
 # Where Wayland is the only display, Qt needs its plugin for it.
 set(CPACK_DEBIAN_APP_PACKAGE_NAME leafund)
 set(CPACK_DEBIAN_APP_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_APP_PACKAGE_DEPENDS
   "qml6-module-qtquick, qml6-module-qtqml-workerscript, fonts-inter, libcurl4 (>= 7.87), \
-libjpeg62-turbo | libjpeg-turbo8, libwebp7, libgif7")
+libjpeg62-turbo | libjpeg-turbo8, libwebp7, libgif7, liblcms2-2")
 set(CPACK_DEBIAN_APP_PACKAGE_RECOMMENDS "qt6-wayland, ca-certificates")
 if(demo)
   set(CPACK_DEBIAN_APP_PACKAGE_SUGGESTS leafund-demo)

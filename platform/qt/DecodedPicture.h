@@ -1,16 +1,17 @@
 #pragma once
 
-#include <QColorSpace>
 #include <QImage>
 #include <QSize>
 #include <string_view>
+
+#include "platform/qt/ColourTransform.h"
 
 namespace leafund {
 
 // What a decoder makes of a body: pixels as they are stored, neither upright nor in sRGB yet.
 struct DecodedPicture {
-  QImage pixels;        // Null when nothing can be made of it.
-  QColorSpace colours;  // By its ICC profile; not valid without one that is understood.
+  QImage pixels;  // Null when nothing can be made of it.
+  ColourTransform toSRgb;
 };
 
 // What is decoded is bounded by counts and not by time, so that a body looks the same on every

@@ -46,11 +46,11 @@ void skip(j_decompress_ptr picture, long count) {
   source->bytes_in_buffer -= static_cast<std::size_t>(count);
 }
 
-// Adobe's programs store these inverted, and say who they are.
-void cmykToRgb32(unsigned char* row, unsigned width, bool isInverted) {
+// They are stored inverted, 255 being no ink: so Adobe's programs do, and whoever reads them takes
+// it for granted.
+void cmykToRgb32(unsigned char* row, unsigned width) {
   for (unsigned x = 0; x < width; ++x, row += 4) {
-    const auto ink = [&](int which) { return isInverted ? row[which] : 255 - row[which]; };
-    const auto light = [&](int which) { return static_cast<QRgb>(ink(which) * ink(3) / 255); };
+    const auto light = [row](int which) { return static_cast<QRgb>(row[which] * row[3] / 255); };
     *reinterpret_cast<QRgb*>(row) = 0xFF000000 | light(0) << 16 | light(1) << 8 | light(2);
   }
 }
@@ -77,7 +77,9 @@ class JpegDecoder {
   DecodedPicture decode(QSize enough) {
     DecodedPicture decoded;
     if (!tried([&] { begin(enough); }) || memoryNeeded() > kMostPictureBytes) return decoded;
-    decoded.colours = colours();
+    ColourTransform toSRgb = this->toSRgb();
+    // Inks become colours row by row, before they are made smaller.
+    (isOfInks() ? inksToSRgb_ : decoded.toSRgb) = std::move(toSRgb);
     QImage pixels(static_cast<int>(picture_.output_width), static_cast<int>(picture_.output_height),
                   QImage::Format_RGB32);
     if (pixels.isNull()) return decoded;
@@ -111,11 +113,13 @@ class JpegDecoder {
     picture_.scale_num = 1;
     while (picture_.scale_num < 8 && !isEnough(picture_.scale_num)) ++picture_.scale_num;
     picture_.scale_denom = 8;
-    const bool isOfInks =
-        picture_.jpeg_color_space == JCS_CMYK || picture_.jpeg_color_space == JCS_YCCK;
-    picture_.out_color_space = isOfInks ? JCS_CMYK : kRgb32;
+    picture_.out_color_space = isOfInks() ? JCS_CMYK : kRgb32;
     picture_.buffered_image = jpeg_.hasMultipleScans(&picture_);
     jpeg_.calcOutputDimensions(&picture_);
+  }
+
+  bool isOfInks() const {
+    return picture_.jpeg_color_space == JCS_CMYK || picture_.jpeg_color_space == JCS_YCCK;
   }
 
   // The pixels, and the coefficients of a picture that comes in several scans.
@@ -129,14 +133,18 @@ class JpegDecoder {
     return bytes;
   }
 
-  QColorSpace colours() {
+  ColourTransform toSRgb() {
+    using Pixels = ColourTransform::Pixels;
     JOCTET* bytes = nullptr;
     unsigned length = 0;
     if (!tried([&] { jpeg_.readIccProfile(&picture_, &bytes, &length); })) return {};
     if (bytes == nullptr) return {};
-    const QByteArray profile(reinterpret_cast<const char*>(bytes), static_cast<qsizetype>(length));
+    const auto colours =
+        picture_.jpeg_color_space == JCS_GRAYSCALE ? Pixels::Grey : Pixels::Colours;
+    const auto transform = ColourTransform::ofProfile(
+        {reinterpret_cast<const char*>(bytes), length}, isOfInks() ? Pixels::Inks : colours);
     std::free(bytes);
-    return QColorSpace::fromIccProfile(profile);
+    return transform;
   }
 
   void readRows(unsigned char* bits, std::size_t stride) {
@@ -154,8 +162,10 @@ class JpegDecoder {
       jpeg_.readScanlines(&picture_, &row, 1);
       hasRows_ = true;
       work_ += workOfARow * 8 / static_cast<int>(picture_.scale_num);
-      if (picture_.out_color_space == JCS_CMYK) {
-        cmykToRgb32(row, picture_.output_width, picture_.saw_Adobe_marker != FALSE);
+      if (!inksToSRgb_.isNone()) {
+        inksToSRgb_.apply(reinterpret_cast<QRgb*>(row), picture_.output_width);
+      } else if (isOfInks()) {
+        cmykToRgb32(row, picture_.output_width);
       }
     }
   }
@@ -180,6 +190,7 @@ class JpegDecoder {
   jpeg_decompress_struct picture_;
   Errors errors_{};
   Source source_{};
+  ColourTransform inksToSRgb_;
   long long work_ = 0;
   bool hasRows_ = false;
 };

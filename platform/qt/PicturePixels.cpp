@@ -40,9 +40,12 @@ QSize ownPixels(const UIImage& image) {
 QImage scaledInSRgb(const DecodedPicture& decoded, QSize size) {
   if (decoded.pixels.isNull()) return {};
   QImage scaled = decoded.pixels.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-  if (scaled.isNull() || !decoded.colours.isValid()) return scaled;
-  scaled.setColorSpace(decoded.colours);
-  scaled.convertToColorSpace(QColorSpace::SRgb);
+  if (scaled.isNull() || decoded.toSRgb.isNone()) return scaled;
+  scaled.convertTo(scaled.hasAlphaChannel() ? QImage::Format_ARGB32 : QImage::Format_RGB32);
+  for (int y = 0; y < scaled.height(); ++y) {
+    decoded.toSRgb.apply(reinterpret_cast<QRgb*>(scaled.scanLine(y)),
+                         static_cast<unsigned>(scaled.width()));
+  }
   return scaled;
 }
 
@@ -91,8 +94,7 @@ QImage middle(const QImage& picture, QSizeF whole, QSize pixels) {
 void silenceQt() {
   static std::once_flag silenced;
   std::call_once(silenced, [] {
-    QLoggingCategory::setFilterRules(
-        QStringLiteral("qt.gui.imageio*.warning=false\nqt.gui.icc*.warning=false"));
+    QLoggingCategory::setFilterRules(QStringLiteral("qt.gui.imageio*.warning=false"));
   });
 }
 

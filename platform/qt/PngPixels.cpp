@@ -1,5 +1,6 @@
 #include <png.h>
 
+#include <cmath>
 #include <csetjmp>
 
 #include "platform/qt/DecodedPicture.h"
@@ -41,6 +42,7 @@ class PngDecoder {
   // The header is read, and all that stands before the pixels. Nothing here may be left by a jump
   // while it owns something.
   void begin() {
+    decoded_.toSRgb = toSRgb();
     png_set_expand(png_);  // Colours by number, few bits and a colour that is clear.
     png_set_scale_16(png_);
     png_set_gray_to_rgb(png_);
@@ -64,13 +66,32 @@ class PngDecoder {
     decoded_.pixels.fill(Qt::transparent);
     bits_ = decoded_.pixels.bits();
     stride_ = static_cast<std::size_t>(decoded_.pixels.bytesPerLine());
+  }
+
+  // By its profile, or by what stands in place of one.
+  ColourTransform toSRgb() const {
+    using Pixels = ColourTransform::Pixels;
     png_charp name = nullptr;
     int compression = 0;
     png_bytep profile = nullptr;
     png_uint_32 length = 0;
-    if (png_get_iCCP(png_, info_, &name, &compression, &profile, &length) == 0) return;
-    decoded_.colours = QColorSpace::fromIccProfile(QByteArray::fromRawData(
-        reinterpret_cast<const char*>(profile), static_cast<qsizetype>(length)));
+    if (png_get_iCCP(png_, info_, &name, &compression, &profile, &length) != 0) {
+      const bool isGrey = (png_get_color_type(png_, info_) & PNG_COLOR_MASK_COLOR) == 0;
+      return ColourTransform::ofProfile({reinterpret_cast<const char*>(profile), length},
+                                        isGrey ? Pixels::Grey : Pixels::Colours);
+    }
+    double gamma = 0;
+    if (png_get_valid(png_, info_, PNG_INFO_sRGB) != 0) return {};
+    if (png_get_gAMA(png_, info_, &gamma) == 0) return {};
+    // Most write 1 / 2.2 and mean sRGB.
+    const bool isAsSRgb = std::abs(gamma * 2.2 - 1) < PNG_GAMMA_THRESHOLD;
+    ColourTransform::Primaries told;
+    auto& [red, green, blue] = told.lights;
+    const bool hasLights = png_get_cHRM(png_, info_, &told.white.x, &told.white.y, &red.x, &red.y,
+                                        &green.x, &green.y, &blue.x, &blue.y) != 0;
+    if (isAsSRgb && !hasLights) return {};
+    told.gamma = isAsSRgb ? 0 : 1 / gamma;
+    return ColourTransform::ofPrimaries(told);
   }
 
   void take(png_bytep row, png_uint_32 y) {

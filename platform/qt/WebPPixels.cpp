@@ -79,8 +79,7 @@ DecodedPicture decodeWebP(std::string_view body, QSize size) {
   decoded.pixels =
       firstFrame.empty() ? stillPixels(webp, body, size) : framePixels(webp, firstFrame, size);
   if (!profile.empty()) {
-    decoded.colours = QColorSpace::fromIccProfile(
-        QByteArray::fromRawData(profile.data(), static_cast<qsizetype>(profile.size())));
+    decoded.toSRgb = ColourTransform::ofProfile(profile, ColourTransform::Pixels::Colours);
   }
   return decoded;
 }

@@ -105,6 +105,29 @@ TEST(PicturePngTest, WhatWouldTakeMoreThan256MegabytesIsBlank) {
   EXPECT_TRUE(drawn(claims(65535, 65535), {16, 16}).isNull());
 }
 
+// With these chunks before its pixels, all of which are of that grey.
+std::string greyPng(char light, const std::string& chunks) {
+  const std::string row = byte(0) + std::string(16, light);
+  std::string rows;
+  for (int y = 0; y < 16; ++y) rows += row;
+  const std::string header =
+      chunk("IHDR", big32(16) + big32(16) + byte(8) + byte(0) + std::string(3, '\0'));
+  return pngStart + header + chunks + chunk("IDAT", packed(rows)) + chunk("IEND", "");
+}
+
+TEST(PicturePngTest, ItsGammaCountsUnlessItIsSRgb) {
+  const auto lightOf = [](const std::string& chunks) {
+    return drawn(greyPng(55, chunks), {16, 16}).pixelColor(8, 8).red();
+  };
+  const std::string linear = chunk("gAMA", big32(100'000));
+
+  EXPECT_EQ(lightOf(""), 55);
+  EXPECT_NEAR(lightOf(linear), 128, 1);  // 1.055 * (55 / 255) ^ (1 / 2.4) - 0.055, of 255
+  EXPECT_EQ(lightOf(chunk("gAMA", big32(45'455))), 55);
+  EXPECT_EQ(lightOf(chunk("sRGB", byte(0)) + linear), 55);
+  EXPECT_EQ(lightOf(chunk("gAMA", big32(0))), 55);
+}
+
 TEST(PicturePngTest, AColourProfileCounts) {
   QImage picture(64, 64, QImage::Format_ARGB32);
   picture.fill(QColor(200, 100, 50));

@@ -30,6 +30,7 @@ LIBRARIES = (
     ("libjpeg", r"<jpeglib", "platform/qt"),
     ("libpng", r"<png\.h", "platform/qt"),
     ("giflib", r"<gif_lib\.h", "platform/qt"),
+    ("Little CMS", r"<lcms2\.h", "platform/qt"),
     ("libwebp", r"<webp/", "platform/qt"),
 )
 

@@ -1,0 +1,143 @@
+#include "platform/qt/ColourTransform.h"
+
+#include <dlfcn.h>
+#include <lcms2.h>
+
+namespace leafund {
+
+namespace {
+
+// What is used of Little CMS, each as it is named there.
+struct Library {
+  decltype(&cmsOpenProfileFromMem) openProfileFromMem = nullptr;
+  decltype(&cmsCloseProfile) closeProfile = nullptr;
+  decltype(&cmsGetColorSpace) getColorSpace = nullptr;
+  decltype(&cmsCreate_sRGBProfile) createSRgbProfile = nullptr;
+  decltype(&cmsCreateRGBProfile) createRgbProfile = nullptr;
+  decltype(&cmsBuildParametricToneCurve) buildToneCurve = nullptr;
+  decltype(&cmsFreeToneCurve) freeToneCurve = nullptr;
+  decltype(&cmsCreateTransform) createTransform = nullptr;
+  decltype(&cmsDeleteTransform) deleteTransform = nullptr;
+  decltype(&cmsDoTransform) doTransform = nullptr;
+  bool isThere = false;
+
+  static const Library& get() {
+    static const Library library;
+    return library;
+  }
+
+ private:
+  Library() {
+    void* const library = dlopen("liblcms2.so.2", RTLD_NOW | RTLD_LOCAL);
+    isThere = library != nullptr;
+    if (!isThere) return;
+    resolve(library, openProfileFromMem, "cmsOpenProfileFromMem");
+    resolve(library, closeProfile, "cmsCloseProfile");
+    resolve(library, getColorSpace, "cmsGetColorSpace");
+    resolve(library, createSRgbProfile, "cmsCreate_sRGBProfile");
+    resolve(library, createRgbProfile, "cmsCreateRGBProfile");
+    resolve(library, buildToneCurve, "cmsBuildParametricToneCurve");
+    resolve(library, freeToneCurve, "cmsFreeToneCurve");
+    resolve(library, createTransform, "cmsCreateTransform");
+    resolve(library, deleteTransform, "cmsDeleteTransform");
+    resolve(library, doTransform, "cmsDoTransform");
+  }
+
+  template <typename Function>
+  void resolve(void* library, Function& function, const char* name) {
+    function = reinterpret_cast<Function>(dlsym(library, name));
+    isThere = isThere && function != nullptr;
+  }
+};
+
+using Pixels = ColourTransform::Pixels;
+
+// RGB32 is a number, whose bytes lie by the machine's order. What no format names is left alone.
+constexpr cmsUInt32Number kRgb32 = Q_BYTE_ORDER == Q_LITTLE_ENDIAN ? TYPE_BGRA_8 : TYPE_ARGB_8;
+
+// How the pixels are read by a profile of that space; 0 when it is not of such pixels.
+cmsUInt32Number formatOf(cmsColorSpaceSignature space, Pixels pixels) {
+  if (space == cmsSigGrayData && pixels == Pixels::Grey) return TYPE_GRAY_8;
+  if (space == cmsSigRgbData && pixels != Pixels::Inks) return kRgb32;
+  return space == cmsSigCmykData && pixels == Pixels::Inks ? TYPE_CMYK_8_REV : 0;
+}
+
+// From that profile, which it closes; null when that cannot be.
+cmsHTRANSFORM transformOf(const Library& lcms, cmsHPROFILE profile, cmsUInt32Number format) {
+  cmsHPROFILE shown = lcms.createSRgbProfile();
+  cmsHTRANSFORM transform = nullptr;
+  if (shown != nullptr && format != 0) {
+    // Without its cache, which holds the last pixel, threads may share it. A table of four inks is
+    // made anew with so many steps of each: more take a fifth of a second.
+    const bool isOfInks = format == TYPE_CMYK_8_REV;
+    const int flags = cmsFLAGS_NOCACHE | (isOfInks ? cmsFLAGS_GRIDPOINTS(11) : 0);
+    transform = lcms.createTransform(profile, format, shown, kRgb32, INTENT_PERCEPTUAL,
+                                     static_cast<cmsUInt32Number>(flags));
+  }
+  if (shown != nullptr) lcms.closeProfile(shown);
+  lcms.closeProfile(profile);
+  return transform;
+}
+
+cmsHPROFILE profileOf(const Library& lcms, const ColourTransform::Primaries& primaries) {
+  const cmsFloat64Number srgb[] = {2.4, 1 / 1.055, 0.055 / 1.055, 1 / 12.92, 0.04045};
+  cmsToneCurve* const curve = primaries.gamma > 0
+                                  ? lcms.buildToneCurve(nullptr, 1, &primaries.gamma)
+                                  : lcms.buildToneCurve(nullptr, 4, srgb);
+  if (curve == nullptr) return nullptr;
+  const auto point = [](const auto& at) { return cmsCIExyY{at.x, at.y, 1}; };
+  const auto& [red, green, blue] = primaries.lights;
+  const cmsCIExyY white = point(primaries.white);
+  const cmsCIExyYTRIPLE lights{point(red), point(green), point(blue)};
+  cmsToneCurve* curves[] = {curve, curve, curve};
+  cmsHPROFILE profile = lcms.createRgbProfile(&white, &lights, curves);
+  lcms.freeToneCurve(curve);
+  return profile;
+}
+
+}  // namespace
+
+ColourTransform::ColourTransform(void* transform, Pixels pixels) : pixels_(pixels) {
+  if (transform != nullptr) transform_.reset(transform, Library::get().deleteTransform);
+}
+
+ColourTransform ColourTransform::ofProfile(std::string_view icc, Pixels pixels) {
+  const Library& lcms = Library::get();
+  if (!lcms.isThere) return {};
+  cmsHPROFILE profile =
+      lcms.openProfileFromMem(icc.data(), static_cast<cmsUInt32Number>(icc.size()));
+  if (profile == nullptr) return {};
+  const cmsUInt32Number format = formatOf(lcms.getColorSpace(profile), pixels);
+  const bool isOfOneNumber = format == TYPE_GRAY_8;
+  if (pixels == Pixels::Grey && !isOfOneNumber) pixels = Pixels::Colours;
+  return {transformOf(lcms, profile, format), pixels};
+}
+
+ColourTransform ColourTransform::ofPrimaries(const Primaries& primaries) {
+  const Library& lcms = Library::get();
+  if (!lcms.isThere) return {};
+  cmsHPROFILE profile = profileOf(lcms, primaries);
+  if (profile == nullptr) return {};
+  return {transformOf(lcms, profile, kRgb32), Pixels::Colours};
+}
+
+void ColourTransform::apply(QRgb* pixels, unsigned count) const {
+  if (isNone()) return;
+  const Library& lcms = Library::get();
+  if (pixels_ != Pixels::Grey) {
+    lcms.doTransform(transform_.get(), pixels, pixels, count);
+    if (pixels_ != Pixels::Inks) return;
+    for (unsigned at = 0; at < count; ++at) pixels[at] |= 0xFF000000;
+    return;
+  }
+  unsigned char greys[256];
+  QRgb shown[256] = {};
+  for (unsigned at = 0; at < 256; ++at) greys[at] = static_cast<unsigned char>(at);
+  lcms.doTransform(transform_.get(), greys, shown, 256);
+  for (unsigned at = 0; at < count; ++at) {
+    const QRgb light = shown[qRed(pixels[at])] & 0x00FFFFFF;
+    pixels[at] = light | (pixels[at] & 0xFF000000);
+  }
+}
+
+}  // namespace leafund
