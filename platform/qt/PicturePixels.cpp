@@ -37,8 +37,12 @@ QSize ownPixels(const UIImage& image) {
 }
 
 // Smaller, in the colours that every screen is taken to show.
-QImage scaledInSRgb(const DecodedPicture& decoded, QSize size) {
+QImage scaledInSRgb(DecodedPicture decoded, QSize size) {
   if (decoded.pixels.isNull()) return {};
+  // In place, which scaling would do in a second picture as large as the first.
+  if (decoded.pixels.hasAlphaChannel() && decoded.pixels.size() != size) {
+    decoded.pixels.convertTo(QImage::Format_ARGB32_Premultiplied);
+  }
   QImage scaled = decoded.pixels.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
   if (scaled.isNull() || decoded.toSRgb.isNone()) return scaled;
   scaled.convertTo(scaled.hasAlphaChannel() ? QImage::Format_ARGB32 : QImage::Format_RGB32);
