@@ -73,6 +73,13 @@ runWindow() {
     "$folder/shell/leafund" "$folder/tests/random/random_reference" 500 "$RANDOM"
 }
 
+# Pictures that are large, or made to take long.
+runLargePictures() {
+  folder=build/debug results=build/debug/results
+  runTool "large pictures" ', 0 disagreements$' '^FAIL ' tools/pictures "$results/large-pictures" \
+    --generate large --draw "$folder/tests/pictures/draw_pictures" --jobs 1
+}
+
 # What the work inside takes, in instructions: the same however busy the machine is.
 runCounts() {
   installMissing bench
@@ -82,6 +89,7 @@ runCounts() {
 }
 
 runWindow
+runLargePictures
 runMany
 runCounts
 runTool fuzz ' 0 findings' ' [1-9][0-9]* findings' tools/fuzz all 60
