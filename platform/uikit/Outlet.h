@@ -7,8 +7,8 @@
 
 namespace leafund {
 
-// A named way from a controller to a view of its scene. It registers with its controller, so that
-// the storyboard can tell whether a scene connects them all.
+// A named way from a controller to a view of its scene. It registers with its controller, so that a
+// test can tell whether a scene connects them all.
 class OutletBase {
  public:
   OutletBase(UIViewController* owner, const char* name);

@@ -48,7 +48,6 @@ const std::shared_ptr<UIView>& UIViewController::view() {
 void UIViewController::buildView() {
   view_ = makeRootView();
   if (scene_ != nullptr) scene_->build(*this);
-  checkOutlets();
 }
 
 void UIViewController::releaseView() { view_.reset(); }
@@ -86,13 +85,12 @@ const std::shared_ptr<UIViewController>& UIViewController::childOfScene(
   return children_.back();
 }
 
-void UIViewController::checkOutlets() const {
-  if (scene_ == nullptr) return;
+std::vector<std::string> UIViewController::unconnectedOutlets() const {
+  std::vector<std::string> names;
   for (const auto* outlet : outlets_) {
-    if (!outlet->connected()) {
-      fatalError(className_, "the scene leaves the outlet " + outlet->name() + " unconnected");
-    }
+    if (!outlet->connected()) names.push_back(outlet->name());
   }
+  return names;
 }
 
 }  // namespace leafund

@@ -57,6 +57,10 @@ class UIViewController : public UIResponder {
   // The view goes, and loads anew at its next use. No host does this by itself.
   void releaseView();
 
+  // The names of the outlets that its scene left without a view, once that is loaded. Each is fatal
+  // when it is used, and not before; a test holds all scenes to have none.
+  std::vector<std::string> unconnectedOutlets() const;
+
   UINavigationItem& navigationItem() { return navigationItem_; }
   const UINavigationItem& navigationItem() const { return navigationItem_; }
   // The stack this screen stands on, itself or as a tab of one that does; null elsewhere.
@@ -90,7 +94,6 @@ class UIViewController : public UIResponder {
   void buildView();
   void appear(bool animated);
   void layOut();
-  void checkOutlets() const;
 
   std::string className_;
   const UIStoryboard* storyboard_ = nullptr;  // lives as long as the process

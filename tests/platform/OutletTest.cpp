@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include "platform/foundation/FatalError.h"
 #include "platform/uikit/Outlet.h"
 #include "platform/uikit/Scene.h"
 
@@ -11,12 +10,6 @@ class Badge : public UIViewController {
  public:
   Outlet<UILabel> nameLabel{this, "nameLabel"};
   StrongOutlet<UIView> frameView{this, "frameView"};
-
-  bool mayLoad = true;
-  void viewDidLoad() override {
-    if (!mayLoad) fatalError(className(), "the load was told");
-    UIViewController::viewDidLoad();
-  }
 };
 
 using Fill = std::function<void(Scene<Badge>&, Badge&)>;
@@ -107,19 +100,24 @@ TEST(OutletDeathTest, UsingAnAbsentOutletIsFatalAndSaysWhichOneOfWhichScreen) {
   EXPECT_DEATH(badge->nameLabel->setText("x"), line);
 }
 
-TEST(OutletDeathTest, ASceneThatLeavesAnOutletUnconnectedIsFatalBeforeTheLoadIsTold) {
-  const auto withoutLabel = badges([](Scene<Badge>&, Badge& badge) {
-    badge.frameView.connect(std::make_shared<UIView>());
-    badge.mayLoad = false;
-  });
-  EXPECT_DEATH(make(withoutLabel)->view(),
-               "Leafund stopped: Badge: the scene leaves the outlet nameLabel unconnected");
-  const auto withoutFrame = badges([](Scene<Badge>& scene, Badge& badge) {
-    scene.label(badge.nameLabel);
-    badge.mayLoad = false;
-  });
-  EXPECT_DEATH(make(withoutFrame)->view(),
-               "Leafund stopped: Badge: the scene leaves the outlet frameView unconnected");
+TEST(OutletTest, AnOutletThatASceneLeavesUnconnectedIsNamedAndStopsNoLoad) {
+  const auto storyboard =
+      badges([](Scene<Badge>& scene, Badge& badge) { scene.label(badge.nameLabel); });
+  const auto badge = make(storyboard);
+  badge->view();
+  EXPECT_EQ(badge->unconnectedOutlets(), std::vector<std::string>{"frameView"});
+  const auto whole = badges(connectAll);
+  const auto connected = make(whole);
+  connected->view();
+  EXPECT_TRUE(connected->unconnectedOutlets().empty());
+}
+
+TEST(OutletDeathTest, AnOutletThatASceneLeavesUnconnectedIsFatalWhenItIsUsed) {
+  const auto storyboard = badges([](Scene<Badge>&, Badge&) {});
+  const auto badge = make(storyboard);
+  badge->view();
+  EXPECT_DEATH(badge->nameLabel->setText("x"),
+               "Leafund stopped: Badge: the outlet nameLabel is absent");
 }
 
 }  // namespace

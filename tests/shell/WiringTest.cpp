@@ -60,6 +60,14 @@ TEST(WiringTest, EveryActionOfAScreenIsRunBySomeControl) {
   EXPECT_THAT(wiresOf("TabBarVC"), UnorderedElementsAre("newButton tapped newCampaignSegue"));
 }
 
+TEST(WiringTest, EveryOutletOfEveryScreenIsConnectedByItsScene) {
+  HeadlessHost host;
+  for (const auto& scene : mainStoryboard().scenes()) {
+    const auto screen = mainStoryboard().draft(scene.name);
+    EXPECT_THAT(screen->unconnectedOutlets(), testing::IsEmpty()) << scene.name;
+  }
+}
+
 std::vector<std::string> fieldsWithADelegate(const std::string& sceneName) {
   std::vector<std::string> names;
   const auto screen = mainStoryboard().instantiateViewControllerWithIdentifier(sceneName);
