@@ -17,6 +17,8 @@ FAR = 24
 MOST_FAR = 0.02
 # Rows above a cut that decoders may leave out, or draw from half a block.
 ROWS_OF_A_BLOCK = 16
+# How a file is judged whose damage decoders take otherwise, each in its way.
+BEHIND_DAMAGE = "differ behind their damage"
 
 
 class Drawing:
@@ -103,16 +105,16 @@ def difference(ours, theirs, is_scaled):
     return f"differs by {mean:.1f} of 255, and {far:.1%} of its pixels by more than {FAR}"
 
 
-def damage_difference(ours, theirs, stored_height, is_scaled, kind):
+def damage_difference(ours, theirs, stored_height, is_scaled, body):
     """The same of what both have. Ours leaves the rest grey in a JPEG, else clear; theirs black."""
     margin = 1 + ROWS_OF_A_BLOCK * ours.height // stored_height
     have, has = last_row(ours), last_row(theirs)
     alpha = ours.getchannel(3)
     opaque = alpha.point(lambda alpha: 255 if alpha == 255 else 0)
     if alpha.getbbox() is None:
-        return None if is_scaled else "has no pixels"
+        return None if is_scaled or has <= margin else "has no pixels"
     # The end of a GIF's frame is not that of its canvas.
-    if have < has - 2 * margin and kind != "GIF":
+    if have < has - 2 * margin and rule.kind_of(body) != "GIF":
         return f"ends after {have} rows, the other after {has}"
     rows = min(have, has) - margin
     if rows < 1:
@@ -121,14 +123,23 @@ def damage_difference(ours, theirs, stored_height, is_scaled, kind):
     mask = Image.merge(ours.mode, [ImageChops.darker(opaque, lit)] * 4)
     box = (0, 0, ours.width, rows)
     ours, theirs = (ImageChops.darker(picture, mask).crop(box) for picture in (ours, theirs))
-    return difference(ours, theirs, is_scaled)
+    found = difference(ours, theirs, is_scaled)
+    if found and not (rule.comes_row_by_row(body) and differ_at_once(ours, theirs, margin)):
+        return BEHIND_DAMAGE
+    return found
+
+
+def differ_at_once(ours, theirs, margin):
+    """Whether they differ in the first rows already."""
+    box = (0, 0, ours.width, min(ours.height, 8 * margin))
+    return difference(ours.crop(box), theirs.crop(box), False) is not None
 
 
 def compare(path, body, drawing, stored):
     """How it was compared, and what is wrong."""
     is_scaled = drawing.size not in (stored, stored[::-1])
     ours = None if drawing.blank else pixels_of(drawing.size, drawing.pixels)
-    said, seen = [], None
+    said, seen, behind = [], None, False
     for name, is_whole, picture in others.drawings(path, body, drawing.size):
         theirs = pixels_of(picture.size, picture.tobytes())
         if ours is None:
@@ -136,12 +147,17 @@ def compare(path, body, drawing, stored):
         elif is_whole:
             found = difference(ours, theirs, is_scaled)
         else:
-            found = damage_difference(ours, theirs, stored[1], is_scaled, rule.kind_of(body))
+            found = damage_difference(ours, theirs, stored[1], is_scaled, body)
         word = "whole" if is_whole else "damaged"
         if found is None:
             return f"agree, {word}", None
+        if found == BEHIND_DAMAGE:
+            behind = True
+            continue
         seen = seen or word
         said.append(f"{name} {found}" if ours else f"{name} draws it, and ours is blank")
+    if behind:
+        return BEHIND_DAMAGE, None
     if not said:
         return "not compared, for no other decoder draws them", None
     return f"disagree, {seen}", "; ".join(said)
@@ -168,5 +184,6 @@ def verdict(path, first, second):
         word, found = compare(path, body, drawing, stored)
         if found:
             faults.append(f"at {drawing.size[0]} by {drawing.size[1]}: {found}")
+        if found or word == BEHIND_DAMAGE:
             break
     return word, faults

@@ -60,6 +60,13 @@ def webp_size(body):
     return None
 
 
+def comes_row_by_row(body):
+    """Whether damage leaves the rows above it alone, as far as the header tells."""
+    if kind_of(body) == "JPEG":
+        return any(marker in (0xC0, 0xC1) for marker, _ in jpeg_segments(body))
+    return kind_of(body) == "PNG" and body[28:29] == b"\0"
+
+
 def kind_of(body):
     if body[:3] == b"\xff\xd8\xff":
         return "JPEG"
