@@ -9,6 +9,7 @@
 #include "bench/Figures.h"
 #include "bench/GlassBench.h"
 #include "platform/graphics/DrawingContext.h"
+#include "platform/qt/PictureItem.h"
 #include "platform/uikit/UITableViewCell.h"
 #include "tests/support/PictureAnswers.h"
 #include "tests/support/PictureAnswersProtocol.h"
@@ -133,6 +134,7 @@ std::vector<double> framesBetweenPictures(GlassBench& glass, PictureServer& serv
 void checkThatPicturesAreSeen(GlassBench& glass, const PictureServer& server) {
   Fling fling(glass, server);
   fling.end(server);
+  glass.waitUntil([&] { return PictureItem::areDrawn(glass.window()); });
   const QImage with = glass.picture();
   for (const auto& [row, cell] : glass.table()->visibleCells()) {
     demand(cell->imageView()->image() != nullptr, "the row has its picture");

@@ -11,6 +11,7 @@
 
 #include "bench/Figures.h"
 #include "bench/GlassBench.h"
+#include "platform/qt/PictureItem.h"
 #include "platform/uikit/UITableViewCell.h"
 
 namespace leafund {
@@ -107,7 +108,7 @@ void showPictures(GlassBench& glass) {
         cell->imageView()->setImage(image);
       }
     });
-    glass.frame();
+    glass.waitUntil([&] { return PictureItem::areDrawn(glass.window()); });
   }
 }
 

@@ -19,14 +19,14 @@ runAddressSuites() {
   unset ASAN_OPTIONS UBSAN_OPTIONS
 }
 
-# What crosses from the session's thread to the main one, with every access to memory watched. Without
+# What crosses from the threads of fetches and pixels to the main one, with every access to memory watched. Without
 # a window: Qt Quick, which is not built for it, would tell of hundreds of races of its own.
 runThreadSuites() {
   enter tsan
   buildTree tsan "$folder" "platform_tests contract_headless_tests pictures_tests"
   export TSAN_OPTIONS=suppressions=$PWD/tests/tsan-suppressions.txt
   runSuite "tsan fetches" -L '^(platform|contract_headless|pictures)$' \
-    -R 'Session|MainQueue|Transfer'
+    -R 'Session|MainQueue|Transfer|PixelWorker'
   unset TSAN_OPTIONS
 }
 

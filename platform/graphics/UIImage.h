@@ -23,7 +23,7 @@ struct Drawing {
 };
 
 // A recipe, not pixels: a body whose header says it is a picture, or a drawing. The host makes the
-// pixels once, on the main thread, at the size at which they are drawn. Never changed once made.
+// pixels, at the size at which they are drawn and on any thread: it is never changed once made.
 class UIImage : public std::enable_shared_from_this<UIImage> {
  public:
   // Null for bytes that are no picture (see PictureHeader.h for the rule).

@@ -2,6 +2,7 @@
 
 #include <QImage>
 #include <QSize>
+#include <stop_token>
 #include <string_view>
 
 #include "platform/qt/ColourTransform.h"
@@ -23,12 +24,12 @@ inline constexpr long long kMostJpegWork = 600'000'000;
 
 // At a size that is no smaller than `enough`, in pixels, unless the picture is, and not much
 // larger. RGB32; grey where a body that was cut short says nothing.
-DecodedPicture decodeJpeg(std::string_view body, QSize enough);
+DecodedPicture decodeJpeg(std::string_view body, QSize enough, const std::stop_token& stop);
 
 // Whole, of an animation the first picture on its canvas. ARGB32; transparent where a body that was
 // cut short says nothing. `size` is what the header tells.
-DecodedPicture decodePng(std::string_view body);
-DecodedPicture decodeGif(std::string_view body);
+DecodedPicture decodePng(std::string_view body, const std::stop_token& stop);
+DecodedPicture decodeGif(std::string_view body, const std::stop_token& stop);
 DecodedPicture decodeWebP(std::string_view body, QSize size);
 
 }  // namespace leafund

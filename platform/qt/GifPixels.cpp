@@ -11,17 +11,24 @@ namespace {
 
 constexpr long long kMostPixels = kMostPictureBytes / 4;
 
+struct Source {
+  std::string_view body;
+  const std::stop_token& stop;
+};
+
+// Ends early when nobody waits any more, as a body that was cut short does.
 int readBody(GifFileType* gif, GifByteType* to, int count) {
-  auto& body = *static_cast<std::string_view*>(gif->UserData);
-  const auto taken = body.copy(reinterpret_cast<char*>(to), static_cast<std::size_t>(count));
-  body.remove_prefix(taken);
+  auto& source = *static_cast<Source*>(gif->UserData);
+  if (source.stop.stop_requested()) return 0;
+  const auto taken = source.body.copy(reinterpret_cast<char*>(to), static_cast<std::size_t>(count));
+  source.body.remove_prefix(taken);
   return static_cast<int>(taken);
 }
 
 class GifDecoder {
  public:
-  GifDecoder(const GifLibrary& library, std::string_view body)
-      : library_(library), body_(body), gif_(library.open(&body_, &readBody, nullptr)) {}
+  GifDecoder(const GifLibrary& library, std::string_view body, const std::stop_token& stop)
+      : library_(library), source_{body, stop}, gif_(library.open(&source_, &readBody, nullptr)) {}
   GifDecoder(const GifDecoder&) = delete;
   GifDecoder& operator=(const GifDecoder&) = delete;
   ~GifDecoder() {
@@ -115,16 +122,16 @@ class GifDecoder {
   }
 
   const GifLibrary& library_;
-  std::string_view body_;
+  Source source_;
   GifFileType* gif_;
   int clear_ = NO_TRANSPARENT_COLOR;
 };
 
 }  // namespace
 
-DecodedPicture decodeGif(std::string_view body) {
+DecodedPicture decodeGif(std::string_view body, const std::stop_token& stop) {
   const GifLibrary& library = GifLibrary::get();
-  return {library.isThere() ? GifDecoder(library, body).decode() : QImage(), {}};
+  return {library.isThere() ? GifDecoder(library, body, stop).decode() : QImage(), {}};
 }
 
 }  // namespace leafund

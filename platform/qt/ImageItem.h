@@ -23,6 +23,8 @@ class ImageItem : public QQuickItem {
   // Where the image lies: on the item, unless it reaches beyond it.
   virtual QRectF imageRect() const { return boundingRect(); }
   void repaint();
+  // The size of that image.
+  QSize pixelSize() const;
 
   void updatePolish() override;
   void geometryChange(const QRectF& now, const QRectF& before) override;
@@ -30,8 +32,6 @@ class ImageItem : public QQuickItem {
   QSGNode* updatePaintNode(QSGNode* node, UpdatePaintNodeData*) override;
 
  private:
-  QSize pixelSize() const;
-
   QImage image_;
   QSize paintedSize_;
   bool newImage_ = false;

@@ -57,7 +57,8 @@ void cmykToRgb32(unsigned char* row, unsigned width) {
 
 class JpegDecoder {
  public:
-  JpegDecoder(const JpegLibrary& jpeg, std::string_view body) : jpeg_(jpeg), picture_{} {
+  JpegDecoder(const JpegLibrary& jpeg, std::string_view body, const std::stop_token& stop)
+      : jpeg_(jpeg), stop_(stop), picture_{} {
     source_.manager.next_input_byte = reinterpret_cast<const JOCTET*>(body.data());
     source_.manager.bytes_in_buffer = body.size();
     source_.manager.init_source = [](j_decompress_ptr) {};
@@ -153,6 +154,7 @@ class JpegDecoder {
     const long long workOfARow = workOfSourceRows(1);
     int rowsOfNothing = 0;
     while (picture_.output_scanline < picture_.output_height) {
+      if (stop_.stop_requested()) return;
       if (!picture_.buffered_image && work_ > kMostJpegWork) return;
       // A body that is cut short still has what is left of its last blocks.
       if (source_.isUsedUp && !picture_.buffered_image && ++rowsOfNothing > mostRowsOfABlock()) {
@@ -173,7 +175,7 @@ class JpegDecoder {
   void readScans() {
     const long long workOfABlockRow = workOfSourceRows(8 * picture_.max_v_samp_factor);
     int state = JPEG_ROW_COMPLETED;
-    while (state != JPEG_REACHED_EOI && work_ <= kMostJpegWork) {
+    while (state != JPEG_REACHED_EOI && work_ <= kMostJpegWork && !stop_.stop_requested()) {
       state = jpeg_.consumeInput(&picture_);
       if (state == JPEG_ROW_COMPLETED || state == JPEG_SCAN_COMPLETED) work_ += workOfABlockRow;
     }
@@ -187,6 +189,7 @@ class JpegDecoder {
   int mostRowsOfABlock() const { return 8 * picture_.max_v_samp_factor; }
 
   const JpegLibrary& jpeg_;
+  const std::stop_token& stop_;
   jpeg_decompress_struct picture_;
   Errors errors_{};
   Source source_{};
@@ -197,9 +200,9 @@ class JpegDecoder {
 
 }  // namespace
 
-DecodedPicture decodeJpeg(std::string_view body, QSize enough) {
+DecodedPicture decodeJpeg(std::string_view body, QSize enough, const std::stop_token& stop) {
   const JpegLibrary& jpeg = JpegLibrary::get();
-  return jpeg.isThere() ? JpegDecoder(jpeg, body).decode(enough) : DecodedPicture{};
+  return jpeg.isThere() ? JpegDecoder(jpeg, body, stop).decode(enough) : DecodedPicture{};
 }
 
 }  // namespace leafund

@@ -1,46 +1,78 @@
 #include "platform/qt/PictureItem.h"
 
-#include <QPainter>
-#include <QPainterPath>
+#include <QQuickWindow>
 #include <algorithm>
-
-#include "platform/qt/PicturePixels.h"
+#include <utility>
 
 namespace leafund {
 
 void PictureItem::catchUp() {
   const auto& look = view()->look();
-  if (look.image == image_ && look.layer == layer_) return;
-  image_ = look.image;
-  layer_ = look.layer;
+  FramedPicture shown{.image = look.image, .mode = look.contentMode, .layer = look.layer};
+  if (shown == shown_) return;
+  shown_ = std::move(shown);
   repaint();
 }
 
+bool PictureItem::areDrawn(const QQuickWindow& window) { return areDrawnIn(*window.contentItem()); }
+
+bool PictureItem::areDrawnIn(const QQuickItem& root) {
+  if (!root.isVisible()) return true;
+  const auto* picture = qobject_cast<const PictureItem*>(&root);
+  return (picture == nullptr || picture->isDrawn()) &&
+         std::ranges::all_of(root.childItems(), [](const auto* item) { return areDrawnIn(*item); });
+}
+
+bool PictureItem::isDrawn() const {
+  const QSize pixels = pixelSize();
+  return pixels.isEmpty() || wanted(pixels, window()->effectiveDevicePixelRatio()) == drawn_;
+}
+
+FramedPicture PictureItem::wanted(QSize pixels, double scale) const {
+  FramedPicture picture = shown_;
+  picture.ground = ground();
+  picture.pixels = pixels;
+  picture.scale = scale;
+  return picture;
+}
+
 QImage PictureItem::paint(QSize pixels, double scale) {
-  const QRectF whole(QPointF(0, 0), pixels);
-  const double radius =
-      std::min(layer_.cornerRadius() * scale, std::min(whole.width(), whole.height()) / 2);
-  QPainterPath shape;
-  shape.addRoundedRect(whole, radius, radius);
-  QImage result(pixels, QImage::Format_ARGB32_Premultiplied);
-  result.fill(Qt::transparent);
-  QPainter painter(&result);
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(Qt::NoPen);
-  painter.fillPath(shape, ground());
-  const auto mode = view() ? view()->look().contentMode : UIViewContentMode::ScaleToFill;
-  const QImage picture = image_ ? picturePixels(*image_, pixels, mode) : QImage();
-  // As a brush: a clipped picture would have hard edges.
-  if (!picture.isNull()) painter.fillPath(shape, QBrush(picture));
-  const double border = layer_.borderWidth() * scale;
-  if (border > 0 && layer_.borderColor()) {
-    painter.setPen(QPen(qtColor(*layer_.borderColor()), border));
-    painter.setBrush(Qt::NoBrush);
-    const double inset = border / 2;
-    painter.drawRoundedRect(whole.adjusted(inset, inset, -inset, -inset), radius - inset,
-                            radius - inset);
+  const FramedPicture picture = wanted(pixels, scale);
+  if (picture == drawn_) {
+    ticket_ = {};
+  } else if (!picture.image) {
+    ticket_ = {};
+    draw(picture, painted(picture));
+  } else {
+    ask(picture);
+    if (drawing_.isNull()) drawing_ = painted(picture.withoutImage());
   }
-  return result;
+  return drawing_;
+}
+
+void PictureItem::ask(const FramedPicture& picture) {
+  if (!isVisible() || (ticket_.isOpen() && picture == asked_)) return;
+  asked_ = picture;
+  ticket_ = PixelWorker::of(*window()).ask(
+      [picture](const std::stop_token& stop) { return painted(picture, stop); },
+      [this](QImage image) {
+        ticket_ = {};
+        draw(asked_, image.isNull() ? painted(asked_.withoutImage()) : std::move(image));
+        repaint();
+      });
+}
+
+void PictureItem::draw(const FramedPicture& picture, QImage image) {
+  drawn_ = picture;
+  drawing_ = std::move(image);
+}
+
+void PictureItem::itemChange(ItemChange change, const ItemChangeData& data) {
+  if (change == ItemVisibleHasChanged && data.boolValue) repaint();
+  const bool isGone = (change == ItemVisibleHasChanged && !data.boolValue) ||
+                      (change == ItemSceneChange && data.window == nullptr);
+  if (isGone) ticket_ = {};
+  ViewImageItem::itemChange(change, data);
 }
 
 }  // namespace leafund

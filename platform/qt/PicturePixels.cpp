@@ -53,14 +53,15 @@ QImage scaledInSRgb(DecodedPicture decoded, QSize size) {
   return scaled;
 }
 
-DecodedPicture decoded(const std::string& body, const PictureHeader& header, QSize enough) {
+DecodedPicture decoded(const std::string& body, const PictureHeader& header, QSize enough,
+                       const std::stop_token& stop) {
   switch (header.format) {
     case PictureHeader::Format::JPEG:
-      return decodeJpeg(body, enough);
+      return decodeJpeg(body, enough, stop);
     case PictureHeader::Format::PNG:
-      return decodePng(body);
+      return decodePng(body, stop);
     case PictureHeader::Format::GIF:
-      return decodeGif(body);
+      return decodeGif(body, stop);
     case PictureHeader::Format::WebP:
       return decodeWebP(body, {header.width, header.height});
   }
@@ -102,7 +103,8 @@ void silenceQt() {
   });
 }
 
-QImage bodyPixels(const std::string& body, QSize pixels, UIViewContentMode mode) {
+QImage bodyPixels(const std::string& body, QSize pixels, UIViewContentMode mode,
+                  const std::stop_token& stop) {
   silenceQt();
   const auto header = readPictureHeader(body);
   if (!header) return {};
@@ -111,7 +113,9 @@ QImage bodyPixels(const std::string& body, QSize pixels, UIViewContentMode mode)
   const QSizeF whole = wholeSize({1.0 * own.width(), 1.0 * own.height()}, pixels, mode);
   const QSize size = decodedSize(whole, own);
   const QSize enough = header->isTurned() ? size.transposed() : size;
-  QImage picture = scaledInSRgb(decoded(body, *header, enough), enough);
+  const DecodedPicture found = decoded(body, *header, enough, stop);
+  if (stop.stop_requested()) return {};
+  QImage picture = scaledInSRgb(found, enough);
   if (picture.isNull()) return picture;
   picture = upright(std::move(picture), header->orientation);
   const bool isJpeg = header->format == PictureHeader::Format::JPEG;
@@ -125,15 +129,17 @@ bool isOnePicture(const Drawing& drawing) {
          drawing.strokes[0].rect == CGRect{0, 0, drawing.size.width, drawing.size.height};
 }
 
-QImage stretched(const UIImage& image, QSizeF size) {
-  return picturePixels(image, decodedSize(size, ownPixels(image)), UIViewContentMode::ScaleToFill);
+QImage stretched(const UIImage& image, QSizeF size, const std::stop_token& stop) {
+  return picturePixels(image, decodedSize(size, ownPixels(image)), UIViewContentMode::ScaleToFill,
+                       stop);
 }
 
-QImage drawingPixels(const Drawing& drawing, QSize pixels, UIViewContentMode mode) {
+QImage drawingPixels(const Drawing& drawing, QSize pixels, UIViewContentMode mode,
+                     const std::stop_token& stop) {
   if (drawing.size.width <= 0 || drawing.size.height <= 0) return {};
   const QSizeF whole = wholeSize(drawing.size, pixels, mode);
   if (isOnePicture(drawing)) {
-    return middle(stretched(*drawing.strokes[0].image, whole), whole, pixels);
+    return middle(stretched(*drawing.strokes[0].image, whole, stop), whole, pixels);
   }
   QImage canvas(pixels, QImage::Format_ARGB32_Premultiplied);
   if (canvas.isNull()) return canvas;
@@ -147,7 +153,7 @@ QImage drawingPixels(const Drawing& drawing, QSize pixels, UIViewContentMode mod
   for (const auto& stroke : drawing.strokes) {
     const CGRect& rect = stroke.rect;
     const QRectF target(rect.x * across, rect.y * down, rect.width * across, rect.height * down);
-    const QImage picture = stretched(*stroke.image, target.size());
+    const QImage picture = stretched(*stroke.image, target.size(), stop);
     if (!picture.isNull()) painter.drawImage(target, picture);
   }
   return canvas;
@@ -155,10 +161,11 @@ QImage drawingPixels(const Drawing& drawing, QSize pixels, UIViewContentMode mod
 
 }  // namespace
 
-QImage picturePixels(const UIImage& image, QSize pixels, UIViewContentMode mode) {
+QImage picturePixels(const UIImage& image, QSize pixels, UIViewContentMode mode,
+                     const std::stop_token& stop) {
   if (pixels.isEmpty()) return {};
-  return image.drawing() ? drawingPixels(*image.drawing(), pixels, mode)
-                         : bodyPixels(*image.body(), pixels, mode);
+  return image.drawing() ? drawingPixels(*image.drawing(), pixels, mode, stop)
+                         : bodyPixels(*image.body(), pixels, mode, stop);
 }
 
 }  // namespace leafund

@@ -2,6 +2,7 @@
 
 #include <QImage>
 #include <QSize>
+#include <stop_token>
 
 #include "platform/graphics/UIImage.h"
 #include "platform/uikit/UIImageView.h"
@@ -14,7 +15,9 @@ namespace leafund {
 // premultiplied ARGB32 for all else.
 //
 // Nothing larger than the picture itself or the size asked for is made on the way, and a JPEG is
-// decoded at a fraction of its size where that is enough. On the main thread only.
-QImage picturePixels(const UIImage& image, QSize pixels, UIViewContentMode mode);
+// decoded at a fraction of its size where that is enough. Soon after a stop was requested it
+// returns, with whatever there is. On any thread, but on one at a time.
+QImage picturePixels(const UIImage& image, QSize pixels, UIViewContentMode mode,
+                     const std::stop_token& stop = {});
 
 }  // namespace leafund

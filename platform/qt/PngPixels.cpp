@@ -11,6 +11,8 @@ namespace {
 
 class PngDecoder {
  public:
+  explicit PngDecoder(const std::stop_token& stop) : stop_(stop) {}
+
   DecodedPicture decode(std::string_view body) {
     png_ = png_create_read_struct(PNG_LIBPNG_VER_STRING, nullptr, nullptr, nullptr);
     if (png_ != nullptr) info_ = png_create_info_struct(png_);
@@ -95,10 +97,11 @@ class PngDecoder {
   }
 
   void take(png_bytep row, png_uint_32 y) {
-    if (bits_ == nullptr) png_longjmp(png_, 1);
+    if (bits_ == nullptr || stop_.stop_requested()) png_longjmp(png_, 1);
     if (row != nullptr) png_progressive_combine_row(png_, bits_ + y * stride_, row);
   }
 
+  const std::stop_token& stop_;
   png_structp png_ = nullptr;
   png_infop info_ = nullptr;
   DecodedPicture decoded_;
@@ -108,6 +111,8 @@ class PngDecoder {
 
 }  // namespace
 
-DecodedPicture decodePng(std::string_view body) { return PngDecoder().decode(body); }
+DecodedPicture decodePng(std::string_view body, const std::stop_token& stop) {
+  return PngDecoder(stop).decode(body);
+}
 
 }  // namespace leafund

@@ -9,6 +9,7 @@
 #include <stdexcept>
 
 #include "model/Catalogue.h"
+#include "platform/qt/PictureItem.h"
 #include "platform/qt/ViewObject.h"
 #include "platform/uikit/UITableView.h"
 #include "platform/uikit/UITableViewCell.h"
@@ -105,6 +106,7 @@ void StageApplication::settle() {
     int screens = 0;
     for (const auto* each : window().contentItem()->childItems()) screens += each->isVisible();
     if (screens != 1 || app_.page() == nullptr || page().x() != 0 || isAnimated()) return false;
+    if (!PictureItem::areDrawn(window())) return false;
     return pictures_ == Pictures::Silent || (hasAllPictures() && rowsHaveTheirOwnPictures());
   };
   window().grabWindow();  // lays out, which may begin an animation or show another picture

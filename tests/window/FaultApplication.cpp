@@ -1,10 +1,13 @@
 #include "tests/window/FaultApplication.h"
 
+#include <gtest/gtest.h>
+
 #include <QQuickItemGrabResult>
 #include <utility>
 
 #include "model/Catalogue.h"
 #include "platform/foundation/NSURLRequest.h"
+#include "platform/qt/PictureItem.h"
 #include "platform/qt/ViewObject.h"
 #include "platform/uikit/UITableView.h"
 #include "platform/uikit/UITableViewCell.h"
@@ -105,6 +108,7 @@ QQuickItem& FaultApplication::item() {
 
 // Of the item alone and not of the window, so that no slide need be waited for.
 QColor FaultApplication::colour() {
+  EXPECT_TRUE(window.waitUntil([&] { return PictureItem::areDrawn(window.window()); }));
   const auto grabbed = item().grabToImage();
   QImage image;
   QObject::connect(grabbed.get(), &QQuickItemGrabResult::ready, [&] { image = grabbed->image(); });

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <chrono>
-#include <ctime>
 
 #include "model/Catalogue.h"
 #include "platform/graphics/DrawingContext.h"
@@ -12,6 +11,7 @@
 #include "tests/support/PictureAnswersProtocol.h"
 #include "tests/window/FaultApplication.h"
 #include "tests/window/FaultBodies.h"
+#include "tests/window/HeldTime.h"
 
 namespace leafund {
 namespace {
@@ -21,13 +21,6 @@ using namespace std::chrono_literals;
 constexpr int kCampaigns = 200;
 constexpr double kRowHeight = 160;
 constexpr int kRowsAStep = 4;  // fewer than are in sight, so that none is passed over
-
-// The time that this thread alone has computed: what else the machine does is not in it.
-double computedMilliseconds() {
-  timespec time{};
-  clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-  return 1e3 * static_cast<double>(time.tv_sec) + 1e-6 * static_cast<double>(time.tv_nsec);
-}
 
 class FaultCrowdTest : public testing::Test {
  protected:

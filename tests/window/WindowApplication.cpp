@@ -10,6 +10,7 @@
 
 #include "model/Catalogue.h"
 #include "model/PictureHost.h"
+#include "platform/qt/PictureItem.h"
 #include "tests/support/PictureAnswers.h"
 #include "tests/support/ProjectPictures.h"
 #include "tests/support/ViewNamed.h"
@@ -92,8 +93,8 @@ void WindowApplication::settle() {
     if (shownPage == nullptr || shownPage->x() != 0) return false;
     int visible = 0;
     for (const auto* each : window().contentItem()->childItems()) visible += each->isVisible();
-    return visible == 1;
-  })) << "the slide does not end";
+    return visible == 1 && PictureItem::areDrawn(window());
+  })) << "a slide or the painting of a picture does not end";
   // One more frame: rows of controls are laid out when it is drawn.
   int frames = 0;
   QObject context;
