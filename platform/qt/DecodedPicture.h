@@ -2,6 +2,7 @@
 
 #include <QImage>
 #include <QSize>
+#include <cstddef>
 #include <stop_token>
 #include <string_view>
 
@@ -19,7 +20,10 @@ struct DecodedPicture {
 // machine. All that is made of one picture takes at most so many bytes; what would take more is
 // null.
 inline constexpr long long kMostPictureBytes = 256'000'000;
-// Each scan of a JPEG counts its pixels; behind so many of them the rest is left out.
+// All rows of a PNG, unpacked; one that has more is null.
+inline constexpr std::size_t kMostPngBytes = 350'000'000;
+// Each scan of a JPEG counts its pixels, and each byte counts as some; behind so many of them the
+// rest is left out.
 inline constexpr long long kMostJpegWork = 600'000'000;
 
 // At a size that is no smaller than `enough`, in pixels, unless the picture is, and not much

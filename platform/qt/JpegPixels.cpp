@@ -1,5 +1,6 @@
 #include <csetjmp>
 #include <cstdlib>
+#include <utility>
 
 #include "platform/qt/DecodedPicture.h"
 #include "platform/qt/JpegLibrary.h"
@@ -7,6 +8,10 @@
 namespace leafund {
 
 namespace {
+
+// What decoding a byte takes, in pixels of a scan without news: measured, and rounded.
+constexpr long long kWorkOfAByte = 4;
+constexpr long long kWorkOfAnArithmeticByte = 100;
 
 constexpr unsigned kGrey = 0xFF808080;
 // RGB32 is a number, whose bytes lie by the machine's order.
@@ -61,6 +66,7 @@ class JpegDecoder {
       : jpeg_(jpeg), stop_(stop), picture_{} {
     source_.manager.next_input_byte = reinterpret_cast<const JOCTET*>(body.data());
     source_.manager.bytes_in_buffer = body.size();
+    bytesLeft_ = body.size();
     source_.manager.init_source = [](j_decompress_ptr) {};
     source_.manager.fill_input_buffer = &endTheSource;
     source_.manager.skip_input_data = &skip;
@@ -152,6 +158,7 @@ class JpegDecoder {
     jpeg_.startDecompress(&picture_);
     if (picture_.buffered_image) readScans();
     const long long workOfARow = workOfSourceRows(1);
+    countBytes();
     int rowsOfNothing = 0;
     while (picture_.output_scanline < picture_.output_height) {
       if (stop_.stop_requested()) return;
@@ -164,6 +171,7 @@ class JpegDecoder {
       jpeg_.readScanlines(&picture_, &row, 1);
       hasRows_ = true;
       work_ += workOfARow * 8 / static_cast<int>(picture_.scale_num);
+      countBytes();
       if (!inksToSRgb_.isNone()) {
         inksToSRgb_.apply(reinterpret_cast<QRgb*>(row), picture_.output_width);
       } else if (isOfInks()) {
@@ -178,6 +186,7 @@ class JpegDecoder {
     while (state != JPEG_REACHED_EOI && work_ <= kMostJpegWork && !stop_.stop_requested()) {
       state = jpeg_.consumeInput(&picture_);
       if (state == JPEG_ROW_COMPLETED || state == JPEG_SCAN_COMPLETED) work_ += workOfABlockRow;
+      countBytes();
     }
     // A scan that is shown while it comes would be read to its end.
     const bool isWhole = state == JPEG_REACHED_EOI;
@@ -185,6 +194,12 @@ class JpegDecoder {
     jpeg_.startOutput(&picture_, isWhole || scan <= 1 ? scan : scan - 1);
   }
 
+  // Those that were read since it was last asked. Once the source is used up there are no more.
+  void countBytes() {
+    const std::size_t left = source_.isUsedUp ? 0 : source_.manager.bytes_in_buffer;
+    const auto read = static_cast<long long>(std::exchange(bytesLeft_, left) - left);
+    work_ += read * (picture_.arith_code ? kWorkOfAnArithmeticByte : kWorkOfAByte);
+  }
   long long workOfSourceRows(int rows) const { return 1LL * rows * picture_.image_width; }
   int mostRowsOfABlock() const { return 8 * picture_.max_v_samp_factor; }
 
@@ -194,6 +209,7 @@ class JpegDecoder {
   Errors errors_{};
   Source source_{};
   ColourTransform inksToSRgb_;
+  std::size_t bytesLeft_ = 0;
   long long work_ = 0;
   bool hasRows_ = false;
 };

@@ -113,8 +113,12 @@ QImage bodyPixels(const std::string& body, QSize pixels, UIViewContentMode mode,
   const QSizeF whole = wholeSize({1.0 * own.width(), 1.0 * own.height()}, pixels, mode);
   const QSize size = decodedSize(whole, own);
   const QSize enough = header->isTurned() ? size.transposed() : size;
-  const DecodedPicture found = decoded(body, *header, enough, stop);
+  DecodedPicture found = decoded(body, *header, enough, stop);
   if (stop.stop_requested()) return {};
+  // In its place: scaling would do it in a copy of the whole.
+  if (found.pixels.hasAlphaChannel()) {
+    found.pixels.convertTo(QImage::Format_ARGB32_Premultiplied);
+  }
   QImage picture = scaledInSRgb(found, enough);
   if (picture.isNull()) return picture;
   picture = upright(std::move(picture), header->orientation);

@@ -37,6 +37,7 @@ class PngDecoder {
         [](png_structp png, png_bytep row, png_uint_32 y, int) { of(png).take(row, y); },
         [](png_structp, png_infop) {});
     png_set_user_limits(png_, 0xFFFF, 0xFFFF);
+    png_set_chunk_cache_max(png_, 1);  // no words, which may be gigabytes when unpacked
     auto* bytes = reinterpret_cast<png_const_bytep>(body.data());
     png_process_data(png_, info_, const_cast<png_bytep>(bytes), body.size());
   }
@@ -44,6 +45,9 @@ class PngDecoder {
   // The header is read, and all that stands before the pixels. Nothing here may be left by a jump
   // while it owns something.
   void begin() {
+    const auto bytes =
+        png_get_rowbytes(png_, info_) * static_cast<std::size_t>(png_get_image_height(png_, info_));
+    if (bytes > kMostPngBytes) png_longjmp(png_, 1);
     decoded_.toSRgb = toSRgb();
     png_set_expand(png_);  // Colours by number, few bits and a colour that is clear.
     png_set_scale_16(png_);

@@ -15,6 +15,7 @@ constexpr WEBP_CSP_MODE kArgb32 = Q_BYTE_ORDER == Q_LITTLE_ENDIAN ? MODE_BGRA : 
 struct Chunks {
   std::string_view profile;
   std::string_view firstFrame;  // Empty when nothing moves.
+  bool isLossy = true;          // Without a lossless part, which an alpha channel is, too.
 };
 
 Chunks chunksOf(std::string_view body) {
@@ -28,14 +29,20 @@ Chunks chunksOf(std::string_view body) {
     const std::string_view data = bytes.takeUpTo(length);
     if (name == "ICCP") found.profile = data;
     if (name == "ANMF") found.firstFrame = data;
+    if (name == "VP8L" || name == "ALPH") found.isLossy = false;
     bytes.takeUpTo(length % 2);
   }
   return found;
 }
 
+// What is taken for a pixel: the result, and what libwebp keeps beside it, which is a few rows of
+// lossy pixels and all of lossless ones (406 MB for 48 megapixels, 207 MB for as many lossy ones).
+constexpr int kLossyBytes = 5;
+constexpr int kLosslessBytes = 9;
+
 // What can be made of the bytes, which are transparent where they are cut short.
-QImage stillPixels(const WebPLibrary& webp, std::string_view bytes, QSize size) {
-  if (4LL * size.width() * size.height() > kMostPictureBytes) return {};
+QImage stillPixels(const WebPLibrary& webp, std::string_view bytes, QSize size, int bytesAPixel) {
+  if (1LL * bytesAPixel * size.width() * size.height() > kMostPictureBytes) return {};
   QImage pixels(size, QImage::Format_ARGB32);
   if (pixels.isNull()) return {};
   pixels.fill(Qt::transparent);
@@ -59,9 +66,10 @@ QImage framePixels(const WebPLibrary& webp, std::string_view frame, QSize canvas
   bytes.take(4);  // how long it is seen, and what becomes of it
   const QRect place(x, y, width, height);
   const bool isInside = bytes.good() && QRect(QPoint(), canvasSize).contains(place);
-  if (!isInside || 4LL * canvasSize.width() * canvasSize.height() > kMostPictureBytes / 2)
+  if (!isInside ||
+      (4LL + kLosslessBytes) * canvasSize.width() * canvasSize.height() > kMostPictureBytes)
     return {};
-  const QImage pixels = stillPixels(webp, bytes.take(bytes.left()), place.size());
+  const QImage pixels = stillPixels(webp, bytes.take(bytes.left()), place.size(), kLosslessBytes);
   QImage canvas(canvasSize, QImage::Format_ARGB32);
   if (pixels.isNull() || canvas.isNull()) return {};
   canvas.fill(Qt::transparent);
@@ -74,10 +82,11 @@ QImage framePixels(const WebPLibrary& webp, std::string_view frame, QSize canvas
 DecodedPicture decodeWebP(std::string_view body, QSize size) {
   const WebPLibrary& webp = WebPLibrary::get();
   if (!webp.isThere()) return {};
-  const auto [profile, firstFrame] = chunksOf(body);
+  const auto [profile, firstFrame, isLossy] = chunksOf(body);
   DecodedPicture decoded;
-  decoded.pixels =
-      firstFrame.empty() ? stillPixels(webp, body, size) : framePixels(webp, firstFrame, size);
+  decoded.pixels = firstFrame.empty()
+                       ? stillPixels(webp, body, size, isLossy ? kLossyBytes : kLosslessBytes)
+                       : framePixels(webp, firstFrame, size);
   if (!profile.empty()) {
     decoded.toSRgb = ColourTransform::ofProfile(profile, ColourTransform::Pixels::Colours);
   }

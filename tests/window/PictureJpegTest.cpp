@@ -119,6 +119,30 @@ TEST(PictureJpegTest, ScansWithoutAnEndTakeBoundedTime) {
   EXPECT_LT(many, 2 * few + 0.1);
 }
 
+TEST(PictureJpegTest, ArithmeticCodesTakeBoundedTime) {
+  const QSize size{3000, 2000};
+  jpegbytes::Row noise(3UL * static_cast<std::size_t>(size.width()));
+  const auto rowOf = [&](int) -> jpegbytes::Row& {
+    for (auto& byte : noise) byte = static_cast<unsigned char>(std::rand());
+    return noise;
+  };
+  // Eighteen megabytes, which took three seconds and more.
+  const std::string body = written({size, rowOf, [](auto& picture) {
+                                      picture.arith_code = TRUE;
+                                      picture.comp_info[0].h_samp_factor = 1;
+                                      picture.comp_info[0].v_samp_factor = 1;
+                                      jpeg_set_quality(&picture, 100, TRUE);
+                                    }});
+  const double start = processorSeconds();
+
+  EXPECT_FALSE(drawn(body).isNull());
+
+  const double seconds = processorSeconds() - start;
+  RecordProperty("seconds", std::to_string(seconds));
+  RecordProperty("bytes", std::to_string(body.size()));
+  EXPECT_LT(seconds, 2);
+}
+
 TEST(PictureJpegTest, ASmallBodyThatClaimsTheLargestSizeIsSoonDrawn) {
   std::string body = quadrantJpeg({64, 64}, [](auto&) {});
   body.replace(body.find("\xFF\xC0") + 5, 4, "\xFF\xFF\xFF\xFF");

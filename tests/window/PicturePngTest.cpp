@@ -1,6 +1,7 @@
 #include <zlib.h>
 
 #include <QColorSpace>
+#include <fstream>
 #include <vector>
 
 #include "tests/platform/PictureBytes.h"
@@ -50,6 +51,42 @@ TEST(PicturePngTest, AClearColourOf16BitsIsClearAndTheOneBesideItIsNot) {
       ASSERT_TRUE(shows(image, x, y, colour, 1));
     }
   }
+}
+
+// In megabytes, the most there has been.
+long mostMemory() {
+  std::ifstream status("/proc/self/status");
+  std::string word;
+  while (status >> word && word != "VmHWM:") continue;
+  long kilobytes = 0;
+  status >> kilobytes;
+  return kilobytes / 1024;
+}
+
+TEST(PicturePngTest, WordsAreNotUnpacked) {
+  // 480 MB of words in half a megabyte.
+  const std::string words = std::string("k\0\0", 3) + packed(std::string(7'500'000, 'x'));
+  std::string body = *written(quadrants({64, 64}), "png");
+  std::string all;
+  for (int each = 0; each < 64; ++each) all += chunk("zTXt", words);
+  body.insert(body.find("IDAT") - 4, all);
+  const long before = mostMemory();
+
+  expectQuadrants(drawn(body, {64, 64}));
+
+  EXPECT_LT(mostMemory() - before, 64);
+}
+
+TEST(PicturePngTest, RowsOfMoreThan350MegabytesAreBlank) {
+  std::string body = *written(quadrants({64, 64}), "png");
+  // Sixteen bits a channel, four channels: 400 MB.
+  const std::string header = big32(10'000) + big32(5'000) + byte(16) + byte(6);
+  body.replace(8, 25, chunk("IHDR", header + std::string(3, '\0')));
+  const long before = mostMemory();
+
+  EXPECT_TRUE(drawn(body, {64, 64}).isNull());
+
+  EXPECT_LT(mostMemory() - before, 64);
 }
 
 TEST(PicturePngTest, EveryKindThatQtWritesIsDrawn) {
