@@ -22,8 +22,7 @@ struct Press {
 class PressSeries {
  public:
   // To be told of every press before anything comes of it. True when it is part of an earlier one
-  // that changed the top screen. `interval` is that of a double click, in milliseconds; with 0 no
-  // press continues another but the repeat of a held key.
+  // that changed the top screen. `interval` is that of a double click, in milliseconds.
   bool continues(const Press& press, int interval);
   // A key was let go. A window system that tells a held key as many short presses lets each go at
   // the moment of the next.

@@ -169,10 +169,7 @@ bool QtWindow::takePress(QEvent& event) {
 bool QtWindow::takeKey(QKeyEvent& key) {
   usedByKeys_ = true;
   const Press press{nullptr, key.key(), key.timestamp(), {}, 0, key.isAutoRepeat()};
-  // Whoever presses a key twice to go back means two screens; only while it is held it is one
-  // press.
-  const int interval =
-      leadsBack(key) ? 0 : QGuiApplication::styleHints()->mouseDoubleClickInterval();
+  const int interval = QGuiApplication::styleHints()->mouseDoubleClickInterval();
   return keys_.continues(press, interval) && presses(key);
 }
 

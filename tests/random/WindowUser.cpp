@@ -149,13 +149,11 @@ void WindowUser::longPress(QPointF where, Chance& how) {
 
 void WindowUser::pressKeys(int key, int count, int repeats, Chance& how) {
   const Top before = top();
-  // Of the keys that lead back each press counts, however soon.
-  const bool leadsBack = key == Qt::Key_Escape || key == Qt::Key_Back || key == Qt::Key_Left;
-  const bool late = !leadsBack && lastKey_.soonAfter(hand_.now(), {}) && lastKey_.key == key;
+  const bool late = lastKey_.soonAfter(hand_.now(), {}) && lastKey_.key == key;
   const QString text = key == Qt::Key_Space ? " " : "";
   const auto modifiers = key == Qt::Key_Left ? Qt::AltModifier : Qt::NoModifier;
   for (int press = 0; press < count; ++press) {
-    const auto place = leadsBack || top() == before ? placeInFocus(key) : Place{};
+    const auto place = top() == before ? placeInFocus(key) : Place{};
     hand_.keyDown(key, text, modifiers);
     expect(place, late, "a key");
     for (int each = 0; each < repeats; ++each) {

@@ -52,25 +52,6 @@ TEST_F(GlassKeyPressTest, AKeyThatIsHeldLeavesOneScreenHoweverItsRepeatsAreTold)
   EXPECT_EQ(screen(), "FundCampaignVC");
 }
 
-TEST_F(GlassKeyPressTest, TwoQuickPressesOfAKeyThatLeadsBackLeaveTwoScreens) {
-  signIn();
-  click("fundedTab");
-  for (const auto& [back, with] :
-       {std::pair{Qt::Key_Escape, Qt::NoModifier}, std::pair{Qt::Key_Back, Qt::NoModifier},
-        std::pair{Qt::Key_Left, Qt::AltModifier}}) {
-    click("Funded-0");
-    click("campaignUpdates");
-    for (int i = 0; i < 2; ++i) {
-      key(back, QEvent::KeyPress, false, with);
-      pass(60);
-      key(back, QEvent::KeyRelease, false, with);
-      pass(60);
-    }
-    EXPECT_EQ(screen(), "FundCampaignVC") << back;
-    pass(500);
-  }
-}
-
 TEST_F(GlassKeyPressTest, ReturnPressedTwicePressesOneButton) {
   openCampaign();
   type("dollarAmountField", "1");
