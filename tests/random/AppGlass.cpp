@@ -193,7 +193,7 @@ void AppUnderTest::describe(Sheet& sheet) {
       sheet.screen({.className = tab->className(),
                     .barTitle = tab->navigationItem().title(),
                     .hidesBack = tab->navigationItem().hidesBackButton(),
-                    .tabOnScreen = tab->viewIfLoaded()->superview() == tabs.get(),
+                    .tabOnScreen = tab->viewIfLoaded()->superview() != nullptr,
                     .y = frame.y,
                     .width = frame.width,
                     .height = frame.height});
