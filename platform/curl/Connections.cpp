@@ -50,9 +50,11 @@ void Connections::judge(Host& host) {
   if (heard == Heard::End) host.manners = Manners::Unknown;
 }
 
-bool Connections::isWatching(const std::string& host) const {
+std::optional<Connections::Clock::time_point> Connections::watchedUntil(
+    const std::string& host) const {
   const auto found = hosts_.find(host);
-  return found != hosts_.end() && found->second.manners == Manners::Watched;
+  if (found == hosts_.end() || found->second.manners != Manners::Watched) return std::nullopt;
+  return found->second.since + quiet_;
 }
 
 bool Connections::isLoud(const std::string& host) const {

@@ -4,6 +4,7 @@
 
 #include <chrono>
 #include <map>
+#include <optional>
 #include <string>
 
 namespace leafund {
@@ -30,8 +31,9 @@ class Connections {
 
   // For the next fetch from that host, an origin. After `Watched`, hadAnswer() must follow.
   Use nextUse(const std::string& host);
-  // Has a watched connection open on which nothing is asked now.
-  bool isWatching(const std::string& host) const;
+  // While a connection is open on which nothing is asked, to see what comes behind the answer: when
+  // the next use may be another one.
+  std::optional<Clock::time_point> watchedUntil(const std::string& host) const;
   // The fetch over the watched connection has ended; CURL_SOCKET_BAD where it is not open any more.
   void hadAnswer(const std::string& host, curl_socket_t watched);
   // For a host that has sent a byte too many: its connections are not used again.

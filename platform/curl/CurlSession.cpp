@@ -94,16 +94,18 @@ void CurlSession::refuseAdded(const std::string& reason) {
 bool CurlSession::beginAdded() {
   std::vector<Fetch> added;
   if (!takeAdded(added)) return false;
+  // Those added together are idle together: none that waits is asked because another gave up.
+  const auto now = CurlHandle::Clock::now();
   for (Fetch& fetch : added) {
     fetch.address = WebAddress::read(*curl_, fetch.text);
-    begin(std::move(fetch));
+    begin(std::move(fetch), now);
   }
   return true;
 }
 
-void CurlSession::begin(Fetch fetch) {
+void CurlSession::begin(Fetch fetch, CurlHandle::Clock::time_point now) {
   if (!fetch.address) return fail(fetch, "no http or https address");
-  fetch.begun = CurlHandle::Clock::now();
+  fetch.begun = now;
   Line& line = lines_[fetch.address->origin()];
   line.waiting.push_back(std::move(fetch));
   advance(line);
@@ -112,7 +114,9 @@ void CurlSession::begin(Fetch fetch) {
 void CurlSession::advance(Line& line) {
   while (!line.waiting.empty()) {
     const std::string host = line.waiting.front().address->origin();
-    if (line.underWay + (connections_.isWatching(host) ? 1 : 0) >= kMostConnections) return;
+    const auto watched = connections_.watchedUntil(host);
+    const bool isOneWatched = watched && *watched > CurlHandle::Clock::now();
+    if (line.underWay + (isOneWatched ? 1 : 0) >= kMostConnections) return;
     Fetch fetch = std::move(line.waiting.front());
     line.waiting.pop_front();
     fetch.handle = takeHandle();
@@ -187,7 +191,7 @@ void CurlSession::complete(Fetch fetch) {
   if (spare_.size() < kMostConnections) spare_.push_back(std::move(fetch.handle));
   if (!location) return fetch.completion(std::move(body), response, std::nullopt);
   fetch.address = fetch.address->target(*curl_, *location);
-  begin(std::move(fetch));
+  begin(std::move(fetch), CurlHandle::Clock::now());
 }
 
 int CurlSession::endIdle() {
@@ -203,6 +207,13 @@ int CurlSession::endIdle() {
     while (!line.waiting.empty() && isLate(line.waiting.front().begun)) {
       late.push_back(std::move(line.waiting.front()));
       line.waiting.pop_front();
+    }
+    const auto watched = connections_.watchedUntil(origin);
+    if (line.waiting.empty() || !watched) continue;
+    if (*watched > now) {
+      next = std::min(next, *watched);
+    } else {
+      advance(line);
     }
   }
   std::vector<CURL*> silent;

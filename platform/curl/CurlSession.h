@@ -56,7 +56,7 @@ class CurlSession {
   void refuseAdded(const std::string& reason);
   // Why there is none; empty when it is open.
   std::string openNetwork();
-  void begin(Fetch fetch);
+  void begin(Fetch fetch, CurlHandle::Clock::time_point now);
   void advance(Line& line);
   std::unique_ptr<CurlHandle> takeHandle();
   void endReady();
