@@ -176,14 +176,6 @@ prepareWalk() {
   unset WAYLAND_DISPLAY
 }
 
-# A virtual screen of a phone's size.
-openScreen() {
-  start Xvfb -displayfd 3 -screen 0 390x844x24 -nolisten tcp 3>"$state/display" 2>"$state/screen.log"
-  written "$state/display" "the virtual screen"
-  DISPLAY=:$(<"$state/display")
-  export DISPLAY
-}
-
 # Names and places of controls come over the accessibility bus; a private one, so that no other
 # program's windows are on it.
 openBuses() {
