@@ -4,6 +4,7 @@
 #include <QIcon>
 #include <QInputMethod>
 #include <QKeyEvent>
+#include <QPixmapCache>
 #include <QPointingDevice>
 #include <QResizeEvent>
 #include <QScreen>
@@ -88,6 +89,8 @@ class WithoutDoubleTaps {
 }  // namespace
 
 QtWindow::QtWindow() {
+  // Qt would keep the icon's pixmaps, and wake up half a minute later to let them go.
+  QPixmapCache::setCacheLimit(0);
   setTitle(QStringLiteral("Leafund"));
   // No minimum size: a maximised or fullscreen state may be smaller than any, and a window larger
   // than its state is an error that ends a Wayland connection.
