@@ -1,5 +1,7 @@
 #include "platform/qt/QtHost.h"
 
+#include <malloc.h>
+
 #include <QFontDatabase>
 #include <QGuiApplication>
 #include <QQmlEngine>
@@ -65,7 +67,13 @@ QFont typeface() {
 
 }  // namespace
 
-QtHost::QtHost(int argc, char** argv) : argc_(argc), argv_(argv) {}
+QtHost::QtHost(int argc, char** argv) : argc_(argc), argv_(argv) {
+#ifdef M_ARENA_MAX
+  // Where addresses are short, a heap a thread (64 MB and more of them) leaves none for a thread
+  // that Qt paints with and waits for: with 400 MB the window froze.
+  mallopt(M_ARENA_MAX, 2);
+#endif
+}
 
 QtHost::~QtHost() { stop(); }
 
