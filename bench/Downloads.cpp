@@ -7,7 +7,7 @@
 #include <QFile>
 
 #include "bench/Figures.h"
-#include "bench/GlassBench.h"
+#include "bench/WindowBench.h"
 #include "platform/graphics/DrawingContext.h"
 #include "platform/qt/PictureItem.h"
 #include "platform/uikit/UITableViewCell.h"
@@ -73,10 +73,10 @@ double byCurl(const PictureServer& server) {
 // window draws when Qt lets it, as it does for a user: more frames than those nobody would see.
 class Fling {
  public:
-  Fling(GlassBench& glass, const PictureServer& server)
-      : glass_(glass), asked_(server.requests().size()), drawn_(drawingContextCount()) {
-    const double lowest = glass.table()->greatestOffset();
-    for (double offset = 0; offset < lowest; offset += glass.list().height()) move(offset);
+  Fling(WindowBench& window, const PictureServer& server)
+      : window_(window), asked_(server.requests().size()), drawn_(drawingContextCount()) {
+    const double lowest = window.table()->greatestOffset();
+    for (double offset = 0; offset < lowest; offset += window.list().height()) move(offset);
     move(lowest);
   }
 
@@ -87,43 +87,43 @@ class Fling {
   }
 
   void end(const PictureServer& server) {
-    glass_.waitUntil([&] { return receive(); });
-    glass_.frame();
+    window_.waitUntil([&] { return receive(); });
+    window_.frame();
     demand(drawingContextCount() == drawn_ + kPictures, "each picture was set once");
     demand(server.requests().size() == asked_ + kPictures, "and fetched once");
   }
 
  private:
   void move(double offset) {
-    glass_.scrollTo(offset);
+    window_.scrollTo(offset);
     receive();
   }
 
-  GlassBench& glass_;
+  WindowBench& window_;
   std::size_t asked_;
   std::size_t drawn_;
 };
 
 // A frame of the list a few pixels to and fro, so that no further row is shown.
-double frameNearTheEnd(GlassBench& glass) {
+double frameNearTheEnd(WindowBench& window) {
   static int count = 0;
   constexpr double nearby = 20;
-  const double offset = glass.table()->greatestOffset() - (++count % 2 == 0 ? 0 : nearby);
+  const double offset = window.table()->greatestOffset() - (++count % 2 == 0 ? 0 : nearby);
   return secondsOf([&] {
-    glass.scrollTo(offset);
-    glass.frame();
+    window.scrollTo(offset);
+    window.frame();
   });
 }
 
 // Frames while pictures are on their way, slowly, of which none was set since the frame before.
-std::vector<double> framesBetweenPictures(GlassBench& glass, PictureServer& server) {
+std::vector<double> framesBetweenPictures(WindowBench& window, PictureServer& server) {
   serve(server, std::chrono::milliseconds(40));
   std::vector<double> times;
-  Fling fling(glass, server);
+  Fling fling(window, server);
   for (bool all = false; !all;) {
     const std::size_t before = drawingContextCount();
     all = fling.receive();
-    const double seconds = frameNearTheEnd(glass);
+    const double seconds = frameNearTheEnd(window);
     if (!all && drawingContextCount() == before) times.push_back(seconds);
   }
   fling.end(server);
@@ -131,48 +131,48 @@ std::vector<double> framesBetweenPictures(GlassBench& glass, PictureServer& serv
   return times;
 }
 
-void checkThatPicturesAreSeen(GlassBench& glass, const PictureServer& server) {
-  Fling fling(glass, server);
+void checkThatPicturesAreSeen(WindowBench& window, const PictureServer& server) {
+  Fling fling(window, server);
   fling.end(server);
-  glass.waitUntil([&] { return PictureItem::areDrawn(glass.window()); });
-  const QImage with = glass.picture();
-  for (const auto& [row, cell] : glass.table()->visibleCells()) {
+  window.waitUntil([&] { return PictureItem::areDrawn(window.window()); });
+  const QImage with = window.picture();
+  for (const auto& [row, cell] : window.table()->visibleCells()) {
     demand(cell->imageView()->image() != nullptr, "the row has its picture");
-    glass.application->turn([&] { cell->imageView()->setImage(nullptr); });
+    window.application->turn([&] { cell->imageView()->setImage(nullptr); });
   }
-  glass.frame();
-  const auto top = static_cast<int>(glass.list().mapToScene({0, 0}).y());
-  const int below = static_cast<int>(glass.list().height()) - 160 + top;
+  window.frame();
+  const auto top = static_cast<int>(window.list().mapToScene({0, 0}).y());
+  const int below = static_cast<int>(window.list().height()) - 160 + top;
   const QRect lastRow(16, below, 80, 160);
-  demand(glass.picture().copy(lastRow) != with.copy(lastRow), "and it is seen");
+  demand(window.picture().copy(lastRow) != with.copy(lastRow), "and it is seen");
 }
 
 int run(int argc, char** argv) {
   Figures figures(argc, argv);
-  GlassBench glass;
+  WindowBench window;
   PictureServer server;  // After the application object, without which its thread never rests.
   serve(server, {});
   resizeList(otherCampaigns(), kPictures);
   for (std::size_t i = 0; i < kPictures; ++i) {
     otherCampaigns()[i]->setPhoto(server.address(nameOf(i)));
   }
-  glass.signIn();
-  const std::size_t shown = glass.table()->visibleCells().size();
-  glass.waitUntil([&] { return drawingContextCount() == shown; });
-  glass.scrollTo(glass.table()->greatestOffset());
-  glass.waitUntil([&] { return drawingContextCount() == 2 * shown; });
-  checkThatPicturesAreSeen(glass, server);
+  window.signIn();
+  const std::size_t shown = window.table()->visibleCells().size();
+  window.waitUntil([&] { return drawingContextCount() == shown; });
+  window.scrollTo(window.table()->greatestOffset());
+  window.waitUntil([&] { return drawingContextCount() == 2 * shown; });
+  checkThatPicturesAreSeen(window, server);
   for (int round = 0; round < 15; ++round) {
     figures.add("curl_ms", byCurl(server) * 1e3);
     double mainThread = 0;
     const double whole =
-        wallSecondsOf([&] { mainThread = secondsOf([&] { Fling(glass, server).end(server); }); });
+        wallSecondsOf([&] { mainThread = secondsOf([&] { Fling(window, server).end(server); }); });
     figures.add("ours_ms", whole * 1e3);
     figures.add("of_it_main_thread_ms", mainThread * 1e3);
-    for (const double seconds : framesBetweenPictures(glass, server)) {
+    for (const double seconds : framesBetweenPictures(window, server)) {
       figures.add("busy_ms", seconds * 1e3);
     }
-    for (int frame = 0; frame < 50; ++frame) figures.add("idle_ms", frameNearTheEnd(glass) * 1e3);
+    for (int frame = 0; frame < 50; ++frame) figures.add("idle_ms", frameNearTheEnd(window) * 1e3);
   }
   return 0;
 }

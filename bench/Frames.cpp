@@ -10,7 +10,7 @@
 #include <memory>
 
 #include "bench/Figures.h"
-#include "bench/GlassBench.h"
+#include "bench/WindowBench.h"
 #include "platform/qt/PictureItem.h"
 #include "platform/uikit/UITableViewCell.h"
 
@@ -96,19 +96,19 @@ class PaintedList {
 };
 
 // Every cell of the pool has got its picture; from now on none comes.
-void showPictures(GlassBench& glass) {
+void showPictures(WindowBench& window) {
   QFile file(QStringLiteral(LEAFUND_PICTURES_DIR "/biking-to-work.jpg"));
   demand(file.open(QFile::ReadOnly), "the picture is there");
   const auto body = std::make_shared<const std::string>(file.readAll().toStdString());
   const auto image = UIImage::initWithData(body);
   for (int frame = 0; frame < 40; ++frame) {
-    glass.scrollTo(frame * kStep);
-    glass.application->turn([&] {
-      for (const auto& [row, cell] : glass.table()->visibleCells()) {
+    window.scrollTo(frame * kStep);
+    window.application->turn([&] {
+      for (const auto& [row, cell] : window.table()->visibleCells()) {
         cell->imageView()->setImage(image);
       }
     });
-    glass.waitUntil([&] { return PictureItem::areDrawn(glass.window()); });
+    window.waitUntil([&] { return PictureItem::areDrawn(window.window()); });
   }
 }
 
@@ -124,34 +124,34 @@ QImage framedPicture() {
 }
 
 // The frame shows the rows: what was at one place is at another after scrolling.
-void checkThatItScrolls(GlassBench& glass) {
-  glass.scrollTo(16'000);
-  glass.frame();
-  const QImage before = glass.picture();
-  glass.scrollTo(16'000 + kStep);
-  glass.frame();
-  const QImage after = glass.picture();
-  const auto top = static_cast<int>(glass.list().mapToScene({0, 0}).y());
+void checkThatItScrolls(WindowBench& window) {
+  window.scrollTo(16'000);
+  window.frame();
+  const QImage before = window.picture();
+  window.scrollTo(16'000 + kStep);
+  window.frame();
+  const QImage after = window.picture();
+  const auto top = static_cast<int>(window.list().mapToScene({0, 0}).y());
   // The second whole row's picture, without its edges.
   const QRect there(20, top + 210, 57, 57);
   demand(before.copy(there) == after.copy(there.translated(0, -kStep)), "the rows move by a step");
   demand(before.copy(there) != after.copy(there), "and do not stay");
   // Rows that show what they showed earlier would be fast, and wrong.
-  glass.scrollTo(48'000);
-  glass.frame();
-  demand(glass.picture() != before, "other rows have other titles");
-  glass.scrollTo(16'000);
-  glass.frame();
-  demand(glass.picture() == before, "the same rows look the same again");
+  window.scrollTo(48'000);
+  window.frame();
+  demand(window.picture() != before, "other rows have other titles");
+  window.scrollTo(16'000);
+  window.frame();
+  demand(window.picture() == before, "the same rows look the same again");
 }
 
-std::vector<double> framesOfOurs(GlassBench& glass) {
+std::vector<double> framesOfOurs(WindowBench& window) {
   std::vector<double> times;
   for (int frame = 0; frame < kFrames; ++frame) {
     QCoreApplication::processEvents();  // what was posted is no part of the frame
     times.push_back(secondsOf([&] {
-      glass.scrollTo(16'000 + frame * kStep);
-      glass.frame();
+      window.scrollTo(16'000 + frame * kStep);
+      window.frame();
     }));
   }
   return times;
@@ -168,17 +168,17 @@ std::vector<double> framesOfTheLimit(PaintedList& painted) {
 int run(int argc, char** argv) {
   Figures figures(argc, argv);
   resizeList(otherCampaigns(), kRows);
-  GlassBench glass;
-  glass.signIn();
-  showPictures(glass);
-  checkThatItScrolls(glass);
-  const auto& list = glass.list();
+  WindowBench window;
+  window.signIn();
+  showPictures(window);
+  checkThatItScrolls(window);
+  const auto& list = window.list();
   QImage card(QSize(static_cast<int>(list.width()), kRowHeight), QImage::Format_RGB32);
   card.fill(Qt::white);
   const QImage picture = framedPicture();
   PaintedList painted(list.size().toSize(), card, picture);
   for (int round = 0; round < 5; ++round) {
-    const auto ours = framesOfOurs(glass);
+    const auto ours = framesOfOurs(window);
     const auto limit = framesOfTheLimit(painted);
     figures.add("ours_median_ms", median(ours) * 1e3);
     figures.add("ours_p99_ms", quantile(ours, 0.99) * 1e3);

@@ -11,7 +11,7 @@
 #include <fstream>
 
 #include "bench/Figures.h"
-#include "bench/GlassBench.h"
+#include "bench/WindowBench.h"
 #include "platform/graphics/DrawingContext.h"
 #include "tests/support/PictureAnswers.h"
 
@@ -60,28 +60,28 @@ int run(int argc, char** argv) {
   Figures figures(argc, argv);
   resizeList(otherCampaigns(), kRows);
   for (const auto& campaign : otherCampaigns()) campaign->setPhoto(picture);
-  GlassBench glass;
-  glass.frame();
+  WindowBench window;
+  window.frame();
   figures.add("first_frame_kb", peakKilobytes());
-  glass.signIn();
-  const double lowest = glass.table()->greatestOffset();
+  window.signIn();
+  const double lowest = window.table()->greatestOffset();
   std::vector<double> frames;
   for (double offset = 0; offset < lowest; offset += 60) {
     frames.push_back(secondsOf([&] {
-      glass.scrollTo(offset);
-      glass.frame();
+      window.scrollTo(offset);
+      window.frame();
     }));
     if (frames.size() == kFramesABatch) {
       figures.add("frame_ms", median(std::exchange(frames, {})) * 1e3);
     }
     // Nobody is faster than the pictures: those of the rows that have gone by are there.
     const auto gone = static_cast<std::size_t>(offset / 160);
-    glass.waitUntil([&] { return drawingContextCount() >= gone; });
+    window.waitUntil([&] { return drawingContextCount() >= gone; });
     QCoreApplication::processEvents();
   }
-  glass.scrollTo(lowest);
-  demand(glass.table()->visibleCells().contains(kRows - 1), "the last row is shown");
-  glass.waitUntil([&] { return drawingContextCount() >= kRows; });
+  window.scrollTo(lowest);
+  demand(window.table()->visibleCells().contains(kRows - 1), "the last row is shown");
+  window.waitUntil([&] { return drawingContextCount() >= kRows; });
   figures.add("scrolled_kb", peakKilobytes());
   figures.add("showings", static_cast<double>(drawingContextCount()));
   return 0;

@@ -2,7 +2,7 @@
 // same way.
 
 #include "bench/Figures.h"
-#include "bench/GlassBench.h"
+#include "bench/WindowBench.h"
 #include "platform/uikit/Scene.h"
 #include "platform/uikit/UINavigationController.h"
 #include "platform/uikit/UITableViewCell.h"
@@ -23,38 +23,38 @@ UIStoryboard storyboard() {
 }
 
 // Opens a screen with its first frame, checks that it is there, and goes back.
-double opened(GlassBench& glass, const std::function<void()>& open, const char* className) {
-  glass.rest();
-  const QImage before = glass.picture();
+double opened(WindowBench& window, const std::function<void()>& open, const char* className) {
+  window.rest();
+  const QImage before = window.picture();
   const double seconds = secondsOf([&] {
     open();
-    glass.frame();
+    window.frame();
   });
-  demand(glass.page().objectName() == className, "the screen is shown");
-  glass.settle();
-  demand(glass.picture() != before, "and seen");
-  glass.application->goBack();
-  glass.settle();
+  demand(window.page().objectName() == className, "the screen is shown");
+  window.settle();
+  demand(window.picture() != before, "and seen");
+  window.application->goBack();
+  window.settle();
   return seconds;
 }
 
 int run(int argc, char** argv) {
   Figures figures(argc, argv);
   const UIStoryboard withEmpty = storyboard();
-  GlassBench glass(withEmpty);
-  glass.signIn();
-  const auto openCampaign = [&] { glass.application->tap(glass.table()->visibleCells().at(1)); };
+  WindowBench window(withEmpty);
+  window.signIn();
+  const auto openCampaign = [&] { window.application->tap(window.table()->visibleCells().at(1)); };
   const auto openEmpty = [&] {
-    glass.application->turn([&] {
-      const auto& home = glass.application->navigation()->topViewController();
+    window.application->turn([&] {
+      const auto& home = window.application->navigation()->topViewController();
       home->performSegueWithIdentifierSender("emptySegue", home);
     });
   };
-  figures.add("first_campaign_ms", opened(glass, openCampaign, "OneCampaignViewController") * 1e3);
-  figures.add("first_empty_ms", opened(glass, openEmpty, "EmptyVC") * 1e3);
+  figures.add("first_campaign_ms", opened(window, openCampaign, "OneCampaignViewController") * 1e3);
+  figures.add("first_empty_ms", opened(window, openEmpty, "EmptyVC") * 1e3);
   for (int round = 0; round < 25; ++round) {
-    figures.add("campaign_ms", opened(glass, openCampaign, "OneCampaignViewController") * 1e3);
-    figures.add("empty_ms", opened(glass, openEmpty, "EmptyVC") * 1e3);
+    figures.add("campaign_ms", opened(window, openCampaign, "OneCampaignViewController") * 1e3);
+    figures.add("empty_ms", opened(window, openEmpty, "EmptyVC") * 1e3);
   }
   return 0;
 }

@@ -1,7 +1,7 @@
 // The frame that follows a reload of the list, at hundred and at a million campaigns.
 
 #include "bench/Figures.h"
-#include "bench/GlassBench.h"
+#include "bench/WindowBench.h"
 
 namespace leafund {
 namespace {
@@ -16,20 +16,20 @@ void renameFirstRows() {
 
 int run(int argc, char** argv) {
   Figures figures(argc, argv);
-  GlassBench glass;
-  glass.signIn();
-  const auto reload = [&] { glass.application->turn([&] { glass.table()->reloadData(); }); };
+  WindowBench window;
+  window.signIn();
+  const auto reload = [&] { window.application->turn([&] { window.table()->reloadData(); }); };
   for (int round = 0; round < 25; ++round) {
     for (const std::size_t count : {100UL, 10'000UL, 1'000'000UL}) {
       resizeList(otherCampaigns(), count);
       reload();  // The first one meets what making the list has left behind in the caches.
-      glass.frame();
+      window.frame();
       renameFirstRows();
       reload();
       demand(
-          glass.list().property("contentHeight").toDouble() == 160.0 * static_cast<double>(count),
-          "the glass knows of every row");
-      const double seconds = secondsOf([&] { glass.frame(); });
+          window.list().property("contentHeight").toDouble() == 160.0 * static_cast<double>(count),
+          "the window knows of every row");
+      const double seconds = secondsOf([&] { window.frame(); });
       figures.add("frame_after_" + std::to_string(count) + "_ms", seconds * 1e3);
     }
   }

@@ -1,4 +1,4 @@
-"""The app on the accessibility bus: where to find it, how to wait for it, and how to go a road."""
+"""The app on the accessibility bus: where to find it, how to wait for it, and how to go a walk."""
 
 import os
 import sys
@@ -16,13 +16,13 @@ Role = Atspi.Role
 FIELDS = {Role.TEXT, Role.ENTRY, Role.PASSWORD_TEXT, Role.EDITBAR}
 
 
-class RoadBroken(Exception):
+class WalkBroken(Exception):
     pass
 
 
 def check(holds, what):
     if not holds:
-        raise RoadBroken(f"expected: {what}")
+        raise WalkBroken(f"expected: {what}")
 
 
 class App:
@@ -46,9 +46,9 @@ class App:
             if result:
                 return result
             if not os.path.exists(f"/proc/{self.process}"):
-                raise RoadBroken(f"the app ended; expected {what}")
+                raise WalkBroken(f"the app ended; expected {what}")
             if time.monotonic() > end:
-                raise RoadBroken(f"not within {LIMIT:.0f} s: {what}")
+                raise WalkBroken(f"not within {LIMIT:.0f} s: {what}")
             time.sleep(LOOK_AGAIN)
 
     def walk(self, enters):
@@ -80,16 +80,16 @@ class App:
             pass
 
 
-def go(road, make_app, prefix=""):
-    """Goes the steps of a road, and says of each that it is done; returns the exit status."""
+def go(walk, make_app, prefix=""):
+    """Goes the steps of a walk, and says of each that it is done; returns the exit status."""
     app = None
     try:
         app = make_app()
-        for step in road(app).steps():
+        for step in walk(app).steps():
             step()
             print(f"{prefix}{step.__name__.replace('_', ' ')}: done", flush=True)
-    except RoadBroken as reason:
-        print(f"The road broke: {prefix}{reason}", file=sys.stderr)
+    except WalkBroken as reason:
+        print(f"The walk broke: {prefix}{reason}", file=sys.stderr)
         if app:
             print(f"What is there:\n{app.describe()}", file=sys.stderr)
         return 1

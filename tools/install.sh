@@ -1,5 +1,5 @@
 # shellcheck shell=bash
-# Installs what tools/packages lists. Sourced by tools/workshop.sh.
+# Installs what tools/packages lists. Sourced by tools/common.sh.
 
 # Prints the packages of the named lists.
 packagesOf() {

@@ -2,7 +2,7 @@
 
 from collections import Counter
 
-from bus import FIELDS, App, Atspi, GLib, RoadBroken, Role
+from bus import FIELDS, App, Atspi, GLib, WalkBroken, Role
 
 SHOWING = "object:state-changed:showing"
 NOT_A_ROLE = {Role.UNKNOWN, Role.INVALID, Role.FILLER}
@@ -74,7 +74,7 @@ class Reader(App):
     def range(node):
         """Value, least and greatest."""
         if "Value" not in node.get_interfaces():
-            raise RoadBroken(f"“{node.get_name()}” has no value")
+            raise WalkBroken(f"“{node.get_name()}” has no value")
         value = Atspi.Value
         least, greatest = value.get_minimum_value(node), value.get_maximum_value(node)
         return value.get_current_value(node), least, greatest
@@ -91,9 +91,9 @@ class Reader(App):
         """Puts a text into a field as a whole, without the keyboard."""
         node = self._field(field)
         if "EditableText" not in node.get_interfaces():
-            raise RoadBroken(f"“{field}” takes no text")
+            raise WalkBroken(f"“{field}” takes no text")
         if not Atspi.EditableText.set_text_contents(node, text):
-            raise RoadBroken(f"“{field}” refuses a text")
+            raise WalkBroken(f"“{field}” refuses a text")
         self.expect_text(field, text)
 
     def type_into(self, field, text, shown=None):
@@ -124,8 +124,8 @@ class Reader(App):
 
         try:
             self.wait("", sound)
-        except RoadBroken:
-            raise RoadBroken(f"on the {screen} screen " + "; ".join(faults)) from None
+        except WalkBroken:
+            raise WalkBroken(f"on the {screen} screen " + "; ".join(faults)) from None
 
     def _faults(self):
         found = []
@@ -165,7 +165,7 @@ class Reader(App):
             if "Text" in node.get_interfaces():
                 texts.append(self.text(node) or "")
             if any(secret in text for text in texts):
-                raise RoadBroken(f"“{self.name(node)}” gives the password out")
+                raise WalkBroken(f"“{self.name(node)}” gives the password out")
 
     # The rest is how.
 
@@ -192,7 +192,7 @@ class Reader(App):
     def _act(self, node, wanted):
         actions = self._actions(node)
         if wanted not in actions:
-            raise RoadBroken(f"“{self.name(node)}” has no action {wanted}")
+            raise WalkBroken(f"“{self.name(node)}” has no action {wanted}")
         Atspi.Action.do_action(node, actions.index(wanted))
 
     @staticmethod

@@ -159,6 +159,6 @@ class Window(App):
         run("xdotool", *arguments)
 
     def describe(self):
-        """What is on the screen, for whoever must find out why the road broke."""
+        """What is on the screen, for whoever must find out why the walk broke."""
         named = [node for node in self._showing() if node[0]]
         return "\n".join(f"  {role.value_nick}: {name!r} at {place}" for name, role, place in named)

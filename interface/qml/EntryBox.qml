@@ -27,7 +27,7 @@ Rectangle {
         color: wrong ? Theme.alert : userIsIn ? Theme.accent : Theme.line
     }
 
-    // The toolkit ended the editing: the glass follows.
+    // The toolkit ended the editing: the window follows.
     readonly property bool editing: view.editing
     onEditingChanged: {
         if (editing)

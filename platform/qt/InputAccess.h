@@ -6,7 +6,7 @@ namespace leafund {
 
 // An input, of one line or of many. A masked password is read out as dots alone: Qt Quick gives it
 // in clear. What assistive technology writes arrives as an input method's text does, so that the
-// application hears of it as of any other typing: Qt Quick changes the glass alone. Positions are
+// application hears of it as of any other typing: Qt Quick changes the window alone. Positions are
 // in UTF-16 units.
 class InputAccess final : public ItemAccess,
                           public QAccessibleTextInterface,

@@ -11,7 +11,7 @@ namespace leafund {
 //
 // Presses that are part of one which changed the top screen come to nothing (PressSeries): a key is
 // dropped; a pointer may still scroll or drag, but taps nothing.
-// A keyboard on the glass that covers the window's lower end makes the content shorter.
+// A keyboard in the window that covers the window's lower end makes the content shorter.
 class QtWindow : public QQuickWindow {
   Q_OBJECT
 
@@ -22,7 +22,7 @@ class QtWindow : public QQuickWindow {
   bool usedByKeys() const { return usedByKeys_; }
   // The pointer's present press is part of an earlier one, and taps nothing.
   bool pressContinues() const { return pressContinues_; }
-  // Where the keyboard on the glass lies, in points of the window; empty where there is none.
+  // Where the keyboard in the window lies, in points of the window; empty where there is none.
   void setKeyboardArea(const QRectF& area);
 
  protected:

@@ -14,7 +14,7 @@
 
 namespace leafund {
 
-// The bridge between a view of the toolkit and its item on the glass, one class for all kinds of
+// The bridge between a view of the toolkit and its item in the window, one class for all kinds of
 // view. It copies what the view shows at each refresh and tells by one signal. It holds the view
 // weakly, and events for a view that is gone do nothing.
 class ViewObject : public QObject, public Skin {

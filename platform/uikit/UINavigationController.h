@@ -9,7 +9,7 @@
 
 namespace leafund {
 
-// The stack of screens, the last one shown. It moves at once; what the glass does to catch up is
+// The stack of screens, the last one shown. It moves at once; what the window does to catch up is
 // the host's. Never empty once it has its root.
 class UINavigationController : public std::enable_shared_from_this<UINavigationController> {
  public:

@@ -12,7 +12,7 @@ class UIProgressView : public UIView {
   // What is drawn: from 0 to 1, not-a-number as empty.
   float shownProgress() const;
   // Where the last animated change began, drawn clamped too. Both steps of a change may fall in one
-  // turn, before anything is on the glass, so the view remembers.
+  // turn, before anything is in the window, so the view remembers.
   float animatedFrom() const { return animatedFrom_; }
 
   void setProgressAnimated(float progress, bool animated);

@@ -10,7 +10,7 @@ namespace leafund {
 
 class UITextField;
 
-// What the keyboard on the glass should offer. A hint alone: any text can be typed.
+// What the keyboard in the window should offer. A hint alone: any text can be typed.
 enum class UIKeyboardType { Default, EmailAddress, DecimalPad, URL };
 
 class UITextFieldDelegate {
@@ -83,7 +83,7 @@ class UITextView : public UITextInput {
   bool editable() const override { return editable_; }
   void setEditable(bool editable) { editable_ = editable; }
   // Scrolls so that the range is seen. Only the top is ever asked for, where every text begins on
-  // the glass anyhow, so the view remembers no more than that it was asked.
+  // the window anyhow, so the view remembers no more than that it was asked.
   void scrollRangeToVisible(NSRange range);
   bool scrolledToTop() const { return scrolledToTop_; }
 

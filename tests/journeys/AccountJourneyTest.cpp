@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "model/Catalogue.h"
-#include "tests/journeys/Roads.h"
+#include "tests/journeys/Walks.h"
 
 namespace leafund {
 namespace {

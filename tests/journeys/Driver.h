@@ -11,7 +11,7 @@
 namespace leafund {
 
 // How a journey goes through the application: five verbs, and what a user then sees. One driver
-// speaks to the toolkit, another clicks and types on the glass; each journey runs with both.
+// speaks to the toolkit, another clicks and types in the window; each journey runs with both.
 //
 // A view is named as in its scene. Acting on one that cannot be reached changes nothing, as for a
 // user; looking at one that is not on the screen shown fails the test.

@@ -6,10 +6,10 @@
 #include <set>
 
 #include "tests/look/ApprovedPicture.h"
-#include "tests/look/GlassItems.h"
 #include "tests/look/MaskedPicture.h"
 #include "tests/look/Stages.h"
 #include "tests/look/TextRendering.h"
+#include "tests/look/WindowItems.h"
 
 // The settled window of every stage is held to a picture that somebody looked at and approved: to
 // every pixel with the text rendering that it was approved with, with another one to every pixel
@@ -142,7 +142,7 @@ void compare(const QImage& now, const fs::path& path, const QQuickWindow& window
 
 class ApprovalTest : public testing::TestWithParam<Sitting> {};
 
-TEST_P(ApprovalTest, TheGlassLooksAsApproved) {
+TEST_P(ApprovalTest, TheWindowLooksAsApproved) {
   const auto& sitting = GetParam();
   const auto& stage = stageNamed(sitting.stage);
   StageApplication app(sitting.surroundings, stage.pictures, sitting.sizes.front());

@@ -3,7 +3,7 @@
 #include <QImage>
 #include <vector>
 
-#include "tests/look/GlassItems.h"
+#include "tests/look/WindowItems.h"
 
 namespace leafund {
 

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "tests/look/GlassItems.h"
+#include "tests/look/WindowItems.h"
 
 namespace leafund {
 

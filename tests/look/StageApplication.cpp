@@ -13,7 +13,7 @@
 #include "platform/qt/ViewObject.h"
 #include "platform/uikit/UITableView.h"
 #include "platform/uikit/UITableViewCell.h"
-#include "tests/look/GlassItems.h"
+#include "tests/look/WindowItems.h"
 #include "tests/support/PictureAnswers.h"
 #include "tests/support/ProjectPictures.h"
 #include "tests/support/ViewNamed.h"

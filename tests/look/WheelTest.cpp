@@ -5,8 +5,8 @@
 #include <QWheelEvent>
 #include <algorithm>
 
-#include "tests/look/GlassItems.h"
 #include "tests/look/Stages.h"
+#include "tests/look/WindowItems.h"
 
 namespace leafund {
 namespace {

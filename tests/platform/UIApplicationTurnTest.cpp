@@ -89,7 +89,7 @@ TEST_F(UIApplicationTurnTest, ATurnThatChangesNothingShowsNothing) {
   EXPECT_THAT(log, IsEmpty());
 }
 
-TEST_F(UIApplicationTurnTest, AnEventRaisedByLogicWaitsUntilTheGlassHasFollowed) {
+TEST_F(UIApplicationTurnTest, AnEventRaisedByLogicWaitsUntilTheWindowHasFollowed) {
   application->turn([&] {
     application->turn([&] { log.push_back("raised"); });
     changeAll();

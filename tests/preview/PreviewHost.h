@@ -12,7 +12,7 @@
 namespace leafund {
 
 // The host on a real window, but for one thing: the skins come from a folder of sources, and what
-// is on the glass is made anew whenever one of them is saved.
+// is in the window is made anew whenever one of them is saved.
 class PreviewHost final : public Host {
  public:
   // The arguments must live as long as the host.
@@ -30,13 +30,13 @@ class PreviewHost final : public Host {
   void show(const UINavigationController& navigation) override;
 
   QtWindow* window() const { return host_.window(); }
-  // How often what is on the glass was made anew.
+  // How often what is in the window was made anew.
   int reloads() const { return reloads_; }
 
  private:
   std::unique_ptr<QQmlEngine> makeEngine();
   void watch();
-  // Leaves the glass as it is where the skin, or one it uses, cannot be read.
+  // Leaves the window as it is where the skin, or one it uses, cannot be read.
   void reload();
 
   QString folder_;

@@ -130,7 +130,7 @@ TEST(PreviewTest, ASavedSkinIsTakenUp) {
   EXPECT_EQ(preview.page()->opacity(), 0.5);
 }
 
-TEST(PreviewTest, ASkinThatCannotBeReadLeavesTheGlassAsItIs) {
+TEST(PreviewTest, ASkinThatCannotBeReadLeavesTheWindowAsItIs) {
   SkinsOfOnesOwn skins;
   Preview preview(*previewState("LandingPageVC", ""), skins.path());
   const QPointer<QQuickItem> before = preview.page();

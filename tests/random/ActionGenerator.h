@@ -38,7 +38,7 @@ class ActionGenerator {
   Action scroll(const Table& table);
   bool endsTooSoon(const ReferenceApp& app, const Action& action) const;
 
-  // The shortest way to the end (Doom.cpp).
+  // The shortest way to the end (FatalActions.cpp).
   Action head(const ReferenceApp& app);
   Action headHome(const ReferenceApp& app) const;
   Action headForJunk(const ReferenceApp& app);

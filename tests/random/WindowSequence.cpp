@@ -33,7 +33,7 @@ class WindowSequence {
         app_([this](const Action& action) { follow(action); }, [this] { check(); }),
         user_(app_, reference_),
         generator_(plan.seed, plan.fate, plan.calm()),
-        road_(~plan.seed) {
+        lot_(~plan.seed) {
     watchForStop(report_, printed_, reference_);
     if (plan.twist == Twist::TapIsLost) app_.loseTaps();
   }
@@ -58,18 +58,18 @@ class WindowSequence {
   }
 
  private:
-  // Oftener than the generator on the roads that users take: in, into a campaign, and back.
+  // Oftener than the generator on the ways that users take: in, into a campaign, and back.
   Action next() {
     Action action = generator_.next(reference_);
-    if (plan_.fate != Fate::Live || !road_.percent(30)) return action;
-    if (auto onwards = nextOnTheRoad()) {
+    if (plan_.fate != Fate::Live || !lot_.percent(30)) return action;
+    if (auto onwards = nextOnTheWay()) {
       onwards->how = action.how;
       return *onwards;
     }
     return action;
   }
 
-  std::optional<Action> nextOnTheRoad() {
+  std::optional<Action> nextOnTheWay() {
     const Screen& top = reference_.top();
     switch (top.scene) {
       case Scene::Landing:
@@ -78,12 +78,12 @@ class WindowSequence {
       case Scene::Update:
         return Action{.kind = ActionKind::GoBack};
       case Scene::Campaign:
-        if (top.at("FundButton").hidden || road_.percent(60))
+        if (top.at("FundButton").hidden || lot_.percent(60))
           return Action{.kind = ActionKind::GoBack};
         if (top.at("dollarAmountField").text.empty()) return typeInto("dollarAmountField", "5");
         return tapOn("FundButton");
       case Scene::Confirm:
-        return tapOn(road_.percent(30) ? "yesButton" : "noButton");
+        return tapOn(lot_.percent(30) ? "yesButton" : "noButton");
       case Scene::Thanks:
         return tapOn("homeButton");
       default:
@@ -91,15 +91,15 @@ class WindowSequence {
     }
     const auto& table = reference_.shown().table;
     if (top.scene != Scene::Home || !table || table->shown.empty()) return std::nullopt;
-    if (road_.percent(60)) {
+    if (lot_.percent(60)) {
       return Action{
           .kind = ActionKind::TapRow,
           .number = static_cast<long>(
-              std::next(table->shown.begin(), static_cast<long>(road_.below(table->shown.size())))
+              std::next(table->shown.begin(), static_cast<long>(lot_.below(table->shown.size())))
                   ->first)};
     }
     return Action{.kind = ActionKind::Scroll,
-                  .offset = road_.percent(70) ? table->greatestOffset() : 0};
+                  .offset = lot_.percent(70) ? table->greatestOffset() : 0};
   }
 
   void act(const Action& action) {
@@ -171,7 +171,7 @@ class WindowSequence {
   WindowUnderTest app_;
   WindowUser user_;
   ActionGenerator generator_;
-  Chance road_;
+  Chance lot_;
 };
 
 }  // namespace

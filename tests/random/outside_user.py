@@ -13,7 +13,7 @@ import time
 from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "tools"))
-from bus import FIELDS, Atspi, Role, RoadBroken, check  # noqa: E402
+from bus import FIELDS, Atspi, Role, WalkBroken, check  # noqa: E402
 from finger import Fingers  # noqa: E402
 from window import CONTROLS, ROWS, TABS, Window  # noqa: E402
 
@@ -36,7 +36,7 @@ class Reference:
         self.views, self.rows, self.back = [], [], False
         while (line := self.program.stdout.readline().rstrip("\n")) != ".":
             if not line and self.program.poll() is not None:
-                raise RoadBroken("the reference has ended")
+                raise WalkBroken("the reference has ended")
             kind, *fields = line.split("\t")
             if kind == "printed":
                 self.printed += fields[0] + "\n"
@@ -161,8 +161,8 @@ class User:
 
         try:
             self.window.wait("the window like the reference", same)
-        except RoadBroken as reason:
-            raise RoadBroken("\n".join([str(reason), *last])) from reason
+        except WalkBroken as reason:
+            raise WalkBroken("\n".join([str(reason), *last])) from reason
 
     def differences(self):
         shown = self.window._showing()
@@ -196,7 +196,7 @@ def main(process, port, output, program, actions, seed):
         for number in range(int(actions)):
             print(f"{number + 1}: {user.act()}", flush=True)
             user.compare()
-    except RoadBroken as reason:
+    except WalkBroken as reason:
         print(f"seed {seed} diverges: {reason}\n{user.window.describe()}", file=sys.stderr)
         return 1
     return 0

@@ -1,13 +1,13 @@
 #include <QAccessible>
 
 #include "model/Catalogue.h"
-#include "tests/window/GlassFixture.h"
+#include "tests/window/WindowFixture.h"
 
 namespace leafund {
 namespace {
 
 // What is said of a thing besides its own words.
-class AccessibilityWordsTest : public GlassTest {
+class AccessibilityWordsTest : public WindowTest {
  protected:
   static void SetUpTestSuite() { QAccessible::setActive(true); }
   QAccessibleInterface& access(const std::string& name) {

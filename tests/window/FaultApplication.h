@@ -64,7 +64,7 @@ class FaultApplication {
   // when this returns. No event has been served since the fetch began.
   void open(Place place, const std::string& address);
   UIImageView& imageView() { return *imageView_; }
-  // What stands on the glass in the middle of the place, and what stands there without a picture.
+  // What stands in the window in the middle of the place, and what stands there without a picture.
   QColor colour();
   QColor ground();
 

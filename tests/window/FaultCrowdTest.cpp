@@ -37,7 +37,7 @@ class FaultCrowdTest : public testing::Test {
     for (const auto& campaign : otherCampaigns()) campaign->setPhoto(address);
   }
 
-  // Down the whole list on the glass, a frame a step.
+  // Down the whole list in the window, a frame a step.
   void scrollDown() {
     auto& table = app->window.require("table");
     int frames = 0;

@@ -45,7 +45,7 @@ TEST_P(FaultLateTest, APictureForAScreenThatIsGoneIsAppliedUnseenAndLetsTheScree
   leave();
   ASSERT_FALSE(left.expired());
   ASSERT_EQ(app.imageView().image(), before);
-  const QImage glass = app.window.window().grabWindow();
+  const QImage shot = app.window.window().grabWindow();
 
   *open = true;
 
@@ -53,7 +53,7 @@ TEST_P(FaultLateTest, APictureForAScreenThatIsGoneIsAppliedUnseenAndLetsTheScree
   EXPECT_EQ(app.imageView().image() != nullptr, isPicture());
   EXPECT_NE(app.imageView().image(), before);
   EXPECT_TRUE(app.window.waitUntil([&] { return left.expired(); }));
-  EXPECT_EQ(app.window.window().grabWindow(), glass);
+  EXPECT_EQ(app.window.window().grabWindow(), shot);
 }
 
 std::string nameOf(const testing::TestParamInfo<FaultLateTest::ParamType>& info) {

@@ -26,7 +26,7 @@ bool isColour(QColor colour, QColor other) {
          std::abs(colour.blue() - other.blue()) <= rounding;
 }
 
-// What the toolkit holds, and that the glass agrees.
+// What the toolkit holds, and that the window agrees.
 Settled seen(FaultApplication& app, const UIImage* before) {
   const auto* image = app.imageView().image().get();
   const QColor colour = app.colour();

@@ -4,12 +4,12 @@
 #include <memory>
 #include <string>
 
-#include "tests/window/GlassFixture.h"
+#include "tests/window/WindowFixture.h"
 
 namespace leafund {
 
 // The application used with a finger that is put down, moved in small steps, and lifted.
-class FingerTest : public GlassTest {
+class FingerTest : public WindowTest {
  protected:
   static constexpr int kSteps = 12;
   std::unique_ptr<QPointingDevice> finger_{QTest::createTouchDevice()};

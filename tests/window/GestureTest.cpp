@@ -128,10 +128,10 @@ TEST_F(GestureTest, TwoFingersOnYesBookOnce) {
   const auto yes = middleOf("yesButton");
   const auto beside = yes + QPoint(40, 0);
   const std::unique_ptr<QPointingDevice> hand(QTest::createTouchDevice());
-  const auto glass = [&] { return QTest::touchEvent(&app.window(), hand.get()); };
-  glass().press(0, yes).press(1, beside);
-  glass().release(0, yes).stationary(1);
-  glass().release(1, beside);
+  const auto hands = [&] { return QTest::touchEvent(&app.window(), hand.get()); };
+  hands().press(0, yes).press(1, beside);
+  hands().release(0, yes).stationary(1);
+  hands().release(1, beside);
   touch(yes);  // while the screen slides out
   EXPECT_EQ(screen(), "ThankYouVC");
   EXPECT_EQ(campaignsIFunded().size(), 4U);

@@ -3,13 +3,13 @@
 #include <string>
 #include <vector>
 
-#include "tests/window/GlassFixture.h"
+#include "tests/window/WindowFixture.h"
 
 namespace leafund {
 
 // The application used by keys alone. At every step the focus must be on something that is seen,
 // and must itself be seen.
-class KeyboardTest : public GlassTest {
+class KeyboardTest : public WindowTest {
  protected:
   QQuickItem* focused() { return app.window().activeFocusItem(); }
   std::string focusedName() { return focused() ? focused()->objectName().toStdString() : ""; }

@@ -7,7 +7,7 @@
 namespace leafund {
 
 // Clicks, touches and keys that come faster than a user can look.
-class PressTest : public FingerTest {
+class PressFixture : public FingerTest {
  protected:
   // Presses and lifts the pointer that many times at one place, that many milliseconds apart by the
   // events, and each when the slide that the one before began has ended.

@@ -9,7 +9,7 @@
 namespace leafund {
 namespace {
 
-// Clicks and types on the glass, and reads from it.
+// Clicks and types in the window, and reads from it.
 class WindowDriver final : public Driver {
  public:
   void tap(const std::string& name) override {

@@ -1,0 +1,65 @@
+#include <QWheelEvent>
+#include <QWindow>
+
+#include "tests/window/WindowFixture.h"
+
+namespace leafund {
+namespace {
+
+// The row in focus, where the list is short or another window is in front.
+class RowFocusTest : public WindowTest {
+ protected:
+  std::string focused() {
+    const auto* item = app.window().activeFocusItem();
+    return item != nullptr ? item->objectName().toStdString() : "";
+  }
+  void goToFirstRow() {
+    signIn();
+    for (int i = 0; i < 10 && focused() != "abc-0"; ++i) app.press(Qt::Key_Tab);
+    ASSERT_EQ(focused(), "abc-0");
+  }
+  void rest() {
+    auto& list = app.require("table");
+    EXPECT_TRUE(app.waitUntil([&] { return !list.property("moving").toBool(); }));
+    app.settle();
+  }
+};
+
+TEST_F(RowFocusTest, InALowWindowARowThatIsSeenInPartTakesTheFocus) {
+  app.window().resize(844, 390);
+  ASSERT_TRUE(app.waitUntil([&] { return app.page()->width() == 844; }));
+  goToFirstRow();
+  for (int page = 0; page < 5; ++page) {
+    app.press(Qt::Key_PageDown);
+    rest();
+    EXPECT_TRUE(focused().starts_with("abc-")) << page << ": " << focused();
+  }
+}
+
+TEST_F(RowFocusTest, AListThatIsScrolledInAnInactiveWindowKeepsTheFocusOnARowInSight) {
+  goToFirstRow();
+  QWindow other;
+  other.show();
+  other.requestActivate();
+  ASSERT_TRUE(app.waitUntil([&] { return !app.window().isActive(); }));
+  for (int i = 0; i < 3; ++i) {
+    const QPointF at(200, 400);
+    QWheelEvent event(at, app.window().mapToGlobal(at), {}, {0, -120}, {}, {}, Qt::NoScrollPhase,
+                      false);
+    QCoreApplication::sendEvent(&app.window(), &event);
+  }
+  rest();
+  other.hide();
+  app.window().requestActivate();
+  ASSERT_TRUE(app.waitUntil([&] { return app.window().isActive(); }));
+  app.settle();
+  EXPECT_TRUE(focused().starts_with("abc-")) << focused();
+  EXPECT_TRUE(app.window().activeFocusItem()->isVisible());
+  const auto name = focused();
+  app.press(Qt::Key_Return);
+  app.settle();
+  EXPECT_EQ(app.shown()->className(), "OneCampaignViewController") << name;
+}
+
+}  // namespace
+}  // namespace leafund

@@ -1,0 +1,231 @@
+#include <gtest/gtest.h>
+
+#include <QColor>
+#include <QElapsedTimer>
+#include <QIcon>
+#include <QImage>
+#include <QQuickItem>
+#include <QScreen>
+#include <QTest>
+#include <algorithm>
+#include <limits>
+
+#include "model/Catalogue.h"
+#include "platform/foundation/AmountText.h"
+#include "platform/qt/ViewObject.h"
+#include "platform/uikit/UITabContainer.h"
+#include "platform/uikit/UITableView.h"
+#include "tests/support/PictureAnswers.h"
+#include "tests/window/WindowFixture.h"
+
+namespace leafund {
+namespace {
+
+TEST_F(WindowTest, TheWindowStartsAtThePhonesNaturalSizeOrTheScreensWhereThatIsSmaller) {
+  const QSize screen = app.window().screen()->availableSize();
+  ASSERT_LT(screen.height(), 844);
+  EXPECT_EQ(QtWindow().size(), QSize(390, screen.height()));
+}
+
+TEST_F(WindowTest, TheWindowBearsTheIconWithoutBeingInstalled) {
+  ASSERT_TRUE(app.waitUntil([&] { return !app.window().icon().isNull(); }));
+  const QImage icon = app.window().icon().pixmap(64).toImage();
+  ASSERT_EQ(icon.size(), QSize(64, 64));
+  EXPECT_EQ(icon.pixelColor(0, 0).alpha(), 0);
+  EXPECT_EQ(icon.pixelColor(20, 40), QColor("#f0b73f"));  // the coin
+}
+
+// On Wayland a window larger than its maximised or fullscreen state loses its connection, and with
+// it the process.
+TEST_F(WindowTest, TheWindowTakesEverySizeOnEveryScreenAndTheToolkitFollows) {
+  const auto takeAll = [&] {
+    for (const QSize size : {QSize(280, 240), QSize(90, 60), QSize(1, 1), QSize(390, 844)}) {
+      app.window().resize(size);
+      ASSERT_TRUE(app.waitUntil([&] { return app.page()->width() == size.width(); }));
+      app.settle();
+      const auto& root = app.navigation().topViewController()->view()->frame();
+      EXPECT_EQ(root.y + root.height, std::max<double>(root.y, size.height()));
+    }
+  };
+  EXPECT_EQ(app.window().minimumSize(), QSize(0, 0));
+  takeAll();
+  signIn();
+  takeAll();
+  click("abc-0");
+  takeAll();
+  click("backButton");
+  click("mineTab");
+  click("newButton");
+  takeAll();
+}
+
+// Qt warns of letters without a size.
+TEST_F(WindowTest, NoWindowIsTooNarrowForTheTitlesOfTheTabs) {
+  signIn();
+  for (int width = 60; width > 0; --width) {
+    app.window().resize(width, 240);
+    ASSERT_TRUE(app.waitUntil([&] { return app.page()->width() == width; }));
+    ASSERT_FALSE(HasFailure()) << width;
+  }
+}
+
+TEST_F(WindowTest, AHiddenBackButtonRefusesBarAndKeys) {
+  signIn();
+  EXPECT_FALSE(app.require("backButton").isVisible());
+  app.press(Qt::Key_Escape);
+  app.press(Qt::Key_Back);
+  app.settle();
+  EXPECT_EQ(app.navigation().topViewController()->className(), "TabBarVC");
+}
+
+TEST_F(WindowTest, TheBackButtonGoesBack) {
+  click("signUpButton");
+  EXPECT_TRUE(app.require("backButton").isVisible());
+  click("backButton");
+  EXPECT_EQ(app.shown()->className(), "LandingPageVC");
+}
+
+TEST_F(WindowTest, ADoubleClickOnYesBooksOnce) {
+  signIn();
+  click("abc-0");
+  type("dollarAmountField", "1");
+  click("FundButton");
+  auto& yes = app.require("yesButton");
+  const auto where = yes.mapToScene({yes.width() / 2, yes.height() / 2}).toPoint();
+  QTest::mouseClick(&app.window(), Qt::LeftButton, {}, where);
+  QTest::mouseClick(&app.window(), Qt::LeftButton, {}, where);
+  app.settle();
+  EXPECT_EQ(campaignsIFunded().size(), 4U);
+  EXPECT_EQ(otherCampaigns().size(), 6U);
+}
+
+TEST_F(WindowTest, AnIncomingScreenTakesAClickAtOnce) {
+  signIn();
+  auto& tab = app.require("newsTab");
+  const auto where = tab.mapToScene({tab.width() / 2, tab.height() / 2}).toPoint();
+  app.click(app.require("abc-0"));
+  app.press(Qt::Key_Escape);  // the detail screen is still sliding in
+  QTest::mouseClick(&app.window(), Qt::LeftButton, {}, where);
+  app.settle();
+  EXPECT_EQ(app.navigation().topViewController()->className(), "TabBarVC");
+}
+
+TEST_F(WindowTest, ASelectedTabIsDrawnInTheAccentColourAndTheOthersAreNot) {
+  signIn();
+  const QColor accent(83, 134, 47);
+  const auto colourOf = [&](const std::string& name) {
+    const QImage shot = app.window().grabWindow();
+    const auto& tab = app.require(name);
+    const QRect area = tab.mapRectToScene(tab.boundingRect()).toRect();
+    int accented = 0;
+    for (int y = area.top(); y <= area.bottom(); ++y) {
+      for (int x = area.left(); x <= area.right(); ++x) {
+        accented += shot.pixelColor(x, y) == accent;
+      }
+    }
+    return accented;
+  };
+  EXPECT_GT(colourOf("browseTab"), 20);
+  EXPECT_EQ(colourOf("newsTab"), 0);
+}
+
+TEST_F(WindowTest, ACelebrationThatWasSeenIsNotRepeatedOnTheWayBack) {
+  signIn();
+  click("fundedTab");
+  click("Funded-0");
+  const auto celebration = [&]() -> QQuickItem* {
+    for (auto* each : app.page()->findChildren<QQuickItem*>()) {
+      const bool is = QByteArray(each->metaObject()->className()).startsWith("Celebration");
+      if (is && each->isVisible()) return each;
+    }
+    return nullptr;
+  };
+  auto* party = celebration();
+  ASSERT_NE(party, nullptr);
+  ASSERT_TRUE(app.waitUntil([&] { return party->property("seen").toBool(); }));
+  EXPECT_EQ(party->scale(), 1);
+  click("campaignUpdates");
+  double least = 1;
+  QObject context;
+  QObject::connect(party, &QQuickItem::scaleChanged, &context,
+                   [&] { least = std::min(least, party->scale()); });
+  app.press(Qt::Key_Escape);
+  app.settle();
+  EXPECT_EQ(celebration(), party);
+  EXPECT_EQ(least, 1);
+}
+
+TEST_F(WindowTest, OddGoalsAreShownWithoutDamage) {
+  constexpr float kGoals[] = {0, -5, std::numeric_limits<float>::quiet_NaN(),
+                              std::numeric_limits<float>::infinity(), 3.4e38F};
+  signIn();
+  for (const float goal : kGoals) {
+    otherCampaigns()[0]->setTotalFunding(goal);
+    click("abc-0");
+    EXPECT_EQ(shownWords("desiredFund").toStdString(), dollarText(goal));
+    EXPECT_EQ(shownWords("currentFund"), "$120.00");
+    const auto& fund = app.require("desiredFund");
+    EXPECT_LE(fund.mapToScene({fund.width(), 0}).x(), app.window().width()) << goal;
+    app.press(Qt::Key_Escape);
+    app.settle();
+  }
+}
+
+TEST_F(WindowTest, RowsStandInTheWindowInTheirOrder) {
+  signIn();
+  app.require("table").setProperty("contentY", 300.0);
+  app.settle();
+  app.require("table").setProperty("contentY", 100.0);
+  app.settle();
+  const auto& table = dynamic_cast<UITableView&>(*app.shown()->view());
+  QList<QQuickItem*> siblings = app.require("abc-1").parentItem()->childItems();
+  int previous = -1;
+  for (const auto& [row, cell] : table.visibleCells()) {
+    auto& item = app.require("abc-" + std::to_string(row));
+    EXPECT_EQ(item.y(), 160.0 * static_cast<double>(row));
+    EXPECT_GT(siblings.indexOf(&item), previous);
+    previous = static_cast<int>(siblings.indexOf(&item));
+  }
+}
+
+TEST_F(WindowTest, AKeyThatIsHeldDownLeavesOneScreen) {
+  signIn();
+  click("fundedTab");
+  click("Funded-0");
+  click("campaignUpdates");
+  app.press(Qt::Key_Escape);
+  QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier, {}, true);
+  QCoreApplication::sendEvent(&app.window(), &repeated);
+  EXPECT_EQ(app.shown()->className(), "OneCampaignViewController");
+}
+
+TEST_F(WindowTest, TakingTheWindowDownWithFetchesUnderWayEndsAtOnceAndFreesTheScreens) {
+  for (const auto& campaign : otherCampaigns()) {
+    campaign->setPhoto(app.server().serve("/silent.jpg", answers::neverAnswers()));
+  }
+  signIn();
+  ASSERT_TRUE(app.server().waitForRequests(1));
+  const std::weak_ptr<UIViewController> browse = app.shown();
+  QElapsedTimer clock;
+  clock.start();
+  app.host.stop();
+  EXPECT_LT(clock.elapsed(), 1000);
+  app.application.reset();
+  EXPECT_TRUE(browse.expired());
+}
+
+TEST(LoopTest, ClosingTheWindowEndsTheLoopAndAnswersZero) {
+  int argc = 1;
+  char name[] = "leafund";
+  char* argv[] = {name, nullptr};
+  QtHost host(argc, argv);
+  setCurrentHost(&host);
+  const auto application =
+      std::make_shared<UIApplication>(host, mainStoryboard(), std::make_shared<AppDelegate>());
+  host.post([&] { host.window()->close(); });
+  EXPECT_EQ(host.run(*application), 0);
+  EXPECT_EQ(host.window(), nullptr);
+}
+
+}  // namespace
+}  // namespace leafund

@@ -1,0 +1,110 @@
+#!/usr/bin/python3 -B
+"""size_walk.py PROCESS WIDTHxHEIGHT: checks that the app that runs as PROCESS has a window of that
+size, and goes through its screens there: with clicks and the wheel on $DISPLAY, and where there is
+none, on a Wayland screen, by actions alone, since nobody may send it clicks from outside.
+"""
+
+import os
+import sys
+
+from bus import Atspi, Role, go
+from reader import Reader
+from window import TABS, Window, run
+
+CAMPAIGN = "Vegetarian for PETA"
+
+
+class Clicks(Window):
+    def __init__(self, process):
+        super().__init__(process)
+        window = ("search", "--sync", "--onlyvisible", "--name", "^Leafund$")
+        self._xdotool(*window, "windowsize", *SIZE.split("x"))
+
+    def has_icon(self):
+        return b"Icon (64 x 64)" in run("xprop", "-name", "Leafund", "_NET_WM_ICON")
+
+    def sign_in(self):
+        self.type_into("E-mail", "robin@example.org")
+        self.type_into("Password", "green changes")
+        self.click("Sign in")
+
+    def tab(self, name):
+        self.click(name, TABS)
+
+    def row(self, name):
+        self.click(name)
+
+
+class Actions(Reader):
+    def click(self, name):
+        """Once there is one of that name: a screen that slides out still has its own."""
+        self.wait(f"one “{name}”", lambda: [*map(self.name, self.visible())].count(name) == 1)
+        self.press(name)
+
+    def visible(self):
+        """What is below the fold counts, unlike for a reader; what is hidden has no place at all."""
+        return (node for node in self.everything() if node.get_extents(Atspi.CoordType.SCREEN).height > 0)
+
+    def expect(self, name, role=None, state=Atspi.StateType.ENABLED):
+        return super().expect(name, role, state)
+
+    def sign_in(self):
+        self.press("Sign in")
+        self.expect_heard("Error: Please Enter a Password")
+        self.press("Sign in")  # which takes the messages for what was typed
+
+    def tab(self, name):
+        self.press(name, Role.PAGE_TAB)
+
+    def row(self, name):
+        self.press(name, Role.LIST_ITEM)
+
+
+class Walk:
+    def __init__(self, app):
+        self.app = app
+
+    def steps(self):
+        # On Wayland a desktop takes the icon from the desktop entry.
+        icon = (self.bear_the_icon,) if isinstance(self.app, Clicks) else ()
+        return (self.fill_the_screen, *icon, self.go_through_the_screens)
+
+    def fill_the_screen(self):
+        self.app.wait(f"a window of {SIZE}", lambda: self._size() == SIZE)
+
+    def go_through_the_screens(self):
+        app = self.app
+        app.click("Create an account")
+        app.expect("Sign up")
+        app.click("Back")
+        app.sign_in()
+        app.row(CAMPAIGN)
+        app.expect("Fund this campaign")
+        app.click("Fund this campaign")
+        app.expect("Error: Please Enter an Amount, for Example 25 or 12.50")
+        app.click("Back")
+        app.tab("Funded")
+        app.row("Compost for Christ!")
+        app.click("Read the update")
+        app.expect("December 1")
+        app.click("Back")
+        app.expect("Read the update")
+        app.click("Back")
+        app.tab("Mine")
+        app.click("New")
+        app.click("Create campaign")
+        app.expect("Error: Please Enter an Amount, for Example 250")
+        self.fill_the_screen()
+
+    def bear_the_icon(self):
+        self.app.wait("an icon of the window", self.app.has_icon)
+
+    def _size(self):
+        extents = self.app.application.get_child_at_index(0).get_extents(Atspi.CoordType.SCREEN)
+        return f"{extents.width}x{extents.height}"
+
+
+if __name__ == "__main__":
+    PROCESS, SIZE = int(sys.argv[1]), sys.argv[2]
+    kind, host = (Clicks, "X11") if os.environ.get("DISPLAY") else (Actions, "Wayland")
+    sys.exit(go(Walk, lambda: kind(PROCESS), f"{host} {SIZE}: "))
