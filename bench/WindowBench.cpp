@@ -6,6 +6,7 @@
 #include <chrono>
 
 #include "bench/Campaigns.h"
+#include "platform/qt/LeafundWindow.h"
 #include "platform/uikit/UINavigationController.h"
 #include "platform/uikit/UITabContainer.h"
 #include "shell/AppDelegate.h"
@@ -18,7 +19,7 @@ QtHost makeHost() {
   static int argc = 1;
   static char name[] = "leafund";
   static char* argv[] = {name, nullptr};
-  return QtHost(argc, argv);
+  return QtHost(argc, argv, leafundWindow());
 }
 
 std::shared_ptr<UIView> descendant(const UIView& root, const std::string& name) {

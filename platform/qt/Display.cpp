@@ -16,7 +16,10 @@ namespace {
 // application again, and aborts. What it says is held back until the display is open.
 class HeldMessages {
  public:
-  HeldMessages() { before_ = qInstallMessageHandler(hold); }
+  explicit HeldMessages(const QString& name) {
+    name_ = name;
+    before_ = qInstallMessageHandler(hold);
+  }
   HeldMessages(const HeldMessages&) = delete;
   HeldMessages& operator=(const HeldMessages&) = delete;
   ~HeldMessages() {
@@ -27,9 +30,8 @@ class HeldMessages {
   }
 
   [[noreturn]] static void end(const QString& reason) {
-    const std::string line =
-        "Leafund has no display to open its window on: " + reason.simplified().toStdString() + "\n";
-    std::fputs(line.c_str(), stderr);
+    const QString line = name_ + " has no display to open its window on: " + reason.simplified();
+    std::fputs((line.toStdString() + "\n").c_str(), stderr);
     std::exit(EXIT_FAILURE);
   }
 
@@ -54,14 +56,15 @@ class HeldMessages {
     return warning == held_.rend() ? last : warning->text;
   }
 
+  static inline QString name_;
   static inline QtMessageHandler before_ = nullptr;
   static inline std::vector<Message> held_;
 };
 
 }  // namespace
 
-std::unique_ptr<QGuiApplication> connectToDisplay(int& argc, char** argv) {
-  const HeldMessages held;
+std::unique_ptr<QGuiApplication> connectToDisplay(int& argc, char** argv, const QString& name) {
+  const HeldMessages held(name);
   auto application = std::make_unique<QGuiApplication>(argc, argv);
   if (QGuiApplication::primaryScreen() == nullptr) HeldMessages::end("there is no screen");
   return application;

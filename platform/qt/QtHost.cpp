@@ -4,7 +4,6 @@
 
 #include <QFontDatabase>
 #include <QGuiApplication>
-#include <QQmlEngine>
 #include <QThread>
 #include <thread>
 #include <utility>
@@ -13,18 +12,9 @@
 #include "platform/foundation/FatalError.h"
 #include "platform/foundation/NSURLRequest.h"
 #include "platform/qt/Display.h"
-#include "platform/qt/ItemAccess.h"
 #include "platform/qt/QtWindow.h"
 #include "platform/qt/SceneStage.h"
 #include "platform/uikit/UIApplication.h"
-
-// The interface's types and its compiled files stand in a static library, and without being named
-// here they would not be linked in. The resources themselves are linked as they are.
-extern void qml_register_types_Leafund();
-static void linkInterface() {
-  qml_register_types_Leafund();
-  Q_INIT_RESOURCE(qmlcache_leafund_qt);
-}
 
 namespace leafund {
 
@@ -59,15 +49,16 @@ class ActivityReport {
   Activity activity_ = Activity::Inactive;
 };
 
-QFont typeface() {
+QFont fontOf(const QString& typeface) {
   QFont font = QGuiApplication::font();
-  font.setFamilies({QStringLiteral("Inter"), font.family()});
+  font.setFamilies({typeface, font.family()});
   return font;
 }
 
 }  // namespace
 
-QtHost::QtHost(int argc, char** argv) : argc_(argc), argv_(argv) {
+QtHost::QtHost(int argc, char** argv, WindowSettings settings)
+    : argc_(argc), argv_(argv), settings_(std::move(settings)) {
 #ifdef M_ARENA_MAX
   // Where addresses are short, a heap a thread (64 MB and more of them) leaves none for a thread
   // that Qt paints with and waits for: with 400 MB the window froze.
@@ -92,15 +83,15 @@ void QtHost::start(UIApplication& application) {
   if (QQuickWindow::sceneGraphBackend() != QLatin1String("software")) {
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
   }
-  gui_ = connectToDisplay(argc_, argv_);
-  QGuiApplication::setDesktopFileName(QStringLiteral("app.leafund.Leafund"));
-  QGuiApplication::setFont(typeface());
+  gui_ = connectToDisplay(argc_, argv_, settings_.title);
+  QGuiApplication::setDesktopFileName(settings_.desktopFile);
+  QGuiApplication::setFont(fontOf(settings_.typeface));
   // The list of the system's fonts takes a sixth of the start, and the first text waits for it. The
   // landing screen's files are read in the meantime.
   const std::jthread fonts([] { QFontDatabase::families(); });
-  linkInterface();
-  describeItemsToAssistiveTechnology();
-  openWindow();
+  window_ = std::make_unique<QtWindow>(settings_);
+  pages_ = settings_.makePages(*window_->contentItem());
+  stage_ = std::make_unique<SceneStage>(*pages_, *window_->contentItem());
   QObject::connect(gui_.get(), &QGuiApplication::applicationStateChanged, &mainThread_,
                    [report = ActivityReport()](Qt::ApplicationState state) mutable {
                      report.reach(activityOf(state));
@@ -112,20 +103,14 @@ void QtHost::start(UIApplication& application) {
   window_->requestActivate();  // where no window manager does it, no key would arrive
 }
 
-void QtHost::openWindow() {
-  engine_ = std::make_unique<QQmlEngine>();
-  window_ = std::make_unique<QtWindow>();
-  stage_ = std::make_unique<SceneStage>(*engine_, *window_->contentItem());
-}
-
 void QtHost::stop() {
   if (!gui_) return;
   transfer_.reset();
   stage_.reset();
-  // Items first, then their bridges, and both before the engine and the window they belong to.
+  // The pages' items first, before their maker and the window they belong to.
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  pages_.reset();
   window_.reset();
-  engine_.reset();
   gui_.reset();
 }
 

@@ -4,9 +4,9 @@
 #include <memory>
 
 #include "platform/Host.h"
+#include "platform/qt/WindowSettings.h"
 
 class QGuiApplication;
-class QQmlEngine;
 
 namespace leafund {
 
@@ -18,7 +18,7 @@ class SceneStage;
 class QtHost final : public Host {
  public:
   // The arguments must live as long as the host.
-  QtHost(int argc, char** argv);
+  QtHost(int argc, char** argv, WindowSettings settings);
   ~QtHost() override;
 
   // Serves until the window is closed, and answers 0.
@@ -38,14 +38,13 @@ class QtHost final : public Host {
   QtWindow* window() const { return window_.get(); }
 
  private:
-  void openWindow();
-
   int argc_;  // the system's own count, which Qt keeps a reference to
   char** argv_;
+  WindowSettings settings_;
   QObject mainThread_;  // steps are posted to it
   std::unique_ptr<QGuiApplication> gui_;
-  std::unique_ptr<QQmlEngine> engine_;
   std::unique_ptr<QtWindow> window_;
+  std::unique_ptr<PageMaker> pages_;
   std::unique_ptr<SceneStage> stage_;
   std::unique_ptr<CurlTransfer> transfer_;
 };

@@ -18,8 +18,6 @@ namespace leafund {
 
 namespace {
 
-constexpr QSize kStartSize{390, 844};
-
 // How far apart two touches of a finger that means one place may lie, in points: half of the least
 // that a control is high. What Qt counts as a double tap is less than fingers scatter.
 constexpr int kFingertip = 24;
@@ -88,18 +86,18 @@ class WithoutDoubleTaps {
 
 }  // namespace
 
-QtWindow::QtWindow() {
+QtWindow::QtWindow(const WindowSettings& settings) {
   // Qt would keep the icon's pixmaps, and wake up half a minute later to let them go.
   QPixmapCache::setCacheLimit(0);
-  setTitle(QStringLiteral("Leafund"));
+  setTitle(settings.title);
   // No minimum size: a maximised or fullscreen state may be smaller than any, and a window larger
   // than its state is an error that ends a Wayland connection.
-  resize(kStartSize.boundedTo(screen()->availableSize()));
+  resize(settings.startSize.boundedTo(screen()->availableSize()));
   // After the first frame, which would wait for it longer than a millisecond. Where the app is
   // installed desktops find the icon by its name, too.
   connect(
       this, &QQuickWindow::frameSwapped, this,
-      [this] { setIcon(QIcon(QStringLiteral(":/Leafund/leafund-64.png"))); },
+      [this, icon = settings.icon] { setIcon(QIcon(icon)); },
       static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
   const auto* keyboard = QGuiApplication::inputMethod();
   connect(keyboard, &QInputMethod::keyboardRectangleChanged, this,

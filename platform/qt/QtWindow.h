@@ -3,6 +3,7 @@
 #include <QQuickWindow>
 
 #include "platform/qt/PressSeries.h"
+#include "platform/qt/WindowSettings.h"
 
 namespace leafund {
 
@@ -16,7 +17,7 @@ class QtWindow : public QQuickWindow {
   Q_OBJECT
 
  public:
-  QtWindow();
+  explicit QtWindow(const WindowSettings& settings);
 
   // Whether the user's last touch of the window was a key.
   bool usedByKeys() const { return usedByKeys_; }

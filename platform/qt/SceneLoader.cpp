@@ -1,8 +1,28 @@
 #include "platform/qt/SceneLoader.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "platform/foundation/FatalError.h"
+#include "platform/qt/ItemAccess.h"
+#include "platform/qt/ScenePage.h"
+#include "platform/uikit/UIApplication.h"
+#include "platform/uikit/UIStoryboard.h"
+
+// The interface's types and its compiled files stand in a static library, and without being named
+// here they would not be linked in. The resources themselves are linked as they are.
+extern void qml_register_types_Leafund();
+static void linkInterface() {
+  qml_register_types_Leafund();
+  Q_INIT_RESOURCE(qmlcache_leafund_qt);
+}
 
 namespace leafund {
+
+SceneLoader::SceneLoader(QQuickItem& glass) : glass_(glass) {
+  linkInterface();
+  describeItemsToAssistiveTechnology();
+}
 
 SceneLoader::~SceneLoader() {
   for (const auto& [className, skin] : ahead_) {
@@ -12,9 +32,13 @@ SceneLoader::~SceneLoader() {
   delete wings_;
 }
 
+std::unique_ptr<Page> SceneLoader::make(UIViewController& controller, QQuickItem& parent) {
+  return std::make_unique<ScenePage>(*this, controller, &parent);
+}
+
 SceneSkin SceneLoader::skinOf(UIViewController& controller, QQuickItem* parent) {
   const auto waiting = ahead_.extract(controller.className());
-  if (!waiting) return make(controller, parent);
+  if (!waiting) return makeSkin(controller, parent);
   const auto skin = waiting.mapped();
   skin.scene->show(controller);
   skin.item->setParent(parent);
@@ -22,15 +46,29 @@ SceneSkin SceneLoader::skinOf(UIViewController& controller, QQuickItem* parent) 
   return skin;
 }
 
+void SceneLoader::lookAhead(const UINavigationController& navigation) {
+  const auto& top = navigation.topViewController();
+  const auto* storyboard = top->storyboard();
+  if (storyboard == nullptr) return;
+  auto next = storyboard->scenesAfter(top->className());
+  if (const auto child = top->shownChild()) {
+    std::ranges::copy(storyboard->scenesAfter(child->className()), std::back_inserter(next));
+  }
+  const auto missing = std::ranges::find_if(
+      next, [&](const auto& className) { return !ahead_.contains(className); });
+  if (missing == next.end()) return;
+  UIApplication::current()->turn([&] { makeAhead(navigation, *storyboard->draft(*missing)); });
+}
+
 void SceneLoader::makeAhead(const UINavigationController& navigation, UIViewController& draft) {
   if (wings_ == nullptr) wings_ = makeItem("Wings", {}, &glass_);
   draft.view()->setFrame(navigation.rootFrame(draft));  // what does not change is then laid out
-  const auto skin = make(draft, wings_);
+  const auto skin = makeSkin(draft, wings_);
   skin.scene->readBar(navigation, draft);
   ahead_.emplace(draft.className(), skin);
 }
 
-SceneSkin SceneLoader::make(UIViewController& controller, QQuickItem* parent) {
+SceneSkin SceneLoader::makeSkin(UIViewController& controller, QQuickItem* parent) {
   auto* scene = new SceneObject(controller);
   const QVariantMap properties{{"scene", QVariant::fromValue(scene)}, {"visible", false}};
   auto* item = makeItem(controller.className(), properties, parent);

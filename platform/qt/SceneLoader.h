@@ -7,6 +7,7 @@
 #include <memory>
 #include <string>
 
+#include "platform/qt/PageMaker.h"
 #include "platform/qt/SceneObject.h"
 
 namespace leafund {
@@ -21,25 +22,27 @@ struct SceneSkin {
 // when the file is missing or faulty. A skin may be made ahead of need, with nothing in it but what
 // the scene says: a screen that comes then has only to write what is its own. It waits in the
 // wings, where it is neither seen nor reached, and is taken by one screen for good.
-class SceneLoader {
+class SceneLoader final : public PageMaker {
  public:
-  SceneLoader(QQmlEngine& engine, QQuickItem& glass) : engine_(engine), glass_(glass) {}
-  SceneLoader(const SceneLoader&) = delete;
-  SceneLoader& operator=(const SceneLoader&) = delete;
-  ~SceneLoader();
+  // Pages become children of `glass`.
+  explicit SceneLoader(QQuickItem& glass);
+  ~SceneLoader() override;
 
   // The item becomes a child of `parent`, hidden.
   SceneSkin skinOf(UIViewController& controller, QQuickItem* parent);
 
-  bool hasAhead(const std::string& className) const { return ahead_.contains(className); }
-  void makeAhead(const UINavigationController& navigation, UIViewController& draft);
+  std::unique_ptr<Page> make(UIViewController& controller, QQuickItem& parent) override;
+  void lookAhead(const UINavigationController& navigation) override;
+
+  QQmlEngine& engine() { return engine_; }
 
  private:
-  SceneSkin make(UIViewController& controller, QQuickItem* parent);
+  void makeAhead(const UINavigationController& navigation, UIViewController& draft);
+  SceneSkin makeSkin(UIViewController& controller, QQuickItem* parent);
   QQuickItem* makeItem(const std::string& fileName, const QVariantMap& properties,
                        QQuickItem* parent);
 
-  QQmlEngine& engine_;
+  QQmlEngine engine_;
   QQuickItem& glass_;
   std::map<std::string, std::unique_ptr<QQmlComponent>> components_;
   QQuickItem* wings_ = nullptr;  // once something waits there

@@ -8,9 +8,9 @@ ScenePage::ScenePage(SceneLoader& loader, UIViewController& controller, QQuickIt
     : loader_(loader), skin_(loader.skinOf(controller, parent)) {}
 
 ScenePage::~ScenePage() {
-  QObject::connect(item(), &QObject::destroyed, skin_.scene, &QObject::deleteLater);
-  item()->setVisible(false);
-  item()->deleteLater();
+  QObject::connect(&item(), &QObject::destroyed, skin_.scene, &QObject::deleteLater);
+  item().setVisible(false);
+  item().deleteLater();
 }
 
 void ScenePage::refresh(const UINavigationController& navigation, UIViewController& controller) {
@@ -20,11 +20,11 @@ void ScenePage::refresh(const UINavigationController& navigation, UIViewControll
 
 void ScenePage::showChild(UIViewController& child) {
   auto& shown = children_.pageFor(child, [this](UIViewController& screen) {
-    auto* place = item()->findChild<QQuickItem*>("tabs");
+    auto* place = item().findChild<QQuickItem*>("tabs");
     if (place == nullptr) fatalError(screen.className(), "there is no place for it in its parent");
     return std::make_unique<ScenePage>(loader_, screen, place);
   });
-  children_.forEach([&](ScenePage& page) { page.item()->setVisible(&page == &shown); });
+  children_.forEach([&](ScenePage& page) { page.item().setVisible(&page == &shown); });
 }
 
 }  // namespace leafund

@@ -1,12 +1,9 @@
 #include "platform/qt/SceneStage.h"
 
 #include <QQuickWindow>
-#include <algorithm>
-#include <iterator>
 #include <utility>
 
 #include "platform/uikit/UIApplication.h"
-#include "platform/uikit/UIStoryboard.h"
 
 namespace leafund {
 
@@ -22,11 +19,14 @@ double between(double from, double to, double share) { return from + (to - from)
 
 }  // namespace
 
-SceneStage::SceneStage(QQmlEngine& engine, QQuickItem& glass)
-    : glass_(glass), loader_(engine, glass) {
+SceneStage::SceneStage(PageMaker& maker, QQuickItem& glass) : maker_(maker), glass_(glass) {
   rest_.setSingleShot(true);
   rest_.setInterval(kRest);
-  connect(&rest_, &QTimer::timeout, this, &SceneStage::lookAhead);
+  connect(&rest_, &QTimer::timeout, this, [this] {
+    const auto* application = UIApplication::current();
+    if (application == nullptr || application->navigation() == nullptr) return;
+    maker_.lookAhead(*application->navigation());
+  });
   connect(glass.window(), &QQuickWindow::frameSwapped, &rest_, qOverload<>(&QTimer::start));
   animation_.setStartValue(0.0);
   animation_.setEndValue(1.0);
@@ -35,14 +35,13 @@ SceneStage::SceneStage(QQmlEngine& engine, QQuickItem& glass)
 }
 
 void SceneStage::show(const UINavigationController& navigation) {
-  auto change = pages_.follow(navigation, [this](UIViewController& screen) {
-    return std::make_unique<ScenePage>(loader_, screen, &glass_);
-  });
+  auto change = pages_.follow(
+      navigation, [this](UIViewController& screen) { return maker_.make(screen, glass_); });
   change.shown.refresh(navigation, *navigation.topViewController());
-  if (change.shown.item() != shown_) exchangeFor(*change.shown.item(), change.came);
+  if (&change.shown.item() != shown_) exchangeFor(change.shown.item(), change.came);
   for (auto& gone : change.gone) {
     // Only what slides out is still seen; the others end here.
-    if (gone->item() == outgoing_) leaving_.push_back(std::move(gone));
+    if (&gone->item() == outgoing_) leaving_.push_back(std::move(gone));
   }
 }
 
@@ -92,23 +91,6 @@ void SceneStage::endSlide() {
     gone->setX(0);
   }
   leaving_.clear();
-}
-
-void SceneStage::lookAhead() {
-  auto* application = UIApplication::current();
-  if (application == nullptr || application->navigation() == nullptr) return;
-  const auto& navigation = *application->navigation();
-  const auto& top = navigation.topViewController();
-  const auto* storyboard = top->storyboard();
-  if (storyboard == nullptr) return;
-  auto next = storyboard->scenesAfter(top->className());
-  if (const auto child = top->shownChild()) {
-    std::ranges::copy(storyboard->scenesAfter(child->className()), std::back_inserter(next));
-  }
-  const auto missing = std::ranges::find_if(
-      next, [&](const auto& className) { return !loader_.hasAhead(className); });
-  if (missing == next.end()) return;
-  application->turn([&] { loader_.makeAhead(navigation, *storyboard->draft(*missing)); });
 }
 
 }  // namespace leafund

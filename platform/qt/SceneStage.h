@@ -1,14 +1,14 @@
 #pragma once
 
 #include <QObject>
-#include <QQmlEngine>
 #include <QQuickItem>
 #include <QTimer>
 #include <QVariantAnimation>
 #include <memory>
 #include <vector>
 
-#include "platform/qt/ScenePage.h"
+#include "platform/display/ScreenPages.h"
+#include "platform/qt/PageMaker.h"
 
 namespace leafund {
 
@@ -17,7 +17,7 @@ namespace leafund {
 class SceneStage : public QObject {
  public:
   // Screens become children of `glass`.
-  SceneStage(QQmlEngine& engine, QQuickItem& glass);
+  SceneStage(PageMaker& maker, QQuickItem& glass);
 
   void show(const UINavigationController& navigation);
 
@@ -25,14 +25,12 @@ class SceneStage : public QObject {
   void exchangeFor(QQuickItem& incoming, bool forward);
   void slide(QQuickItem& incoming, bool forward);
   void endSlide();
-  // While nothing moves: makes ahead a skin that the screen shown may lead to.
-  void lookAhead();
 
+  PageMaker& maker_;
   QQuickItem& glass_;
-  SceneLoader loader_;
   QTimer rest_;
-  ScreenPages<ScenePage> pages_;
-  std::vector<std::unique_ptr<ScenePage>> leaving_;  // until their slide has ended
+  ScreenPages<Page> pages_;
+  std::vector<std::unique_ptr<Page>> leaving_;  // until their slide has ended
   QQuickItem* shown_ = nullptr;
   QQuickItem* outgoing_ = nullptr;  // while it slides
   QVariantAnimation animation_;

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "platform/foundation/NSURLRequest.h"
+#include "platform/qt/LeafundWindow.h"
 #include "platform/qt/QtWindow.h"
 #include "platform/uikit/UIApplication.h"
 #include "platform/uikit/UINavigationController.h"
@@ -21,7 +22,7 @@ constexpr int kPauseMilliseconds = 100;
 }  // namespace
 
 PreviewHost::PreviewHost(int argc, char** argv, const QString& skins)
-    : folder_(skins), skins_(skins), host_(argc, argv) {}
+    : folder_(skins), skins_(skins), host_(argc, argv, leafundWindow()) {}
 
 PreviewHost::~PreviewHost() { stop(); }
 
@@ -50,7 +51,7 @@ void PreviewHost::stop() {
   pause_.reset();
   stage_.reset();
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-  engine_.reset();
+  pages_.reset();
   host_.stop();
 }
 
@@ -61,16 +62,16 @@ void PreviewHost::transfer(const NSURLRequest& request, CompletionHandler comple
 void PreviewHost::show(const UINavigationController& navigation) {
   if (window() == nullptr) return;
   if (!stage_) {
-    engine_ = makeEngine();
-    stage_ = std::make_unique<SceneStage>(*engine_, *window()->contentItem());
+    pages_ = makePages();
+    stage_ = std::make_unique<SceneStage>(*pages_, *window()->contentItem());
   }
   stage_->show(navigation);
 }
 
-std::unique_ptr<QQmlEngine> PreviewHost::makeEngine() {
-  auto engine = std::make_unique<QQmlEngine>();
-  engine->addUrlInterceptor(&skins_);
-  return engine;
+std::unique_ptr<SceneLoader> PreviewHost::makePages() {
+  auto pages = std::make_unique<SceneLoader>(*window()->contentItem());
+  pages->engine().addUrlInterceptor(&skins_);
+  return pages;
 }
 
 // A file that was replaced is not watched any more, so all are named again each time.
@@ -86,16 +87,16 @@ void PreviewHost::reload() {
   watch();
   const auto& navigation = *UIApplication::current()->navigation();
   const auto name = QString::fromStdString(navigation.topViewController()->className());
-  auto engine = makeEngine();
-  const QQmlComponent trial(engine.get(), skins_.skinOf(name));
+  auto pages = makePages();
+  const QQmlComponent trial(&pages->engine(), skins_.skinOf(name));
   if (!trial.isReady()) {
     std::fprintf(stderr, "%s", qPrintable(trial.errorString()));
     return;
   }
   stage_.reset();
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-  engine_ = std::move(engine);
-  stage_ = std::make_unique<SceneStage>(*engine_, *window()->contentItem());
+  pages_ = std::move(pages);
+  stage_ = std::make_unique<SceneStage>(*pages_, *window()->contentItem());
   stage_->show(navigation);
   ++reloads_;
 }

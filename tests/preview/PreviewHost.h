@@ -1,11 +1,11 @@
 #pragma once
 
 #include <QFileSystemWatcher>
-#include <QQmlEngine>
 #include <QTimer>
 #include <memory>
 
 #include "platform/qt/QtHost.h"
+#include "platform/qt/SceneLoader.h"
 #include "platform/qt/SceneStage.h"
 #include "tests/preview/SourceSkins.h"
 
@@ -34,7 +34,7 @@ class PreviewHost final : public Host {
   int reloads() const { return reloads_; }
 
  private:
-  std::unique_ptr<QQmlEngine> makeEngine();
+  std::unique_ptr<SceneLoader> makePages();
   void watch();
   // Leaves the window as it is where the skin, or one it uses, cannot be read.
   void reload();
@@ -44,7 +44,7 @@ class PreviewHost final : public Host {
   QtHost host_;
   std::unique_ptr<QFileSystemWatcher> watcher_;
   std::unique_ptr<QTimer> pause_;
-  std::unique_ptr<QQmlEngine> engine_;
+  std::unique_ptr<SceneLoader> pages_;
   std::unique_ptr<SceneStage> stage_;
   int reloads_ = 0;
 };

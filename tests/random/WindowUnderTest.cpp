@@ -3,6 +3,7 @@
 #include <QQuickItem>
 #include <QRegularExpression>
 
+#include "platform/qt/LeafundWindow.h"
 #include "platform/uikit/UINavigationController.h"
 #include "platform/uikit/UITabContainer.h"
 #include "platform/uikit/UITableView.h"
@@ -19,7 +20,7 @@ QtHost makeHost() {
   static int argc = 1;
   static char name[] = "leafund";
   static char* argv[] = {name, nullptr};
-  return QtHost(argc, argv);
+  return QtHost(argc, argv, leafundWindow());
 }
 
 const UIView* rootOf(const UIView& view) {

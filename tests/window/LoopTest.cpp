@@ -2,6 +2,7 @@
 
 #include <QGuiApplication>
 
+#include "platform/qt/LeafundWindow.h"
 #include "tests/support/ProbeDelegate.h"
 #include "tests/window/WindowFixture.h"
 
@@ -21,7 +22,7 @@ class LoopTest : public testing::Test {
   int argc_ = 1;
   char name_[8] = "leafund";
   char* argv_[2] = {name_, nullptr};
-  QtHost host{argc_, argv_};
+  QtHost host{argc_, argv_, leafundWindow()};
   ProbeLog log;
   std::shared_ptr<UIApplication> application =
       std::make_shared<UIApplication>(host, mainStoryboard(), std::make_shared<ProbeDelegate>(log));

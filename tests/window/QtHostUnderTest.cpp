@@ -2,6 +2,7 @@
 #include <memory>
 #include <utility>
 
+#include "platform/qt/LeafundWindow.h"
 #include "platform/qt/QtHost.h"
 #include "platform/qt/QtWindow.h"
 #include "tests/contract/HostUnderTest.h"
@@ -46,7 +47,7 @@ class QtHostUnderTest final : public HostUnderTest {
   static inline char name_[] = "leafund";
   static inline char* argv_[] = {name_, nullptr};
 
-  QtHost host_{argc_, argv_};
+  QtHost host_{argc_, argv_, leafundWindow()};
   std::unique_ptr<PictureServer> server_;
 };
 

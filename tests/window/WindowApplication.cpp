@@ -10,6 +10,7 @@
 
 #include "model/Catalogue.h"
 #include "model/PictureHost.h"
+#include "platform/qt/LeafundWindow.h"
 #include "platform/qt/PictureItem.h"
 #include "tests/support/PictureAnswers.h"
 #include "tests/support/ProjectPictures.h"
@@ -28,7 +29,7 @@ QtHost makeHost() {
   static int argc = 1;
   static char name[] = "leafund";
   static char* argv[] = {name, nullptr};
-  return QtHost(argc, argv);
+  return QtHost(argc, argv, leafundWindow());
 }
 
 }  // namespace

@@ -12,6 +12,7 @@
 
 #include "model/Catalogue.h"
 #include "platform/foundation/AmountText.h"
+#include "platform/qt/LeafundWindow.h"
 #include "platform/qt/ViewObject.h"
 #include "platform/uikit/UITabContainer.h"
 #include "platform/uikit/UITableView.h"
@@ -24,7 +25,7 @@ namespace {
 TEST_F(WindowTest, TheWindowStartsAtThePhonesNaturalSizeOrTheScreensWhereThatIsSmaller) {
   const QSize screen = app.window().screen()->availableSize();
   ASSERT_LT(screen.height(), 844);
-  EXPECT_EQ(QtWindow().size(), QSize(390, screen.height()));
+  EXPECT_EQ(QtWindow(leafundWindow()).size(), QSize(390, screen.height()));
 }
 
 TEST_F(WindowTest, TheWindowBearsTheIconWithoutBeingInstalled) {
@@ -218,7 +219,7 @@ TEST(LoopTest, ClosingTheWindowEndsTheLoopAndAnswersZero) {
   int argc = 1;
   char name[] = "leafund";
   char* argv[] = {name, nullptr};
-  QtHost host(argc, argv);
+  QtHost host(argc, argv, leafundWindow());
   setCurrentHost(&host);
   const auto application =
       std::make_shared<UIApplication>(host, mainStoryboard(), std::make_shared<AppDelegate>());

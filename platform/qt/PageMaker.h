@@ -1,0 +1,41 @@
+#pragma once
+
+#include <memory>
+
+class QQuickItem;
+
+namespace leafund {
+
+class UINavigationController;
+class UIViewController;
+
+// A screen in the window. A page that ends deletes its item later, so that no handler deletes its
+// own item.
+class Page {
+ public:
+  Page() = default;
+  Page(const Page&) = delete;
+  Page& operator=(const Page&) = delete;
+  virtual ~Page() = default;
+
+  virtual QQuickItem& item() const = 0;
+  // Brings the bar and the child that the screen shows up to date.
+  virtual void refresh(const UINavigationController& navigation, UIViewController& controller) = 0;
+};
+
+// Who makes the pages: the host shows, hides, slides and ends them, and knows nothing of their
+// look.
+class PageMaker {
+ public:
+  PageMaker() = default;
+  PageMaker(const PageMaker&) = delete;
+  PageMaker& operator=(const PageMaker&) = delete;
+  virtual ~PageMaker() = default;
+
+  // The controller's view must be loaded. The page's item becomes a child of `parent`, hidden.
+  virtual std::unique_ptr<Page> make(UIViewController& controller, QQuickItem& parent) = 0;
+  // Called while nothing moves: may prepare a page that the screen shown may lead to.
+  virtual void lookAhead(const UINavigationController& navigation) = 0;
+};
+
+}  // namespace leafund
