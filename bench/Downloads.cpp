@@ -8,8 +8,8 @@
 
 #include "bench/Figures.h"
 #include "bench/WindowBench.h"
+#include "interface/qml/items/PictureItem.h"
 #include "platform/graphics/DrawingContext.h"
-#include "platform/qt/PictureItem.h"
 #include "platform/uikit/UITableViewCell.h"
 #include "tests/support/PictureAnswers.h"
 #include "tests/support/PictureAnswersProtocol.h"

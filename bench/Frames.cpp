@@ -11,7 +11,7 @@
 
 #include "bench/Figures.h"
 #include "bench/WindowBench.h"
-#include "platform/qt/PictureItem.h"
+#include "interface/qml/items/PictureItem.h"
 #include "platform/uikit/UITableViewCell.h"
 
 namespace leafund {

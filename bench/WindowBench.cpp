@@ -6,7 +6,7 @@
 #include <chrono>
 
 #include "bench/Campaigns.h"
-#include "platform/qt/LeafundWindow.h"
+#include "interface/qml/LeafundWindow.h"
 #include "platform/uikit/UINavigationController.h"
 #include "platform/uikit/UITabContainer.h"
 #include "shell/AppDelegate.h"

@@ -1,4 +1,4 @@
-#include "platform/qt/LeafundWindow.h"
+#include "interface/qml/LeafundWindow.h"
 #include "platform/qt/QtHost.h"
 #include "platform/qt/StandardStreams.h"
 #include "shell/AppDelegate.h"

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <QtQmlIntegration/qqmlintegration.h>
-
 #include <QPointer>
 #include <QQuickItem>
 
@@ -12,7 +10,6 @@ namespace leafund {
 // Qt::ActiveWindowFocusReason. Whoever then types or presses into the item has entered it too.
 class FocusWatch : public QObject {
   Q_OBJECT
-  QML_ELEMENT
   Q_PROPERTY(QQuickItem* target READ target WRITE setTarget NOTIFY targetChanged)
   // The item has the focus by the keyboard or by assistive technology, which must be seen; also
   // when the host gave it, if the keyboard is what the user uses.

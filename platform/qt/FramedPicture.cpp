@@ -5,7 +5,7 @@
 #include <algorithm>
 
 #include "platform/qt/PicturePixels.h"
-#include "platform/qt/ViewLook.h"
+#include "platform/qt/QtValues.h"
 
 namespace leafund {
 

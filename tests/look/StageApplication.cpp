@@ -8,9 +8,9 @@
 #include <cmath>
 #include <stdexcept>
 
+#include "interface/qml/bridge/ViewObject.h"
+#include "interface/qml/items/PictureItem.h"
 #include "model/Catalogue.h"
-#include "platform/qt/PictureItem.h"
-#include "platform/qt/ViewObject.h"
 #include "platform/uikit/UITableView.h"
 #include "platform/uikit/UITableViewCell.h"
 #include "tests/look/WindowItems.h"

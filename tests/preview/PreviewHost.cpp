@@ -6,8 +6,8 @@
 #include <cstdio>
 #include <utility>
 
+#include "interface/qml/LeafundWindow.h"
 #include "platform/foundation/NSURLRequest.h"
-#include "platform/qt/LeafundWindow.h"
 #include "platform/qt/QtWindow.h"
 #include "platform/uikit/UIApplication.h"
 #include "platform/uikit/UINavigationController.h"

@@ -4,8 +4,8 @@
 #include <QTimer>
 #include <memory>
 
+#include "interface/qml/SceneLoader.h"
 #include "platform/qt/QtHost.h"
-#include "platform/qt/SceneLoader.h"
 #include "platform/qt/SceneStage.h"
 #include "tests/preview/SourceSkins.h"
 

@@ -2,7 +2,7 @@
 #include <cmath>
 #include <map>
 
-#include "platform/qt/ViewLook.h"
+#include "interface/qml/bridge/ViewLook.h"
 #include "platform/uikit/UIButton.h"
 #include "platform/uikit/UILabel.h"
 #include "platform/uikit/UINavigationController.h"

@@ -3,7 +3,7 @@
 #include <QQuickItem>
 #include <QRegularExpression>
 
-#include "platform/qt/LeafundWindow.h"
+#include "interface/qml/LeafundWindow.h"
 #include "platform/uikit/UINavigationController.h"
 #include "platform/uikit/UITabContainer.h"
 #include "platform/uikit/UITableView.h"

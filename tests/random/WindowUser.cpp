@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "platform/qt/ViewLook.h"
+#include "interface/qml/bridge/ViewLook.h"
 
 // What the user of a window does for an action.
 namespace leafund::random {

@@ -1,6 +1,6 @@
 #include <map>
 
-#include "platform/qt/ViewLook.h"
+#include "interface/qml/bridge/ViewLook.h"
 #include "platform/uikit/UIButton.h"
 #include "platform/uikit/UILabel.h"
 #include "platform/uikit/UITextInput.h"

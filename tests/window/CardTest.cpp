@@ -1,4 +1,4 @@
-#include "platform/qt/CardItem.h"
+#include "interface/qml/items/CardItem.h"
 #include "tests/window/WindowFixture.h"
 
 namespace leafund {

@@ -5,10 +5,10 @@
 #include <QQuickItemGrabResult>
 #include <utility>
 
+#include "interface/qml/bridge/ViewObject.h"
+#include "interface/qml/items/PictureItem.h"
 #include "model/Catalogue.h"
 #include "platform/foundation/NSURLRequest.h"
-#include "platform/qt/PictureItem.h"
-#include "platform/qt/ViewObject.h"
 #include "platform/uikit/UITableView.h"
 #include "platform/uikit/UITableViewCell.h"
 #include "tests/support/ViewNamed.h"

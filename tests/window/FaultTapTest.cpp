@@ -7,9 +7,9 @@
 #include <semaphore>
 #include <thread>
 
+#include "interface/qml/items/PictureItem.h"
 #include "model/Catalogue.h"
 #include "platform/graphics/DrawingContext.h"
-#include "platform/qt/PictureItem.h"
 #include "platform/uikit/UITableView.h"
 #include "tests/support/PictureAnswers.h"
 #include "tests/window/FaultApplication.h"

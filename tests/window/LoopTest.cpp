@@ -2,7 +2,7 @@
 
 #include <QGuiApplication>
 
-#include "platform/qt/LeafundWindow.h"
+#include "interface/qml/LeafundWindow.h"
 #include "tests/support/ProbeDelegate.h"
 #include "tests/window/WindowFixture.h"
 

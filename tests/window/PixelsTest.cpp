@@ -1,6 +1,6 @@
 #include <QBuffer>
 
-#include "platform/qt/PictureItem.h"
+#include "interface/qml/items/PictureItem.h"
 #include "platform/uikit/UIImageView.h"
 #include "tests/window/HeldTime.h"
 #include "tests/window/WindowFixture.h"

@@ -2,7 +2,7 @@
 #include <memory>
 #include <utility>
 
-#include "platform/qt/LeafundWindow.h"
+#include "interface/qml/LeafundWindow.h"
 #include "platform/qt/QtHost.h"
 #include "platform/qt/QtWindow.h"
 #include "tests/contract/HostUnderTest.h"

@@ -1,7 +1,7 @@
 #include <QQuickWindow>
 #include <QSignalSpy>
 
-#include "platform/qt/StillText.h"
+#include "interface/qml/items/StillText.h"
 #include "tests/support/ProcessorTime.h"
 #include "tests/window/WindowFixture.h"
 

@@ -8,10 +8,10 @@
 #include <fstream>
 #include <iterator>
 
+#include "interface/qml/LeafundWindow.h"
+#include "interface/qml/items/PictureItem.h"
 #include "model/Catalogue.h"
 #include "model/PictureHost.h"
-#include "platform/qt/LeafundWindow.h"
-#include "platform/qt/PictureItem.h"
 #include "tests/support/PictureAnswers.h"
 #include "tests/support/ProjectPictures.h"
 #include "tests/support/ViewNamed.h"

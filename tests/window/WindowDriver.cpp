@@ -1,6 +1,6 @@
 #include <QTest>
 
-#include "platform/qt/ViewObject.h"
+#include "interface/qml/bridge/ViewObject.h"
 #include "platform/uikit/UITableView.h"
 #include "platform/uikit/UITableViewCell.h"
 #include "tests/journeys/Driver.h"

@@ -10,10 +10,10 @@
 #include <algorithm>
 #include <limits>
 
+#include "interface/qml/LeafundWindow.h"
+#include "interface/qml/bridge/ViewObject.h"
 #include "model/Catalogue.h"
 #include "platform/foundation/AmountText.h"
-#include "platform/qt/LeafundWindow.h"
-#include "platform/qt/ViewObject.h"
 #include "platform/uikit/UITabContainer.h"
 #include "platform/uikit/UITableView.h"
 #include "tests/support/PictureAnswers.h"

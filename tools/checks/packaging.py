@@ -46,7 +46,7 @@ def one_name(project):
         "packaging/app.leafund.Leafund.desktop": r"^Icon=(\S+)",
         "packaging/app.leafund.Leafund.metainfo.xml": r"<id>(\S+)</id>",
         "packaging/app.leafund.Leafund.yaml": r"^id: (\S+)",
-        "platform/qt/LeafundWindow.cpp": r'desktopFile = \D+?"([^"]+)"',
+        "interface/qml/LeafundWindow.cpp": r'desktopFile = \D+?"([^"]+)"',
     }
     said = {path: re.findall(pattern, project.text(path), re.M)[:1]
             for path, pattern in names.items()}

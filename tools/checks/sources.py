@@ -33,7 +33,7 @@ def headers(project):
             return False
         return re.findall(r'#include\s+["<]([^">]+)', project.text(source))[0] == path
 
-    far = ("platform/qt/", "tests/", "bench/")
+    far = ("platform/qt/", "interface/qml/", "tests/", "bench/")
     paths = [path for path in project.files(".h") if not path.startswith(far) and not proved(path)]
     alone = ["g++", "-std=c++20", "-fsyntax-only", "-I.", "-x", "c++", "/dev/null", "-include"]
     return each(project, paths, lambda path: [*alone, path])

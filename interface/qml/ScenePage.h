@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QQuickItem>
+
+#include "interface/qml/SceneLoader.h"
+#include "platform/display/ScreenPages.h"
+
+namespace leafund {
+
+// A screen by its QML: the bridge of its scene, its item, and the pages of the children it has
+// shown. The item's objectName is the controller's class name. Ending a page deletes its item later
+// and the bridge after it, so that no handler deletes its own item and no binding meets a bridge
+// that is gone.
+class ScenePage final : public Page {
+ public:
+  ScenePage(SceneLoader& loader, UIViewController& controller, QQuickItem* parent);
+  ~ScenePage() override;
+
+  QQuickItem& item() const override { return *skin_.item; }
+  void refresh(const UINavigationController& navigation, UIViewController& controller) override;
+
+ private:
+  void showChild(UIViewController& child);
+
+  SceneLoader& loader_;
+  SceneSkin skin_;
+  ScreenPages<ScenePage> children_;
+};
+
+}  // namespace leafund

@@ -1,0 +1,100 @@
+#include "interface/qml/access/ItemAccess.h"
+
+#include <QQmlContext>
+#include <QQmlProperty>
+#include <QQuickWindow>
+
+#include "interface/qml/access/InputAccess.h"
+#include "interface/qml/access/ProgressAccess.h"
+#include "interface/qml/access/WordsAccess.h"
+
+namespace leafund {
+
+namespace {
+
+// A pane that hides its children from assistive technology.
+class ClosedAccess final : public ItemAccess {
+ public:
+  using ItemAccess::ItemAccess;
+  QAccessible::Role role() const override { return QAccessible::Pane; }
+};
+
+QAccessibleInterface* accessFor(const QString&, QObject* object) {
+  auto* item = qobject_cast<QQuickItem*>(object);
+  if (item == nullptr) return nullptr;
+  if (item->inherits("QQuickTextInput") || item->inherits("QQuickTextEdit")) {
+    return new InputAccess(item);
+  }
+  if (item->metaObject()->indexOfProperty("closed") >= 0) return new ClosedAccess(item);
+  if (item->metaObject()->indexOfProperty("maximumValue") >= 0) return new ProgressAccess(item);
+  if (item->metaObject()->indexOfProperty("heading") >= 0) return new WordsAccess(item);
+  return nullptr;
+}
+
+}  // namespace
+
+void describeItemsToAssistiveTechnology() { QAccessible::installFactory(accessFor); }
+
+QAccessibleInterface* ItemAccess::parent() const {
+  auto* window = item()->window();
+  if (window == nullptr) return nullptr;
+  for (auto* each = item()->parentItem(); each != nullptr; each = each->parentItem()) {
+    if (each == window->contentItem()) break;
+    if (auto* access = QAccessible::queryAccessibleInterface(each)) return access;
+  }
+  return QAccessible::queryAccessibleInterface(window);
+}
+
+QRect ItemAccess::onScreen(const QRectF& area) const {
+  const auto* window = item()->window();
+  if (window == nullptr) return {};
+  const QRect inWindow = item()->mapRectToScene(area).toRect();
+  return {window->mapToGlobal(inWindow.topLeft()), inWindow.size()};
+}
+
+// What is hidden has no place.
+QRect ItemAccess::rect() const { return item()->isVisible() ? onScreen(area()) : QRect(); }
+
+// Whether neither the window nor a scrolled pane cuts off all of it.
+bool ItemAccess::inSight() const {
+  QRectF seen = area();
+  for (const auto* each = item(); each->parentItem() != nullptr; each = each->parentItem()) {
+    if (each->clip() && each != item()) seen &= each->boundingRect();
+    seen = each->mapRectToItem(each->parentItem(), seen);
+  }
+  return item()->window() != nullptr && seen.intersects(QRectF({0, 0}, item()->window()->size()));
+}
+
+QString ItemAccess::text(QAccessible::Text kind) const {
+  const auto written = [this](const char* property) {
+    return QQmlProperty::read(item(), property, qmlContext(item())).toString();
+  };
+  if (kind == QAccessible::Name) return written("Accessible.name");
+  if (kind == QAccessible::Description) return written("Accessible.description");
+  return {};
+}
+
+QAccessible::State ItemAccess::state() const {
+  QAccessible::State state;
+  const auto* window = item()->window();
+  state.invisible = window == nullptr || !window->isVisible() || !item()->isVisible();
+  state.offscreen = !inSight();
+  state.disabled = !item()->isEnabled();
+  state.focusable = focusable();
+  state.focused = item()->hasActiveFocus();
+  return state;
+}
+
+void* ItemAccess::interface_cast(QAccessible::InterfaceType type) {
+  if (type != QAccessible::ActionInterface || !focusable()) return nullptr;
+  return static_cast<QAccessibleActionInterface*>(this);
+}
+
+QStringList ItemAccess::actionNames() const { return {setFocusAction()}; }
+
+void ItemAccess::doAction(const QString& action) {
+  if (action != setFocusAction() || !item()->isVisible() || !item()->isEnabled()) return;
+  item()->forceActiveFocus(Qt::OtherFocusReason);
+}
+
+}  // namespace leafund

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QtQmlIntegration/qqmlintegration.h>
+
+#include <vector>
+
+#include "interface/qml/items/ViewImageItem.h"
+
+namespace leafund {
+
+// The cards that lie behind a row, with their shadows, on the ground of the list. Opaque, so that
+// nothing beneath it has to be drawn. A card keeps the width that the screen had when it was laid
+// down; in the window each spans the row, so that a list stays whole when its window is widened.
+class CardItem : public ViewImageItem {
+  Q_OBJECT
+  QML_ELEMENT
+
+ public:
+  using ViewImageItem::ViewImageItem;
+
+ protected:
+  QImage paint(QSize pixels, double scale) override;
+  void catchUp() override;
+
+ private:
+  // An image and all that it depends on.
+  struct Painted {
+    std::vector<CardLook> looks;
+    QColor ground;
+    QSize pixels;
+    double scale = 0;
+    QImage image;
+    bool isOf(const CardItem& item, QSize size, double scaled) const;
+  };
+
+  QImage painted(QSize pixels, double scale) const;
+
+  std::vector<CardLook> looks_;  // of width 0: each spans the row
+};
+
+}  // namespace leafund

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QtQmlIntegration/qqmlintegration.h>
+
+#include <QColor>
+
+#include "interface/qml/items/ImageItem.h"
+
+namespace leafund {
+
+// A drawn sign in one colour, on a grid of 24 by 24 that is stretched to the item's size.
+class IconItem : public ImageItem {
+  Q_OBJECT
+  QML_ELEMENT
+  Q_PROPERTY(Icon icon READ icon WRITE setIcon NOTIFY iconChanged REQUIRED)
+  Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged REQUIRED)
+
+ public:
+  enum Icon { Leaf, Search, Heart, Sprout, Paper, Back, Flag, Alert, HillFar, HillNear, Corner };
+  Q_ENUM(Icon)
+  using ImageItem::ImageItem;
+
+  Icon icon() const { return icon_; }
+  void setIcon(Icon icon);
+  QColor color() const { return color_; }
+  void setColor(const QColor& color);
+
+ signals:
+  void iconChanged();
+  void colorChanged();
+
+ protected:
+  QImage paint(QSize pixels, double scale) override;
+
+ private:
+  Icon icon_ = Leaf;
+  QColor color_ = Qt::black;
+};
+
+}  // namespace leafund

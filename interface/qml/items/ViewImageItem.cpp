@@ -1,0 +1,21 @@
+#include "interface/qml/items/ViewImageItem.h"
+
+namespace leafund {
+
+void ViewImageItem::setView(ViewObject* view) {
+  if (view == view_) return;
+  if (view_) disconnect(view_, nullptr, this, nullptr);
+  view_ = view;
+  if (view_) connect(view_, &ViewObject::changed, this, &ViewImageItem::catchUp);
+  emit viewChanged();
+  if (view_) catchUp();
+}
+
+void ViewImageItem::setGround(const QColor& ground) {
+  if (ground == ground_) return;
+  ground_ = ground;
+  emit groundChanged();
+  repaint();
+}
+
+}  // namespace leafund

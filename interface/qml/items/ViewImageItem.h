@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QtQmlIntegration/qqmlintegration.h>
+
+#include <QColor>
+#include <QPointer>
+
+#include "interface/qml/bridge/ViewObject.h"
+#include "interface/qml/items/ImageItem.h"
+
+namespace leafund {
+
+// An image painted from what a view shows, on a ground, and painted again when either changes.
+class ViewImageItem : public ImageItem {
+  Q_OBJECT
+  QML_ANONYMOUS
+  Q_PROPERTY(leafund::ViewObject* view READ view WRITE setView NOTIFY viewChanged REQUIRED)
+  Q_PROPERTY(QColor ground READ ground WRITE setGround NOTIFY groundChanged)
+
+ public:
+  using ImageItem::ImageItem;
+
+  ViewObject* view() const { return view_; }
+  void setView(ViewObject* view);
+  QColor ground() const { return ground_; }
+  void setGround(const QColor& ground);
+
+ signals:
+  void viewChanged();
+  void groundChanged();
+
+ protected:
+  // Takes over what the view shows now, and repaints only where it is something else: a row's view
+  // is refreshed at every scroll step.
+  virtual void catchUp() = 0;
+
+ private:
+  QPointer<ViewObject> view_;
+  QColor ground_ = Qt::transparent;
+};
+
+}  // namespace leafund
