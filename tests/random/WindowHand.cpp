@@ -14,7 +14,6 @@ namespace {
 
 constexpr int kFrame = 16;        // milliseconds
 constexpr int kMostFrames = 400;  // until rest: a fling takes 2 to 3 seconds
-constexpr int kDrawn = 4;         // the window draws one frame in so many on its way to rest
 constexpr int kHeldFor = 20;      // milliseconds that a key is down
 constexpr int kLookAhead = 60;    // real milliseconds, after which the host prepares what may come
 
@@ -129,7 +128,7 @@ bool WindowHand::rest() {
   for (int frame = 0; frame < kMostFrames; ++frame) {
     QCoreApplication::processEvents();
     clock_.pass(kFrame);
-    if (frame % kDrawn == 0 || !clock_.isRunning()) draw();
+    draw();
     QCoreApplication::processEvents();
     if (frame > 1 && !clock_.isRunning()) return true;
   }
