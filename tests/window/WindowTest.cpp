@@ -215,7 +215,7 @@ TEST_F(WindowTest, TakingTheWindowDownWithFetchesUnderWayEndsAtOnceAndFreesTheSc
   EXPECT_TRUE(browse.expired());
 }
 
-TEST(LoopTest, ClosingTheWindowEndsTheLoopAndAnswersZero) {
+TEST(WindowLoopTest, ClosingTheWindowEndsTheLoopAndAnswersZero) {
   int argc = 1;
   char name[] = "leafund";
   char* argv[] = {name, nullptr};
