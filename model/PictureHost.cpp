@@ -5,10 +5,14 @@ namespace {
 
 constexpr std::string_view base = LEAFUND_PICTURE_HOST;
 
-// A record holds an absolute http address, and one that does not parse stops the app when the
+constexpr bool isMoreThan(std::string_view scheme) {
+  return base.starts_with(scheme) && base.size() > scheme.size();
+}
+
+// A record holds an absolute address of the web, and one that does not parse stops the app when the
 // picture is fetched. A mistaken base is better met here, when the deployment builds.
-static_assert(base.starts_with("http://") && base.size() > std::string_view("http://").size(),
-              "LEAFUND_PICTURE_HOST must be an absolute http address");
+static_assert(isMoreThan("http://") || isMoreThan("https://"),
+              "LEAFUND_PICTURE_HOST must be an absolute http or https address");
 static_assert(!base.ends_with('/'), "LEAFUND_PICTURE_HOST must not end with a slash");
 
 }  // namespace

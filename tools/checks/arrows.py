@@ -15,12 +15,13 @@ ARROWS = {
     "platform/curl": {"platform", "platform/foundation"},
     "platform/qt": TOOLKIT | {"platform/display", "platform/curl"},
     "interface/qml": TOOLKIT | {"platform/display", "platform/qt"},
+    "platform/web": TOOLKIT | {"platform/display"},
     "screens": {"model"} | TOOLKIT,
     "interface/scenes": {"model", "screens"} | TOOLKIT,
     "shell": {"model", "screens", "interface/scenes"} | TOOLKIT,
 }
-# main puts the program together; tests and benchmarks may stand on anything.
-FREE = ("shell/main.cpp", "tests/", "bench/")
+# What puts a host's program together; tests and benchmarks may stand on anything.
+FREE = ("shell/main.cpp", "shell/WebMain.cpp", "tests/", "bench/")
 
 # A library, the includes that betray it, and the rooms that may use it.
 LIBRARIES = (
@@ -85,7 +86,7 @@ def libraries(project):
         f"{path}:{number} includes {target[1:]}: {name} belongs to {' and '.join(homes)}"
         for path, number, target in includes(project)
         for name, pattern, *homes in LIBRARIES
-        if re.match(pattern, target) and not path.startswith((*(f"{home}/" for home in homes), *FREE[1:]))
+        if re.match(pattern, target) and not path.startswith((*(f"{home}/" for home in homes), *FREE[2:]))
     ]
 
 

@@ -1,0 +1,402 @@
+// The page's side of platform/web/Bridge.h, and the browser's events.
+const encoder = new TextEncoder(), decoder = new TextDecoder();
+const strict = new TextDecoder("utf-8", { fatal: true, ignoreBOM: true });
+const by = id => document.getElementById(id);
+const views = new Map();   // number -> its element and how that is drawn
+const scenes = new Map();  // number -> element
+let program, memory, shown = null;
+
+const bytes = (at, size) => new Uint8Array(memory.buffer, at, size);
+const textAt = (at, size) => decoder.decode(bytes(at, size));
+const jsonAt = (at, size) => JSON.parse(textAt(at, size));
+
+// Bytes handed over to the program, which lets go of them.
+function given(data) {
+  const at = program.room(data.length);
+  bytes(at, data.length).set(data);
+  return [at, data.length];
+}
+
+// --- Into the program. A trap is its fatal error, and stops it for good.
+
+let lastComplaint = "";
+
+function tell(event, ...values) {
+  if (!program) return;
+  try {
+    program[event](...values);
+  } catch (error) {
+    program = null;
+    by("stopped").querySelector("p").textContent = lastComplaint || String(error);
+    by("stopped").showModal();
+    throw error;
+  }
+}
+
+// --- Views: a binding for each kind of element. It wires the events and answers how to draw.
+
+function writeText(element, look) {
+  if (look.text === undefined) return;
+  element.textContent = look.text;
+  if (!look.label) return;
+  const label = document.createElement("span");
+  label.className = "unseen";
+  label.textContent = `${look.label}: `;
+  element.prepend(label);
+}
+
+const bindings = {
+  LABEL(element, id) {
+    const input = element.querySelector("input, textarea"), caption = element.querySelector("span");
+    input.addEventListener("focus", () => {
+      tell("beginEditing", id);
+      if (input.value && input.ariaInvalid === "true") input.select();
+    });
+    // Another window's turn ends no editing.
+    input.addEventListener("blur", () => document.hasFocus() && tell("endEditing", id));
+    input.addEventListener("input", () => tell("edit", id, ...given(encoder.encode(input.value))));
+    if (input.tagName === "INPUT")
+      input.addEventListener("keydown", event =>
+        event.key === "Enter" && !event.isComposing && tell("pressReturn", id));
+    let announced = "";
+    return look => {
+      caption.textContent = look.placeholder;
+      input.inputMode = look.mode;
+      if (input.tagName === "INPUT") input.type = look.masked ? "password" : "text";
+      if (input.value !== look.text) input.value = look.text;
+      input.ariaInvalid = String(!!look.wrong);
+      const message = look.message ? look.text : "";
+      if (message && message !== announced) by("said").textContent = `${look.placeholder}: ${message}`;
+      announced = message;
+      if (!look.editing && document.activeElement === input) input.blur();
+    };
+  },
+  BUTTON(element, id) {
+    const words = element.querySelector("span") ?? element;
+    element.addEventListener("click", () => tell("tap", id));
+    return look => {
+      words.textContent = look.text;
+      if (element.role !== "tab") return;
+      element.ariaSelected = String(!!look.selected);
+      element.style.color = look.selected ? look.color : "";
+    };
+  },
+  NAV: element => look => {
+    element.ariaLabel = look.label;
+    element.style.setProperty("--tint", look.tint);
+  },
+  PROGRESS: element => look => {
+    if (look.from !== look.value) {
+      element.value = look.from;
+      element.getBoundingClientRect();  // so that the change to come is a change
+    }
+    element.value = look.value;
+    element.ariaLabel = look.label;
+  },
+  IMG: element => look => {
+    element.alt = look.label ?? "";
+    element.style.objectFit = look.fill ? "cover" : "fill";
+    if (look.radius) element.style.borderRadius = `${look.radius}px`;
+    if (look.border) element.style.border = `${look.border}px solid ${look.borderColor}`;
+  },
+  UL: bindTable,
+  LI(element, id) {
+    element.firstElementChild.addEventListener("click", () => tell("tap", id));
+    return () => {};
+  },
+};
+
+function bind(id, element) {
+  const draw = (bindings[element.tagName] ?? (() => look => writeText(element, look)))(element, id);
+  views.set(id, { element, draw });
+}
+
+// The rows lie in a pane that stays with the window: the browser may scroll ahead of the program, and
+// would show what is not there yet.
+const tallest = 16_000_000;  // px; browsers lay out no more than 33 million
+
+function bindTable(element, id) {
+  const space = element.parentElement, box = space.parentElement;
+  let look = { height: 0, placements: -1 }, shift = 0;
+  const reach = () => Math.max(0, look.height - box.clientHeight);
+  const scrollable = () => Math.max(0, Math.min(look.height, tallest) - box.clientHeight);
+  // Where all the content does not fit into an element, the offset is that of the element and a shift,
+  // which is set anew after a jump and whenever the scrolling rests.
+  const settle = offset => {
+    const top = reach() > scrollable() ? Math.round(offset / reach() * scrollable()) : offset;
+    if (Math.abs(top - box.scrollTop) >= 1) box.scrollTop = top;
+    shift = offset - box.scrollTop;
+    if (reach() <= scrollable()) shift = 0;
+  };
+  let last = 0;
+  box.addEventListener("scroll", () => {
+    const top = box.scrollTop, all = scrollable();
+    const jumped = Math.abs(top - last) > 4 * box.clientHeight || top <= 0 || top >= all;
+    last = top;
+    if (shift || reach() > all) {
+      if (jumped) shift = (all ? top / all * reach() : 0) - top;
+    }
+    tell("scroll", id, Math.max(0, Math.min(reach(), top + shift)), look.placements);
+  });
+  box.addEventListener("scrollend", () => { if (reach() > scrollable()) settle(last + shift), last = box.scrollTop; });
+  return next => {
+    const placed = next.placements !== look.placements;
+    look = next;
+    box.ariaLabel = null;
+    element.ariaLabel = look.label;
+    box.classList.toggle("empty", !look.height);
+    space.style.height = `${Math.min(look.height, tallest)}px`;
+    if (placed) settle(look.offset), last = box.scrollTop;
+    let before = null;
+    for (const [row, cell, top, height] of look.rows) {
+      const item = views.get(cell).element;
+      item.style.translate = `0 ${top - look.offset}px`;
+      item.style.height = `${height}px`;
+      item.ariaPosInSet = String(row + 1);
+      item.ariaSetSize = String(Math.round(look.height / height));
+      // In reading order; what stands there already is not moved, and so keeps the focus.
+      const there = before ? before.nextElementSibling : element.firstElementChild;
+      if (there !== item) element.insertBefore(item, there);
+      before = item;
+    }
+  };
+}
+
+// A row's card, as logic lays it.
+function drawCards(element, look) {
+  element.replaceChildren(...(look.cards ?? []).map(card => {
+    const box = document.createElement("i");
+    box.style.cssText = `left:${card.x}px;top:${card.y}px;right:0;height:${card.height}px;` +
+      `border-radius:${card.radius}px;` +
+      `box-shadow:${card.shadowX}px ${card.shadowY}px 3px rgb(0 0 0/${card.shadow})`;
+    return box;
+  }));
+}
+
+// --- Pictures: the program's bytes, the browser's pixels. What moves shows its first frame.
+
+async function still(blob) {
+  const bitmap = await createImageBitmap(blob);
+  const canvas = new OffscreenCanvas(bitmap.width, bitmap.height);
+  canvas.getContext("2d").drawImage(bitmap, 0, 0);
+  return canvas.convertToBlob();
+}
+
+// What was drawn before stays until the new picture is ready.
+async function setPicture(image, blob) {
+  const turn = image.turn = {};
+  if (blob && blob.type !== "image/jpeg") blob = await still(blob).catch(() => null);
+  if (image.turn !== turn) return;
+  const old = image.src;
+  const forget = () => { if (old.startsWith("blob:")) URL.revokeObjectURL(old); };
+  image.onload = forget;
+  image.onerror = () => { forget(); image.removeAttribute("src"); };
+  if (blob) return void (image.src = URL.createObjectURL(blob));
+  image.removeAttribute("src");
+  forget();
+}
+
+// --- Fetching, within the session's limits. The browser itself follows at most 20 redirects.
+
+async function download(id, address, idleSeconds, mostBytes) {
+  await null;  // never inside the program's call
+  const stop = new AbortController();
+  let timer, body, status;
+  const wait = () => { clearTimeout(timer); timer = setTimeout(() => stop.abort(), idleSeconds * 1000); };
+  try {
+    wait();
+    const url = new URL(address);  // no base: what is relative is no address here
+    if (!/^https?:$/.test(url.protocol)) throw new TypeError("no address of the web");
+    url.username = url.password = "";
+    const answer = await fetch(url, { credentials: "omit", referrerPolicy: "no-referrer", signal: stop.signal });
+    const parts = [];
+    let size = 0;
+    for await (const part of chunks(answer.body)) {
+      wait();
+      if ((size += part.length) > mostBytes) throw new RangeError("more than a body may have");
+      parts.push(part);
+    }
+    status = answer.status;
+    body = new Uint8Array(await new Blob(parts).arrayBuffer());
+  } catch {
+    stop.abort();
+  } finally {
+    clearTimeout(timer);
+  }
+  if (body) tell("body", id, ...given(body), status);
+  else tell("failed", id);
+}
+
+async function* chunks(stream) {
+  const reader = stream?.getReader();
+  for (let part; reader && !(part = await reader.read()).done;) yield part.value;
+}
+
+// --- The ways back. While a screen lies above the first, an entry more stands in the history, so
+// that the browser's Back comes here. At the first screen Back leaves the page.
+
+let guarded = history.state === "guard", passOver = 0;
+
+function keepGuard() {
+  const wanted = shown.depth > 1;
+  if (wanted && !guarded) history.pushState("guard", "");
+  if (!wanted && guarded) { ++passOver; history.back(); }
+  guarded = wanted;
+}
+
+addEventListener("popstate", () => {
+  if (passOver) return void --passOver;
+  guarded = history.state === "guard";
+  tell("goBack");
+  if (program) keepGuard();
+});
+
+// What was typed into the screen shown would be lost.
+addEventListener("beforeunload", event => {
+  const typed = [...shown?.element.querySelectorAll("input, textarea") ?? []]
+    .some(input => input.value && input.ariaInvalid !== "true");
+  if (typed && program) event.preventDefault();
+});
+
+// The rest of a double click, and the repeats of a held key, belong to the press that began them: where
+// that changed the screen they press nothing on the new one.
+let pressedOn = null;
+function startPress(goesOn, event) {
+  if (!goesOn) pressedOn = shown?.element;
+  else if (pressedOn !== shown?.element) { event.preventDefault(); event.stopImmediatePropagation(); }
+}
+addEventListener("click", event => startPress(event.detail > 1, event), true);
+addEventListener("keydown", event => startPress(event.repeat, event), true);
+
+// --- What the program imports.
+
+const wakeUp = new MessageChannel();
+wakeUp.port1.onmessage = () => tell("drain");
+
+const imports = {
+  scene(id, place, at, size) {
+    const { name, views: numbers } = jsonAt(at, size), template = by(name);
+    const element = document.createElement("section");
+    element.className = "screen";
+    element.dataset.scene = name;
+    element.append(by(template.dataset.like ?? name).content.cloneNode(true));
+    if (!place) {
+      element.prepend(by("bar").content.cloneNode(true));
+      element.querySelector(".back").addEventListener("click", () => tell("goBack"));
+      element.querySelector("header").append(...element.querySelectorAll("[data-bar]"));
+    }
+    for (const [view, number] of Object.entries(numbers)) {
+      const found = element.querySelectorAll(`[data-view="${view}"]`);
+      if (found.length === 1) bind(number, found[0]);
+      else if (view !== "root") console.error(`${name} has ${found.length} elements for ${view}`);
+    }
+    // What no control takes for itself goes to the screen.
+    element.addEventListener("click", event => {
+      if (!event.target.closest("button, label, li")) tell("tap", numbers.root);
+      event.stopPropagation();
+    });
+    scenes.set(id, element);
+    (scenes.get(place)?.querySelector("[data-view=tabs]") ?? by("screens")).append(element);
+  },
+  endScene(id) { scenes.get(id).remove(); scenes.delete(id); },
+  show(at, size) {
+    const look = jsonAt(at, size), element = scenes.get(look.scene);
+    for (const [id, scene] of scenes) scene.hidden = scene.inert = id !== look.scene && id !== look.child;
+    const header = element.querySelector("header"), back = header.querySelector(".back");
+    header.hidden = !look.bar;
+    header.querySelector("h1").textContent = look.title;
+    back.hidden = !look.back;
+    back.ariaLabel = look.backLabel;
+    document.title = look.title ? `${look.title} – Leafund` : "Leafund";
+    const before = shown;
+    shown = { element, depth: look.depth };
+    if (before && before.element !== element) enter(element, look.depth >= before.depth);
+    keepGuard();
+  },
+  cell(table, id, at, size) {
+    const item = by("row").content.firstElementChild.cloneNode(true);
+    for (const [name, part] of Object.entries(jsonAt(at, size))) bind(part, item.querySelector(`.${name}`));
+    bind(id, item);
+    views.get(table).element.append(item);
+  },
+  look(id, at, size) {
+    const view = views.get(id), look = jsonAt(at, size);
+    if (!view) return;
+    view.element.hidden = !!look.hidden;
+    if (look.cards) drawCards(view.element, look);
+    else view.draw(look);
+  },
+  picture(id, at, size, format) {
+    const type = ["image/jpeg", "image/png", "image/gif", "image/webp"][format];
+    const blob = size ? new Blob([bytes(at, size).slice()], { type }) : null;
+    if (views.has(id)) setPicture(views.get(id).element, blob);
+  },
+  endView(id) { views.delete(id); },
+  fetch(id, at, size, idleSeconds, mostBytes) { download(id, textAt(at, size), idleSeconds, mostBytes); },
+  wake() { wakeUp.port2.postMessage(0); },
+  screenScale: () => devicePixelRatio,
+  equivalent(...texts) {
+    try {
+      const [a, b] = [texts.slice(0, 2), texts.slice(2)].map(text => strict.decode(bytes(...text)).normalize("NFD"));
+      return a === b ? 1 : 0;
+    } catch { return 0; }  // not UTF-8: the program has compared the bytes
+  },
+  matches(pattern, patternSize, text, size) {
+    let expression;
+    try { expression = new RegExp(`^(?:${strict.decode(bytes(pattern, patternSize))})$`, "u"); } catch { return -1; }
+    try { return expression.test(strict.decode(bytes(text, size))) ? 1 : 0; } catch { return 0; }
+  },
+};
+
+// The new screen slides in; the keyboard and the reader begin at what it is about.
+function enter(element, forward) {
+  const calm = matchMedia("(prefers-reduced-motion: reduce)").matches;
+  const from = calm ? { opacity: 0 } : { translate: `${(forward ? 100 : -33) * (element.matches(":dir(rtl)") ? -1 : 1)}% 0` };
+  element.animate([from, {}], { duration: calm ? 100 : 200, easing: "ease-out" });
+  [...element.querySelectorAll("h1")].find(each => each.checkVisibility())?.focus({ preventScroll: true });
+}
+
+// --- The little that the C library asks for: two streams, each line of them on the console.
+
+const lines = ["", "", ""];
+function write(stream, list, count, written) {
+  const words = new DataView(memory.buffer);
+  let size = 0;
+  for (let at = list; at < list + 8 * count; at += 8) {
+    const length = words.getUint32(at + 4, true);
+    lines[stream] += textAt(words.getUint32(at, true), length);
+    size += length;
+  }
+  for (let end; (end = lines[stream].indexOf("\n")) >= 0; lines[stream] = lines[stream].slice(end + 1)) {
+    const line = lines[stream].slice(0, end);
+    if (stream === 2) console.error(lastComplaint = line);
+    else console.log(line);
+  }
+  words.setUint32(written, size, true);
+  return 0;
+}
+
+export async function load(source, more = {}) {
+  const refused = new Proxy({ fd_write: write }, { get: (known, name) => known[name] ?? (() => 8) });
+  const { instance } = await WebAssembly.instantiateStreaming(source,
+    { leafund: { ...imports, ...more }, wasi_snapshot_preview1: refused });
+  program = instance.exports;
+  memory = program.memory;
+  program._initialize();
+  return program;
+}
+
+export async function start(source) {
+  await load(source);
+  tell("start", innerWidth, innerHeight);
+  addEventListener("resize", () => tell("resize", innerWidth, innerHeight));
+  let inFront = true;
+  const bringToFront = front => {
+    if (front === inFront) return;
+    inFront = front;
+    for (const step of front ? ["enterForeground", "becomeActive"] : ["resignActive", "enterBackground"]) tell(step);
+  };
+  document.addEventListener("visibilitychange", () => bringToFront(!document.hidden));
+  addEventListener("pageshow", () => bringToFront(true));
+  addEventListener("pagehide", event => { bringToFront(false); if (!event.persisted) tell("terminate"); });
+}
