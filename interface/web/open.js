@@ -1,0 +1,4 @@
+import { start } from "./page.js";
+
+document.querySelector("#stopped button").addEventListener("click", () => location.reload());
+await start(fetch("leafund.wasm"));
