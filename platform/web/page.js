@@ -4,7 +4,8 @@ const strict = new TextDecoder("utf-8", { fatal: true, ignoreBOM: true });
 const by = id => document.getElementById(id);
 const views = new Map();   // number -> its element and how that is drawn
 const scenes = new Map();  // number -> element
-let program, memory, shown = null;
+let program, shown = null;
+export let memory;  // of the program
 
 const bytes = (at, size) => new Uint8Array(memory.buffer, at, size);
 const textAt = (at, size) => decoder.decode(bytes(at, size));
@@ -376,8 +377,9 @@ function write(stream, list, count, written) {
   return 0;
 }
 
-export async function load(source, more = {}) {
-  const refused = new Proxy({ fd_write: write }, { get: (known, name) => known[name] ?? (() => 8) });
+// Tests import more than the application does.
+export async function load(source, more = {}, system = {}) {
+  const refused = new Proxy({ fd_write: write, ...system }, { get: (known, name) => known[name] ?? (() => 8) });
   const { instance } = await WebAssembly.instantiateStreaming(source,
     { leafund: { ...imports, ...more }, wasi_snapshot_preview1: refused });
   program = instance.exports;

@@ -1,0 +1,36 @@
+// A browser that nobody sees, with an empty profile. puppeteer-core is looked for in the folder that
+// LEAFUND_WEB_DRIVER names.
+import { createRequire } from "node:module";
+import fs from "node:fs";
+import os from "node:os";
+import path from "node:path";
+import { pathToFileURL } from "node:url";
+
+const driver = createRequire(path.resolve(process.env.LEAFUND_WEB_DRIVER, "package.json")).resolve("puppeteer-core");
+const { default: puppeteer } = await import(pathToFileURL(driver));
+
+export const phone = { width: 390, height: 844, hasTouch: true, isMobile: true };
+
+export async function openBrowser() {
+  const profile = fs.mkdtempSync(path.join(os.tmpdir(), "leafund-browser-"));
+  const browser = await puppeteer.launch({
+    executablePath: "/usr/bin/chromium", headless: true, userDataDir: profile, protocolTimeout: 60_000,
+    args: ["--no-sandbox", "--disable-gpu", "--disable-quic", "--no-first-run", "--disable-background-networking",
+      "--disable-component-update", "--disable-sync"],
+  });
+  const close = async () => {
+    await browser.close();
+    fs.rmSync(profile, { recursive: true, force: true, maxRetries: 5 });
+  };
+  // A page of a fresh context, and what it says: lines on the console, and errors.
+  const newPage = async (viewport = phone) => {
+    const context = await browser.createBrowserContext();
+    const page = await context.newPage();
+    await page.setViewport(viewport);
+    const said = [], errors = [];
+    page.on("console", line => (line.type() === "error" ? errors : said).push(line.text()));
+    page.on("pageerror", error => errors.push(error.stack));
+    return { page, said, errors, close: () => context.close() };
+  };
+  return { newPage, close };
+}
