@@ -1,8 +1,6 @@
 # `cpack` in a Release build folder makes the Debian packages.
-set(LEAFUND_CONTACT "The Leafund developers <nobody@leafund.invalid>" CACHE STRING
-  "Whom a package names as its maintainer")
-
 set(CPACK_GENERATOR DEB)
+set(CPACK_DEBIAN_PACKAGE_RELEASE ${LEAFUND_REVISION})
 set(CPACK_PACKAGE_CONTACT ${LEAFUND_CONTACT})
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
@@ -25,16 +23,12 @@ set(CPACK_DEBIAN_APP_PACKAGE_RECOMMENDS "qt6-wayland, ca-certificates")
 if(demo)
   set(CPACK_DEBIAN_APP_PACKAGE_SUGGESTS leafund-demo)
 endif()
-set(CPACK_COMPONENT_APP_DESCRIPTION "small pledges, green changes
-Leafund is a phone app for crowdfunding personal environmental pledges: browse
-what people promise, put money behind it, and start a campaign of your own.")
+set(CPACK_COMPONENT_APP_DESCRIPTION "${appSummary}\n${appDescription}")
 
 # The app of the same build only: the address of the pictures is compiled into it.
 set(CPACK_DEBIAN_DEMO_PACKAGE_NAME leafund-demo)
 set(CPACK_DEBIAN_DEMO_PACKAGE_ARCHITECTURE all)
-set(CPACK_DEBIAN_DEMO_PACKAGE_DEPENDS "leafund (= ${PROJECT_VERSION}), busybox")
-set(CPACK_COMPONENT_DEMO_DESCRIPTION "demonstration of Leafund with its pictures
-The pictures of the demonstration campaigns, and a launcher that serves them to
-the app on the loopback address for as long as it is open.")
+set(CPACK_DEBIAN_DEMO_PACKAGE_DEPENDS "leafund (= ${PROJECT_VERSION}-${LEAFUND_REVISION}), busybox")
+set(CPACK_COMPONENT_DEMO_DESCRIPTION "${demoSummary}\n${demoDescription}")
 
 include(CPack)

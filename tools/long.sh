@@ -92,6 +92,8 @@ runWindow
 runLargePictures
 runMany
 runCounts
+installMissing package
+runTool packages '^OK ' '^FAIL ' tools/check-packages
 runTool fuzz ' 0 findings' ' [1-9][0-9]* findings' tools/fuzz all 60
 runAddressSuites
 runThreadSuites

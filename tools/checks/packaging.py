@@ -1,14 +1,18 @@
 """What desktops and catalogues of software read, as their own tools see it."""
 
+import pathlib
 import re
 import shutil
 import subprocess
+import tempfile
 
 DESKTOP = "desktop-file-validate"
 CATALOGUE = "appstreamcli"
+METAINFO = "packaging/app.leafund.Leafund.metainfo.xml.in"
 
-# What only the owner can say, by the catalogue's names; older versions of the tool do not ask for it.
-OWNERS = {"url-homepage-missing", "developer-info-missing"}
+# What only the owner can say, by the catalogue's names: a homepage, who they are, and the name of the app, which
+# is to be of their domain and small letters. Older versions of the tool do not ask for all of it.
+OWNERS = {"url-homepage-missing", "developer-info-missing", "cid-contains-uppercase-letter"}
 
 
 def run(command, top):
@@ -28,15 +32,17 @@ def entries(project):
 
 
 def metainfo(project):
-    files = [path for path in project.all if path.endswith(".metainfo.xml")]
-    if not files:
-        return ["packaging/ holds no metainfo"]
-    content, said = run([CATALOGUE, "validate", "--no-net", "--format", "yaml", *files], project.top)
+    released = '<release version="1.0.0" date="2026-01-01"/>'
+    with tempfile.TemporaryDirectory() as folder:
+        made = pathlib.Path(folder) / pathlib.Path(METAINFO).stem
+        made.write_text(project.text(METAINFO).replace("@releaseLines@", released), encoding="utf-8")
+        content, said = run([CATALOGUE, "validate", "--no-net", "--pedantic", "--format", "yaml", made],
+                            project.top)
     issues = [dict(re.findall(r"^ *(\w+): (.+)$", issue, re.M)) for issue in said.split("\n- ")[1:]]
     if not content and not issues:
         return said.splitlines()
     return [f"line {issue.get('line', '?')}: {issue['tag']}" for issue in issues
-            if issue["severity"] != "pedantic" and issue["tag"] not in OWNERS]
+            if issue["tag"] not in OWNERS]
 
 
 def one_name(project):
@@ -44,7 +50,7 @@ def one_name(project):
     names = {
         "packaging/CMakeLists.txt": r"set\(appId (\S+)\)",
         "packaging/app.leafund.Leafund.desktop": r"^Icon=(\S+)",
-        "packaging/app.leafund.Leafund.metainfo.xml": r"<id>(\S+)</id>",
+        METAINFO: r"<id>(\S+)</id>",
         "packaging/app.leafund.Leafund.yaml": r"^id: (\S+)",
         "interface/qml/LeafundWindow.cpp": r'desktopFile = \D+?"([^"]+)"',
     }
@@ -54,17 +60,8 @@ def one_name(project):
     return [f"{path} says {name}" for path, name in said.items() if not name or name != wanted]
 
 
-def one_version(project):
-    built = re.search(r"project\(\w+ VERSION (\S+)", project.text("CMakeLists.txt")).group(1)
-    said = re.search(r'<release version="([^"]+)"', project.text(
-        "packaging/app.leafund.Leafund.metainfo.xml")).group(1)
-    log = re.search(r"^## (\S+)", project.text("CHANGELOG.md"), re.M).group(1)
-    return [] if built == said == log else [f"built {built}, metainfo {said}, changelog {log}"]
-
-
 CHECKS = (
     ("desktop entries are valid", "what the tool says", entries),
     ("the metainfo is valid", "what the tool says", metainfo),
     ("one name for desktops", "the name that packaging/CMakeLists.txt sets", one_name),
-    ("one version", "the version of the root CMakeLists.txt", one_version),
 )
