@@ -20,8 +20,14 @@ foreach(release IN LISTS releases)
   list(APPEND releaseLines "    ${line}")
 endforeach()
 list(JOIN releaseLines "\n" releaseLines)
-configure_file(${appId}.metainfo.xml.in ${appId}.metainfo.xml @ONLY)
-install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${appId}.metainfo.xml
+set(metainfo ${CMAKE_CURRENT_BINARY_DIR}/${appId}.metainfo.xml)
+configure_file(${appId}.metainfo.xml.in ${metainfo} @ONLY)
+if(NOT LEAFUND_SCREENSHOTS)
+  file(READ ${metainfo} text)
+  string(REGEX REPLACE "  <!-- Made by tools/tour.*</screenshots>\n\n" "" text "${text}")
+  file(WRITE ${metainfo} "${text}")
+endif()
+install(FILES ${metainfo}
   DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo COMPONENT app)
 
 # Installs a file packed as the packages' rules ask for it: as small as it goes, and without a time.

@@ -32,10 +32,12 @@ def entries(project):
 
 
 def metainfo(project):
-    released = '<release version="1.0.0" date="2026-01-01"/>'
+    text = project.text(METAINFO)
+    text = text.replace("@releaseLines@", '<release version="1.0.0" date="2026-01-01"/>')
+    text = text.replace("@LEAFUND_SCREENSHOTS@", "https://screens.example.org")
     with tempfile.TemporaryDirectory() as folder:
         made = pathlib.Path(folder) / pathlib.Path(METAINFO).stem
-        made.write_text(project.text(METAINFO).replace("@releaseLines@", released), encoding="utf-8")
+        made.write_text(text, encoding="utf-8")
         content, said = run([CATALOGUE, "validate", "--no-net", "--pedantic", "--format", "yaml", made],
                             project.top)
     issues = [dict(re.findall(r"^ *(\w+): (.+)$", issue, re.M)) for issue in said.split("\n- ")[1:]]
