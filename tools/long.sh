@@ -92,6 +92,9 @@ runWindow
 runLargePictures
 runMany
 runCounts
+for section in "A first change"; do
+  runTool "guide: ${section,,}" '^OK ' '^FAIL ' tools/follow "$section"
+done
 installMissing package
 runTool packages '^OK ' '^FAIL ' tools/check-packages
 runTool fuzz ' 0 findings' ' [1-9][0-9]* findings' tools/fuzz all 60

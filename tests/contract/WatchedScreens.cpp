@@ -69,7 +69,9 @@ void WatchedBrowse::tableViewWillDisplayCellForRowAtIndexPath(
 UIStoryboard watchedStoryboard(ContractLog& log) {
   auto scenes = mainStoryboard().scenes();
   const auto screens = watchedScreens(log);
-  for (auto& scene : scenes) scene.make = screens.at(scene.name);
+  for (auto& scene : scenes) {
+    if (const auto own = screens.find(scene.name); own != screens.end()) scene.make = own->second;
+  }
   return UIStoryboard("LandingPageVC", std::move(scenes), mainStoryboard().segues());
 }
 

@@ -113,7 +113,8 @@ std::vector<View> news() {
       label("pledgeStoryTitle", "How a pledge works"),
       label("pledgeStoryText",
             "Pick a campaign, choose an amount and confirm. The campaign moves to your Funded tab "
-            "at once, and its creator takes it from there.")};
+            "at once, and its creator takes it from there."),
+  };
 }
 
 std::vector<View> campaign() {
@@ -139,6 +140,15 @@ std::vector<View> confirm() {
   return {label("question", "Do you want to fund this campaign?"),
           label("outcome", "Your pledge counts at once, and you find the campaign under Funded."),
           button("yesButton", "Yes"), button("noButton", "No")};
+}
+
+std::vector<View> update() {
+  return {
+      label("test"),
+      label("updateOneDate"),
+      picture("updateOneImage", "Picture of the update"),
+      readingText("updateOneText"),
+  };
 }
 
 std::vector<View> newCampaign() {
@@ -194,9 +204,7 @@ ScreenRef layOut(Scene scene) {
       is("", {label("thankYouLabel", "Thank you for your pledge!"), button("homeButton", "Home")});
       break;
     case Scene::Update:
-      is("Update",
-         {label("test"), label("updateOneDate"), picture("updateOneImage", "Picture of the update"),
-          readingText("updateOneText")});
+      is("Update", update());
       break;
     case Scene::NewCampaign:
       is("New campaign", newCampaign());

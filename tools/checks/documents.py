@@ -7,7 +7,7 @@ import subprocess
 
 FIRST = ("README.md", "CONTRIBUTING.md", "SECURITY.md", "CHANGELOG.md", "tests/README.md")
 # What a document may call that comes from a package.
-COMMANDS = set("apt apt-get cmake cpack ctest dpkg flatpak-builder git ninja sudo qt-cmake".split())
+COMMANDS = set("apt apt-get clang-format-19 cmake cpack ctest dpkg flatpak-builder git ninja sudo qt-cmake".split())
 MADE = ("build/",)  # what commands make
 
 
@@ -18,7 +18,7 @@ def documents(project):
 
 def code(text):
     """Code spans and blocks, each with its line: what is said to be typed, opened or called."""
-    text = re.sub(r"^```[a-z]+$.*?^```$", blank, text, flags=re.M | re.S)
+    text = without_quotations(text)
     block, before = False, ""
     for number, line in enumerate(text.splitlines(), 1):
         block = line.startswith("    ") and (block or not before.strip())
@@ -29,9 +29,10 @@ def code(text):
         before = line
 
 
-def blank(found):
+def without_quotations(text):
     """A fenced block of a language is a quotation; its lines stay countable."""
-    return "\n" * found.group(0).count("\n")
+    return re.sub(r"^```[a-z]+$.*?^```$", lambda found: "\n" * found.group(0).count("\n"), text,
+                  flags=re.M | re.S)
 
 
 def known(project):
@@ -55,9 +56,11 @@ def paths(project):
     tops = {path.split("/")[0] for path in project.all if "/" in path}
     found = []
     for document in documents(project):
-        for number, words, _ in code(project.text(document)):
+        text = project.text(document)
+        made = (*MADE, *re.findall(r"Make\s+the\s+file\s+`([^`]+)`", text))  # by who follows it
+        for number, words, _ in code(text):
             found += [f"{document}:{number} names {path}" for path in paths_in(words, tops)
-                      if path not in there and not path.startswith(MADE)]
+                      if path not in there and not path.startswith(made)]
     return found
 
 
@@ -65,7 +68,7 @@ def links(project):
     there, found = known(project), []
     for document in documents(project):
         folder = project.top / document
-        for aim in re.findall(r"\]\(([^)#]+)[^)]*\)", project.text(document)):
+        for aim in re.findall(r"\]\(([^)#]+)[^)]*\)", without_quotations(project.text(document))):
             if "://" in aim:
                 continue
             path = (folder.parent / aim).resolve().relative_to(project.top.resolve())
