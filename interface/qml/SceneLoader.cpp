@@ -19,7 +19,7 @@ static void linkInterface() {
 
 namespace leafund {
 
-SceneLoader::SceneLoader(QQuickItem& glass) : glass_(glass) {
+SceneLoader::SceneLoader(QQuickItem& content) : content_(content) {
   linkInterface();
   describeItemsToAssistiveTechnology();
 }
@@ -61,7 +61,7 @@ void SceneLoader::lookAhead(const UINavigationController& navigation) {
 }
 
 void SceneLoader::makeAhead(const UINavigationController& navigation, UIViewController& draft) {
-  if (wings_ == nullptr) wings_ = makeItem("Wings", {}, &glass_);
+  if (wings_ == nullptr) wings_ = makeItem("Wings", {}, &content_);
   draft.view()->setFrame(navigation.rootFrame(draft));  // what does not change is then laid out
   const auto skin = makeSkin(draft, wings_);
   skin.scene->readBar(navigation, draft);

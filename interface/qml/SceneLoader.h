@@ -12,7 +12,7 @@
 
 namespace leafund {
 
-// How a screen looks: its item on the glass, and the bridge of its scene, which outlives the item.
+// How a screen looks: its item in the window, and the bridge of its scene, which outlives the item.
 struct SceneSkin {
   SceneObject* scene;
   QQuickItem* item;
@@ -24,8 +24,8 @@ struct SceneSkin {
 // wings, where it is neither seen nor reached, and is taken by one screen for good.
 class SceneLoader final : public PageMaker {
  public:
-  // Pages become children of `glass`.
-  explicit SceneLoader(QQuickItem& glass);
+  // Pages become children of `content`.
+  explicit SceneLoader(QQuickItem& content);
   ~SceneLoader() override;
 
   // The item becomes a child of `parent`, hidden.
@@ -43,7 +43,7 @@ class SceneLoader final : public PageMaker {
                        QQuickItem* parent);
 
   QQmlEngine engine_;
-  QQuickItem& glass_;
+  QQuickItem& content_;
   std::map<std::string, std::unique_ptr<QQmlComponent>> components_;
   QQuickItem* wings_ = nullptr;  // once something waits there
   std::map<std::string, SceneSkin> ahead_;

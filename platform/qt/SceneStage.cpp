@@ -12,14 +12,14 @@ namespace {
 // The lower of the two screens moves a third of the way, which shows which one lies on top.
 constexpr double kLowerShare = 1.0 / 3;
 
-// A glass without a new frame for so long, in milliseconds, is at rest.
+// A window without a new frame for so long, in milliseconds, is at rest.
 constexpr int kRest = 50;
 
 double between(double from, double to, double share) { return from + (to - from) * share; }
 
 }  // namespace
 
-SceneStage::SceneStage(PageMaker& maker, QQuickItem& glass) : maker_(maker), glass_(glass) {
+SceneStage::SceneStage(PageMaker& maker, QQuickItem& content) : maker_(maker), content_(content) {
   rest_.setSingleShot(true);
   rest_.setInterval(kRest);
   connect(&rest_, &QTimer::timeout, this, [this] {
@@ -27,7 +27,7 @@ SceneStage::SceneStage(PageMaker& maker, QQuickItem& glass) : maker_(maker), gla
     if (application == nullptr || application->navigation() == nullptr) return;
     maker_.lookAhead(*application->navigation());
   });
-  connect(glass.window(), &QQuickWindow::frameSwapped, &rest_, qOverload<>(&QTimer::start));
+  connect(content.window(), &QQuickWindow::frameSwapped, &rest_, qOverload<>(&QTimer::start));
   animation_.setStartValue(0.0);
   animation_.setEndValue(1.0);
   animation_.setEasingCurve(QEasingCurve::OutCubic);
@@ -36,7 +36,7 @@ SceneStage::SceneStage(PageMaker& maker, QQuickItem& glass) : maker_(maker), gla
 
 void SceneStage::show(const UINavigationController& navigation) {
   auto change = pages_.follow(
-      navigation, [this](UIViewController& screen) { return maker_.make(screen, glass_); });
+      navigation, [this](UIViewController& screen) { return maker_.make(screen, content_); });
   change.shown.refresh(navigation, *navigation.topViewController());
   if (&change.shown.item() != shown_) exchangeFor(change.shown.item(), change.came);
   for (auto& gone : change.gone) {
@@ -46,7 +46,7 @@ void SceneStage::show(const UINavigationController& navigation) {
 }
 
 void SceneStage::exchangeFor(QQuickItem& incoming, bool forward) {
-  const double edge = forward ? glass_.width() : -glass_.width() * kLowerShare;
+  const double edge = forward ? content_.width() : -content_.width() * kLowerShare;
   // If reversed mid-slide, both go on from where they are.
   const double incomingX = &incoming == outgoing_ ? incoming.x() : edge;
   const double outgoingX = shown_ != nullptr ? shown_->x() : 0;
@@ -72,9 +72,9 @@ void SceneStage::slide(QQuickItem& incoming, bool forward) {
   outgoing_->setZ(forward ? 0 : 1);
   const double inFrom = incoming.x();
   const double outFrom = outgoing_->x();
-  const double outTo = forward ? -glass_.width() * kLowerShare : glass_.width();
-  animation_.disconnect(&glass_);
-  connect(&animation_, &QVariantAnimation::valueChanged, &glass_,
+  const double outTo = forward ? -content_.width() * kLowerShare : content_.width();
+  animation_.disconnect(&content_);
+  connect(&animation_, &QVariantAnimation::valueChanged, &content_,
           [this, in = &incoming, inFrom, outFrom, outTo](const QVariant& value) {
             if (outgoing_ == nullptr) return;
             in->setX(between(inFrom, 0, value.toDouble()));

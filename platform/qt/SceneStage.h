@@ -12,12 +12,12 @@
 
 namespace leafund {
 
-// The screens on the glass. The stack of the toolkit moves at once, and the glass slides after it:
-// the screen that comes takes input from the start, the one that goes takes none any more.
+// The screens in the window. The stack of the toolkit moves at once, and the window slides after
+// it: the screen that comes takes input from the start, the one that goes takes none any more.
 class SceneStage : public QObject {
  public:
-  // Screens become children of `glass`.
-  SceneStage(PageMaker& maker, QQuickItem& glass);
+  // Screens become children of `content`.
+  SceneStage(PageMaker& maker, QQuickItem& content);
 
   void show(const UINavigationController& navigation);
 
@@ -27,7 +27,7 @@ class SceneStage : public QObject {
   void endSlide();
 
   PageMaker& maker_;
-  QQuickItem& glass_;
+  QQuickItem& content_;
   QTimer rest_;
   ScreenPages<Page> pages_;
   std::vector<std::unique_ptr<Page>> leaving_;  // until their slide has ended
