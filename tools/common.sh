@@ -130,24 +130,25 @@ answersWith() {
 }
 
 # Starts the picture host of a build folder, on another port when its own is taken, and sets
-# $pictureHost. Before the build, because the address is compiled in.
+# $pictureHost, and $served, the folder that it serves. Before the build, because the address is
+# compiled in. The types of files that it is to know besides its own may be named.
 startPictureHost() {
-  local build=$1 root word port
+  local build=$1 types=${2:-/dev/null} word port
   pictureHost=$(configuredHost "$build")
   if [[ $pictureHost != http://127.0.0.1:* ]]; then
     say "Pictures come from $pictureHost"
     return
   fi
   mkdir -p "$build"
-  root=$(mktemp -d "$PWD/$build/pictures.XXXXXX")
-  folders+=("$root")
+  served=$(mktemp -d "$PWD/$build/pictures.XXXXXX")
+  folders+=("$served")
   word=$(od -An -N16 -tx1 /dev/urandom | tr -d ' ')
-  say "$word" >"$root/word"
-  ln -s "$PWD"/pictures/*.jpg "$root/"
+  say "$word" >"$served/word"
+  ln -s "$PWD"/pictures/*.jpg "$served/"
   port=${pictureHost##*:}
   for _ in {1..20}; do
     pictureHost=http://127.0.0.1:$port
-    start busybox httpd -f -vv -c /dev/null -p "127.0.0.1:$port" -h "$root" 2>"$build/pictures.log"
+    start busybox httpd -f -vv -c "$types" -p "127.0.0.1:$port" -h "$served" 2>"$build/pictures.log"
     answersWith "$word" "$port" && return
     endLast
     say "Port $port is taken by something else; trying the next one."

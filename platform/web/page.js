@@ -118,36 +118,31 @@ const tallest = 16_000_000;  // px; browsers lay out no more than 33 million
 
 function bindTable(element, id) {
   const space = element.parentElement, box = space.parentElement;
-  let look = { height: 0, placements: -1 }, shift = 0;
+  let look = { height: 0, placements: -1 }, shift = 0, last = 0;
   const reach = () => Math.max(0, look.height - box.clientHeight);
-  const scrollable = () => Math.max(0, Math.min(look.height, tallest) - box.clientHeight);
-  // Where all the content does not fit into an element, the offset is that of the element and a shift,
-  // which is set anew after a jump and whenever the scrolling rests.
-  const settle = offset => {
-    const top = reach() > scrollable() ? Math.round(offset / reach() * scrollable()) : offset;
+  const travel = () => Math.max(0, Math.min(look.height, tallest) - box.clientHeight);
+  // What is taller than an element can be is scrolled point by point, at a shift; the shift is set anew
+  // after a jump and whenever the scrolling rests, so that both ends are reached.
+  const place = offset => {
+    const top = look.height > tallest ? Math.round(offset / reach() * travel()) : offset;
     if (Math.abs(top - box.scrollTop) >= 1) box.scrollTop = top;
-    shift = offset - box.scrollTop;
-    if (reach() <= scrollable()) shift = 0;
+    last = box.scrollTop;
+    shift = look.height > tallest ? offset - last : 0;
   };
-  let last = 0;
   box.addEventListener("scroll", () => {
-    const top = box.scrollTop, all = scrollable();
-    const jumped = Math.abs(top - last) > 4 * box.clientHeight || top <= 0 || top >= all;
+    const top = box.scrollTop;
+    const jumped = Math.abs(top - last) > 4 * box.clientHeight || top <= 0 || top >= travel();
+    if (look.height > tallest && jumped) shift = top / travel() * reach() - top;
     last = top;
-    if (shift || reach() > all) {
-      if (jumped) shift = (all ? top / all * reach() : 0) - top;
-    }
     tell("scroll", id, Math.max(0, Math.min(reach(), top + shift)), look.placements);
   });
-  box.addEventListener("scrollend", () => { if (reach() > scrollable()) settle(last + shift), last = box.scrollTop; });
+  box.addEventListener("scrollend", () => look.height > tallest && place(last + shift));
   return next => {
     const placed = next.placements !== look.placements;
     look = next;
-    box.ariaLabel = null;
     element.ariaLabel = look.label;
-    box.classList.toggle("empty", !look.height);
     space.style.height = `${Math.min(look.height, tallest)}px`;
-    if (placed) settle(look.offset), last = box.scrollTop;
+    if (placed) place(look.offset);
     let before = null;
     for (const [row, cell, top, height] of look.rows) {
       const item = views.get(cell).element;
@@ -212,10 +207,10 @@ async function download(id, address, idleSeconds, mostBytes) {
     const answer = await fetch(url, { credentials: "omit", referrerPolicy: "no-referrer", signal: stop.signal });
     const parts = [];
     let size = 0;
-    for await (const part of chunks(answer.body)) {
+    const reader = answer.body?.getReader();
+    for (let part; reader && !(part = await reader.read()).done; parts.push(part.value)) {
       wait();
-      if ((size += part.length) > mostBytes) throw new RangeError("more than a body may have");
-      parts.push(part);
+      if ((size += part.value.length) > mostBytes) throw new RangeError("more than a body may have");
     }
     status = answer.status;
     body = new Uint8Array(await new Blob(parts).arrayBuffer());
@@ -226,11 +221,6 @@ async function download(id, address, idleSeconds, mostBytes) {
   }
   if (body) tell("body", id, ...given(body), status);
   else tell("failed", id);
-}
-
-async function* chunks(stream) {
-  const reader = stream?.getReader();
-  for (let part; reader && !(part = await reader.read()).done;) yield part.value;
 }
 
 // --- The ways back. While a screen lies above the first, an entry more stands in the history, so

@@ -31,7 +31,7 @@ export async function serve(folders, port = 0) {
   });
   await new Promise(done => server.listen(port, "127.0.0.1", done));
   return { address: `http://127.0.0.1:${server.address().port}`, requests, lay: (pathname, body, type) => laid.set(pathname, { body, type }),
-    close: () => server.close() };
+    close: () => { server.close(); server.closeAllConnections(); } };
 }
 
 function read(folders, pathname) {
