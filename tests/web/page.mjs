@@ -122,6 +122,24 @@ const tests = {
       (await indexedDB.databases()).length].join());
     expect(kept === ",0,0,0", `cookie, local, session, databases: ${kept}`);
   },
+  async afterOneVisitItStartsWithoutANetwork({ page, app, errors }) {
+    const passing = await serve({ "/": path.join(build, "site") });
+    await page.goto(`${passing.address}/`);
+    await page.evaluate(() => navigator.serviceWorker.ready.then(worker => worker.active.state === "activated" ||
+      new Promise(done => worker.active.addEventListener("statechange", done))));
+    const kept = await page.evaluate(async () => {
+      const [name] = await caches.keys();
+      return (await (await caches.open(name)).keys()).map(each => new URL(each.url).pathname);
+    });
+    expect(kept.includes("/leafund.wasm") && !kept.some(each => each.endsWith(".jpg")), `what is kept: ${kept}`);
+    passing.close();
+    await page.reload();
+    await shown(page, "LandingPageVC");
+    errors.length = 0;
+    await signIn(app);
+    await shown(page, "OtherCampaignsTableViewController");
+    expect((await app.rows()).startsWith("Vegetarian for PETA"), "the list is there");
+  },
   async scriptsFromElsewhereAreRefused({ page }) {
     const refused = await page.evaluate(() => new Promise(done => {
       addEventListener("securitypolicyviolation", event => done(event.effectiveDirective), { once: true });
