@@ -43,7 +43,7 @@ Pressable {
 
     CardItem {
         anchors.fill: parent
-        view: row.view.parts.content
+        view: row.view.content
         ground: Theme.ground
     }
 
@@ -55,7 +55,7 @@ Pressable {
 
     Picture {
         id: picture
-        view: row.view.parts.picture
+        view: row.view.picture
         x: row.inset
         anchors { verticalCenter: parent.verticalCenter; verticalCenterOffset: Theme.cardOffset }
         width: view.width
@@ -72,7 +72,7 @@ Pressable {
         StillText {
             id: title
             width: parent.width
-            text: row.view.parts.title.text
+            text: row.view.title.text
             maximumLineCount: 2
             color: Theme.ink
             font { pointSize: row.share * Theme.lead; weight: Font.Bold }
@@ -81,7 +81,7 @@ Pressable {
         StillText {
             id: pitch
             width: parent.width
-            text: row.view.parts.detail.text
+            text: row.view.detail.text
             maximumLineCount: Math.max(1, Math.min(Theme.pitchLines, Math.floor(room / line.height)))
             readonly property real room: Theme.cardRoom - title.height - Theme.half
             color: Theme.quiet

@@ -8,6 +8,8 @@ Rectangle {
 
     required property ViewObject view
     required property Item input
+    // Neither text nor what is being composed is in it.
+    required property bool empty
     default property alias content: place.data
     // The label that says why what it holds was refused; null where the input itself says so.
     property ViewObject reason: null
@@ -15,7 +17,7 @@ Rectangle {
     readonly property string accessibleReason: reason && reason.visible ? reason.text : ""
     readonly property bool userIsIn: input.activeFocus
     // Empty and unfocused: the caption stands where the text will.
-    readonly property bool resting: !userIsIn && !input.text && !input.preeditText
+    readonly property bool resting: !userIsIn && empty
 
     visible: view.visible
     implicitHeight: Math.max(Theme.target,
@@ -47,8 +49,10 @@ Rectangle {
     // Later, and only if assistive technology has not written over it meanwhile.
     function selectMessage() {
         if (view.showsMessage)
-            input.selectAll();
+            messageSelected();
     }
+    // The input selects what it holds, a message.
+    signal messageSelected
 
     FocusWatch {
         id: watch

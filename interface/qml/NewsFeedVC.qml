@@ -9,7 +9,7 @@ FocusScope {
 
     width: scene.root.width
     height: scene.root.height
-    Keys.forwardTo: pane
+    Keys.forwardTo: [pane]
 
     ScrollPane {
         id: pane

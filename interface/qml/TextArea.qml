@@ -6,6 +6,8 @@ EntryBox {
     id: area
 
     input: editor
+    empty: !editor.text && !editor.preeditText
+    onMessageSelected: editor.selectAll()
 
     FontMetrics {
         id: metrics

@@ -6,6 +6,8 @@ EntryBox {
     id: entry
 
     input: field
+    empty: !field.text && !field.preeditText
+    onMessageSelected: field.selectAll()
 
     TextInput {
         id: field

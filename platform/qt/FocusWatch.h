@@ -10,10 +10,10 @@ namespace leafund {
 // Qt::ActiveWindowFocusReason. Whoever then types or presses into the item has entered it too.
 class FocusWatch : public QObject {
   Q_OBJECT
-  Q_PROPERTY(QQuickItem* target READ target WRITE setTarget NOTIFY targetChanged)
+  Q_PROPERTY(QQuickItem* target READ target WRITE setTarget NOTIFY targetChanged FINAL)
   // The item has the focus by the keyboard or by assistive technology, which must be seen; also
   // when the host gave it, if the keyboard is what the user uses.
-  Q_PROPERTY(bool ring READ ring NOTIFY ringChanged)
+  Q_PROPERTY(bool ring READ ring NOTIFY ringChanged FINAL)
 
  public:
   using QObject::QObject;

@@ -51,7 +51,7 @@ class WindowDriver final : public Driver {
     std::vector<std::string> titles;
     for (const auto& [row, cell] : table().visibleCells()) {
       const auto* view = rowItem(row).property("view").value<ViewObject*>();
-      const auto* title = view->parts().value("title").value<ViewObject*>();
+      const auto* title = view->title();
       titles.push_back(title->text().toStdString());
     }
     return titles;
@@ -63,7 +63,7 @@ class WindowDriver final : public Driver {
   }
   bool rowPictureShown(std::ptrdiff_t row) override {
     const auto* view = rowItem(row).property("view").value<ViewObject*>();
-    const auto* picture = view->parts().value("picture").value<ViewObject*>();
+    const auto* picture = view->picture();
     return app_.waitUntil([&] { return picture->look().image != nullptr; });
   }
   std::string pictureAddress(const std::string& fileName) override {

@@ -17,12 +17,12 @@ class SceneObject : public QObject {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("the host makes one for each scene")
-  Q_PROPERTY(QVariantMap views READ views CONSTANT)
-  Q_PROPERTY(leafund::ViewObject* root READ root CONSTANT)
-  Q_PROPERTY(QString title READ title NOTIFY changed)
-  Q_PROPERTY(bool barShown READ barShown NOTIFY changed)
-  Q_PROPERTY(bool canGoBack READ canGoBack NOTIFY changed)
-  Q_PROPERTY(QString backLabel READ backLabel CONSTANT)
+  Q_PROPERTY(QVariantMap views READ views CONSTANT FINAL)
+  Q_PROPERTY(leafund::ViewObject* root READ root CONSTANT FINAL)
+  Q_PROPERTY(QString title READ title NOTIFY changed FINAL)
+  Q_PROPERTY(bool barShown READ barShown NOTIFY changed FINAL)
+  Q_PROPERTY(bool canGoBack READ canGoBack NOTIFY changed FINAL)
+  Q_PROPERTY(QString backLabel READ backLabel CONSTANT FINAL)
 
  public:
   // The controller's view must be loaded.

@@ -18,9 +18,10 @@ namespace leafund {
 class TableRows : public QQuickItem {
   Q_OBJECT
   QML_ELEMENT
-  Q_PROPERTY(leafund::ViewObject* table READ table WRITE setTable NOTIFY tableChanged REQUIRED)
+  Q_PROPERTY(
+      leafund::ViewObject* table READ table WRITE setTable NOTIFY tableChanged REQUIRED FINAL)
   // Makes a row's item; it is given the cell as its property `view`.
-  Q_PROPERTY(QQmlComponent* delegate MEMBER delegate_ NOTIFY delegateChanged REQUIRED)
+  Q_PROPERTY(QQmlComponent* delegate MEMBER delegate_ NOTIFY delegateChanged REQUIRED FINAL)
 
  public:
   using QQuickItem::QQuickItem;

@@ -54,9 +54,14 @@ void ViewObject::show(const std::shared_ptr<UIView>& view) {
 
 void ViewObject::addParts(const UIView& view) {
   if (view.kind() != ViewKind::Cell) return;
-  for (const auto& [name, part] : partsOf(static_cast<const UITableViewCell&>(view))) {
-    parts_.insert(name, QVariant::fromValue(new ViewObject(part, this)));
+  for (const auto& [name, each] : partsOf(static_cast<const UITableViewCell&>(view))) {
+    parts_.emplace(name, new ViewObject(each, this));
   }
+}
+
+ViewObject* ViewObject::part(std::string_view name) const {
+  const auto found = parts_.find(name);
+  return found == parts_.end() ? nullptr : found->second;
 }
 
 void ViewObject::refresh() {

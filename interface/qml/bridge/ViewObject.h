@@ -3,8 +3,9 @@
 #include <QtQmlIntegration/qqmlintegration.h>
 #include <QColor>
 #include <QObject>
-#include <QVariantMap>
+#include <map>
 #include <memory>
+#include <string_view>
 #include <vector>
 
 #include "interface/qml/bridge/ViewLook.h"
@@ -21,36 +22,40 @@ class ViewObject : public QObject, public Skin {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("the host makes one for each view")
-  Q_PROPERTY(QString name READ name CONSTANT)
-  Q_PROPERTY(QString accessibleName READ accessibleName NOTIFY changed)
-  Q_PROPERTY(bool visible READ visible NOTIFY changed)
-  Q_PROPERTY(double x READ x NOTIFY changed)
-  Q_PROPERTY(double y READ y NOTIFY changed)
-  Q_PROPERTY(double width READ width NOTIFY changed)
-  Q_PROPERTY(double height READ height NOTIFY changed)
-  Q_PROPERTY(double borderWidth READ borderWidth NOTIFY changed)
-  Q_PROPERTY(QColor borderColor READ borderColor NOTIFY changed)
-  Q_PROPERTY(double cornerRadius READ cornerRadius NOTIFY changed)
-  Q_PROPERTY(QString text READ text NOTIFY changed)
-  Q_PROPERTY(QString placeholder READ placeholder NOTIFY changed)
-  Q_PROPERTY(QColor textColor READ textColor NOTIFY changed)
+  Q_PROPERTY(QString name READ name CONSTANT FINAL)
+  Q_PROPERTY(QString accessibleName READ accessibleName NOTIFY changed FINAL)
+  Q_PROPERTY(bool visible READ visible NOTIFY changed FINAL)
+  Q_PROPERTY(double x READ x NOTIFY changed FINAL)
+  Q_PROPERTY(double y READ y NOTIFY changed FINAL)
+  Q_PROPERTY(double width READ width NOTIFY changed FINAL)
+  Q_PROPERTY(double height READ height NOTIFY changed FINAL)
+  Q_PROPERTY(double borderWidth READ borderWidth NOTIFY changed FINAL)
+  Q_PROPERTY(QColor borderColor READ borderColor NOTIFY changed FINAL)
+  Q_PROPERTY(double cornerRadius READ cornerRadius NOTIFY changed FINAL)
+  Q_PROPERTY(QString text READ text NOTIFY changed FINAL)
+  Q_PROPERTY(QString placeholder READ placeholder NOTIFY changed FINAL)
+  Q_PROPERTY(QColor textColor READ textColor NOTIFY changed FINAL)
   // Whether the text has a colour of its own, which is then the toolkit's and no skin's.
-  Q_PROPERTY(bool coloured READ coloured NOTIFY changed)
-  Q_PROPERTY(int inputHints READ inputHints NOTIFY changed)
-  Q_PROPERTY(bool secure READ secure NOTIFY changed)
-  Q_PROPERTY(bool masked READ masked NOTIFY changed)
-  Q_PROPERTY(bool editing READ editing NOTIFY changed)
-  Q_PROPERTY(bool showsMessage READ showsMessage NOTIFY changed)
-  Q_PROPERTY(double progress READ progress NOTIFY changed)
-  Q_PROPERTY(double progressFrom READ progressFrom NOTIFY changed)
-  Q_PROPERTY(bool selected READ selected NOTIFY changed)
-  Q_PROPERTY(QColor selectedTitleColor READ selectedTitleColor NOTIFY changed)
-  Q_PROPERTY(QColor tintColor READ tintColor NOTIFY changed)
-  Q_PROPERTY(double contentHeight READ contentHeight NOTIFY changed)
-  Q_PROPERTY(double contentOffset READ contentOffset NOTIFY changed)
+  Q_PROPERTY(bool coloured READ coloured NOTIFY changed FINAL)
+  Q_PROPERTY(int inputHints READ inputHints NOTIFY changed FINAL)
+  Q_PROPERTY(bool secure READ secure NOTIFY changed FINAL)
+  Q_PROPERTY(bool masked READ masked NOTIFY changed FINAL)
+  Q_PROPERTY(bool editing READ editing NOTIFY changed FINAL)
+  Q_PROPERTY(bool showsMessage READ showsMessage NOTIFY changed FINAL)
+  Q_PROPERTY(double progress READ progress NOTIFY changed FINAL)
+  Q_PROPERTY(double progressFrom READ progressFrom NOTIFY changed FINAL)
+  Q_PROPERTY(bool selected READ selected NOTIFY changed FINAL)
+  Q_PROPERTY(QColor selectedTitleColor READ selectedTitleColor NOTIFY changed FINAL)
+  Q_PROPERTY(QColor tintColor READ tintColor NOTIFY changed FINAL)
+  Q_PROPERTY(double contentHeight READ contentHeight NOTIFY changed FINAL)
+  Q_PROPERTY(double contentOffset READ contentOffset NOTIFY changed FINAL)
   // Of a table: the item takes its offset over when this changes, and only then.
-  Q_PROPERTY(unsigned placement READ placement NOTIFY changed)
-  Q_PROPERTY(QVariantMap parts READ parts CONSTANT)
+  Q_PROPERTY(int placement READ placement NOTIFY changed FINAL)
+  // Of a row; null where its style has none.
+  Q_PROPERTY(leafund::ViewObject* content READ content CONSTANT FINAL)
+  Q_PROPERTY(leafund::ViewObject* picture READ picture CONSTANT FINAL)
+  Q_PROPERTY(leafund::ViewObject* title READ title CONSTANT FINAL)
+  Q_PROPERTY(leafund::ViewObject* detail READ detail CONSTANT FINAL)
 
  public:
   explicit ViewObject(const std::shared_ptr<UIView>& view, QObject* parent);
@@ -86,10 +91,12 @@ class ViewObject : public QObject, public Skin {
   QColor tintColor() const { return look_.tintColor; }
   double contentHeight() const { return look_.contentHeight; }
   double contentOffset() const { return look_.contentOffset; }
-  unsigned placement() const { return look_.placements + aims_; }
+  int placement() const { return static_cast<int>(look_.placements + aims_); }
 
-  // Of a row its content, picture, title and detail, by these names.
-  QVariantMap parts() const { return parts_; }
+  ViewObject* content() const { return part("content"); }
+  ViewObject* picture() const { return part("picture"); }
+  ViewObject* title() const { return part("title"); }
+  ViewObject* detail() const { return part("detail"); }
   const ViewLook& look() const { return look_; }
   // The looks of the cards lying in this view, undermost first, each look once.
   const std::vector<CardLook>& cards() const { return cards_.looks(); }
@@ -113,10 +120,11 @@ class ViewObject : public QObject, public Skin {
   void leaveView();
   void takeParts(const UIView& view);
   void addParts(const UIView& view);
+  ViewObject* part(std::string_view name) const;
 
   std::weak_ptr<UIView> view_;
   ViewLook look_;
-  QVariantMap parts_;
+  std::map<std::string_view, ViewObject*> parts_;
   Cards cards_;
   std::vector<ViewObject*> cells_;
   unsigned aims_ = 0;  // how often another view was shown

@@ -11,7 +11,7 @@ namespace leafund {
 // The cards that lie behind a row, with their shadows, on the ground of the list. Opaque, so that
 // nothing beneath it has to be drawn. A card keeps the width that the screen had when it was laid
 // down; in the window each spans the row, so that a list stays whole when its window is widened.
-class CardItem : public ViewImageItem {
+class CardItem : public leafund::ViewImageItem {
   Q_OBJECT
   QML_ELEMENT
 

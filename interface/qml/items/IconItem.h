@@ -9,11 +9,11 @@
 namespace leafund {
 
 // A drawn sign in one colour, on a grid of 24 by 24 that is stretched to the item's size.
-class IconItem : public ImageItem {
+class IconItem : public leafund::ImageItem {
   Q_OBJECT
   QML_ELEMENT
-  Q_PROPERTY(Icon icon READ icon WRITE setIcon NOTIFY iconChanged REQUIRED)
-  Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged REQUIRED)
+  Q_PROPERTY(Icon icon READ icon WRITE setIcon NOTIFY iconChanged REQUIRED FINAL)
+  Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged REQUIRED FINAL)
 
  public:
   enum Icon { Leaf, Search, Heart, Sprout, Paper, Back, Flag, Alert, HillFar, HillNear, Corner };

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QtQmlIntegration/qqmlintegration.h>
+
 #include <QImage>
 #include <QQuickItem>
 
@@ -13,6 +15,7 @@ namespace leafund {
 // repaint() or when the size in pixels changes.
 class ImageItem : public QQuickItem {
   Q_OBJECT
+  QML_ANONYMOUS
 
  public:
   explicit ImageItem(QQuickItem* parent = nullptr);

@@ -13,7 +13,7 @@ namespace leafund {
 //
 // A picture is painted off the main thread, and what was drawn before stays until that is done.
 // While the item is out of sight nothing is painted.
-class PictureItem : public ViewImageItem {
+class PictureItem : public leafund::ViewImageItem {
   Q_OBJECT
   QML_ELEMENT
 

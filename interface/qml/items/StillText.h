@@ -15,19 +15,19 @@ namespace leafund {
 // each letter anew is most of what a frame of a list costs. It wraps at its width, between words
 // where it can, and its last line ends in an ellipsis where there is more. It has the properties
 // of QML's Text that say the same.
-class StillText : public ImageItem {
+class StillText : public leafund::ImageItem {
   Q_OBJECT
   QML_ELEMENT
-  Q_PROPERTY(QString text READ text WRITE setText NOTIFY textChanged REQUIRED)
-  Q_PROPERTY(QFont font READ font WRITE setFont NOTIFY fontChanged REQUIRED)
-  Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged REQUIRED)
+  Q_PROPERTY(QString text READ text WRITE setText NOTIFY textChanged REQUIRED FINAL)
+  Q_PROPERTY(QFont font READ font WRITE setFont NOTIFY fontChanged REQUIRED FINAL)
+  Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged REQUIRED FINAL)
   // Fewer than 1 count as 1.
   Q_PROPERTY(int maximumLineCount READ maximumLineCount WRITE setMaximumLineCount NOTIFY
-                 maximumLineCountChanged REQUIRED)
-  Q_PROPERTY(int lineCount READ lineCount NOTIFY laidOut)
-  Q_PROPERTY(bool truncated READ truncated NOTIFY laidOut)
-  Q_PROPERTY(double contentWidth READ contentWidth NOTIFY laidOut)
-  Q_PROPERTY(double contentHeight READ contentHeight NOTIFY laidOut)
+                 maximumLineCountChanged REQUIRED FINAL)
+  Q_PROPERTY(int lineCount READ lineCount NOTIFY laidOut FINAL)
+  Q_PROPERTY(bool truncated READ truncated NOTIFY laidOut FINAL)
+  Q_PROPERTY(double contentWidth READ contentWidth NOTIFY laidOut FINAL)
+  Q_PROPERTY(double contentHeight READ contentHeight NOTIFY laidOut FINAL)
 
  public:
   using ImageItem::ImageItem;

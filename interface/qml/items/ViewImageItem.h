@@ -11,11 +11,11 @@
 namespace leafund {
 
 // An image painted from what a view shows, on a ground, and painted again when either changes.
-class ViewImageItem : public ImageItem {
+class ViewImageItem : public leafund::ImageItem {
   Q_OBJECT
   QML_ANONYMOUS
-  Q_PROPERTY(leafund::ViewObject* view READ view WRITE setView NOTIFY viewChanged REQUIRED)
-  Q_PROPERTY(QColor ground READ ground WRITE setGround NOTIFY groundChanged)
+  Q_PROPERTY(leafund::ViewObject* view READ view WRITE setView NOTIFY viewChanged REQUIRED FINAL)
+  Q_PROPERTY(QColor ground READ ground WRITE setGround NOTIFY groundChanged FINAL)
 
  public:
   using ImageItem::ImageItem;
