@@ -64,18 +64,20 @@ runMany() {
   runTool "random actions" '^[0-9]+ sequences, ' '^seed .* diverges' "$random" --actions 500000 --seed "$RANDOM" --jobs "$jobs"
 }
 
-# The random user in the window, of the program as ./test built it, and from outside.
+# The random user in the window of the program as ./test built it: from outside, which waits most of
+# the time, and inside.
 runWindow() {
   folder=build/debug results=build/debug/results
+  startTool "random outside" tests/random/outside "$folder/shell/leafund" "$folder/tests/random/random_reference" \
+    500 "$RANDOM"
   runTool "random window" '^[0-9]+ sequences, ' '^seed .* diverges' \
     "$folder/tests/random/random_window" --actions 20000 --seed "$RANDOM" --jobs "$jobs"
-  runTool "random outside" '^seed .* actions$' '^seed .* broken$' tests/random/outside \
-    "$folder/shell/leafund" "$folder/tests/random/random_reference" 500 "$RANDOM"
+  runLargePictures
+  finishTool "random outside" '^seed .* actions$' '^seed .* broken$'
 }
 
 # Pictures that are large, or made to take long.
 runLargePictures() {
-  folder=build/debug results=build/debug/results
   runTool "large pictures" ', 0 disagreements$' '^FAIL ' tools/pictures "$results/large-pictures" \
     --generate large --draw "$folder/tests/pictures/draw_pictures" --jobs 1
 }
@@ -89,16 +91,14 @@ runCounts() {
 }
 
 runWindow
-runLargePictures
 runMany
 runCounts
-for section in "A first change"; do
-  runTool "guide: ${section,,}" '^OK ' '^FAIL ' tools/follow "$section"
-done
+runTool "guide: a first change" '^OK ' '^FAIL ' tools/follow "A first change"
 installMissing package
 runTool packages '^OK ' '^FAIL ' tools/check-packages
-runTool fuzz ' 0 findings' ' [1-9][0-9]* findings' tools/fuzz all 60
+startTool fuzz tools/fuzz all 60  # one processor's work, while the suites wait for windows and servers
 runAddressSuites
+finishTool fuzz ' 0 findings' ' [1-9][0-9]* findings'
 runThreadSuites
 runCoverage
 runTool mutants '^CAUGHT ' '^(SURVIVED|UNBUILT) ' tools/mutants
