@@ -22,7 +22,7 @@ class Window(App):
     def __init__(self, process):
         super().__init__(process)
         self.width, self.height = self._screen()
-        self._clicked = 0.0
+        self._pressed = 0.0
 
     # Looking
 
@@ -60,10 +60,13 @@ class Window(App):
         self.expect(name, roles or CONTROLS)
         self._bring_into_view(name, roles or CONTROLS)
         x, y = self._still_middle(name, roles or CONTROLS)
-        # A user looks first; what comes sooner at one place is a double click, and one tap.
-        time.sleep(max(0, self._clicked + DOUBLE_CLICK - time.monotonic()))
-        self._clicked = time.monotonic()
+        self.pause()
         self.press((x, y), options)
+
+    def pause(self):
+        """A user looks first; what comes sooner at one place is a double click, and one tap."""
+        time.sleep(max(0, self._pressed + DOUBLE_CLICK - time.monotonic()))
+        self._pressed = time.monotonic()
 
     def press(self, place, options=()):
         self._xdotool("mousemove", *map(str, place), "click", *map(str, options), "1")

@@ -81,11 +81,15 @@ class Hand(Window):
         x, y = self.width // 2, self.height // 2
         if self.on_x and self.lot.random() < 0.5:
             wheel = ("click", "--repeat", self.lot.randint(1, 8), "--delay", 30, self.lot.choice("45"))
-            return self._xdotool("mousemove", *map(str, (x, y, *wheel)))
-        return self._draw((x, y), (x, y + self.lot.randint(-300, 300)))
+            self._xdotool("mousemove", *map(str, (x, y, *wheel)))
+            return wheel
+        way = self.lot.choice((-1, 1)) * self.lot.randint(40, 300)  # less is a tap
+        self._draw((x, y), (x, y + way))
+        return way
 
     def go_back(self):
-        """By a key or from the edge, without the button."""
+        """By a key or from the edge, without the button; the same key soon again is one press."""
+        self.pause()
         if self.on_x and self.lot.random() < 0.7:
             return self._xdotool("key", self.lot.choice(("Escape", "alt+Left")))
         return self._draw((5, 300), (260, 310))
@@ -143,8 +147,7 @@ class User:
             reference.do("row", what[0])
             return f"row {what[0]} {twice}"
         if verb == "scroll":
-            self.window.scroll()
-            return "scroll"
+            return f"scroll {self.window.scroll()}"
         if self.lot.random() < 0.5:
             self.window.click("Back", BUTTONS)
         else:
