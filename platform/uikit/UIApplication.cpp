@@ -115,13 +115,11 @@ void UIApplication::noteNeedsLayout(UIView& view) {
   needLayout_.push_back(view.weak_from_this());
 }
 
-UIViewController* UIApplication::controllerOf(const UIView& view) const {
-  const UIView* root = &view;
-  for (; root != nullptr; root = root->superview()) {
-    for (auto screen : navigation_->viewControllers()) {
-      for (; screen != nullptr; screen = screen->shownChild()) {
-        if (screen->viewIfLoaded().get() == root) return screen.get();
-      }
+std::shared_ptr<UIViewController> UIApplication::shownScreenOf(const UIView& view) const {
+  if (!navigation_) return nullptr;
+  for (const UIView* root = &view; root != nullptr; root = root->superview()) {
+    for (auto screen = navigation_->topViewController(); screen; screen = screen->shownChild()) {
+      if (screen->viewIfLoaded().get() == root) return screen;
     }
   }
   return nullptr;
@@ -131,8 +129,7 @@ bool UIApplication::reachable(const UIView& view) const {
   for (const UIView* each = &view; each != nullptr; each = each->superview()) {
     if (each->hidden()) return false;
   }
-  const auto* controller = navigation_ ? controllerOf(view) : nullptr;
-  return controller != nullptr && navigation_->isShown(*controller);
+  return shownScreenOf(view) != nullptr;
 }
 
 void UIApplication::tap(const std::shared_ptr<UIView>& view) {
@@ -144,6 +141,7 @@ void UIApplication::tap(const std::shared_ptr<UIView>& view) {
 void UIApplication::tapReached(const std::shared_ptr<UIView>& view) {
   const auto control = std::dynamic_pointer_cast<UIControl>(view);
   const auto cell = std::dynamic_pointer_cast<UITableViewCell>(view);
+  const auto screen = cell ? shownScreenOf(*cell) : nullptr;
   const auto input = firstResponder();
   // The finger leaves the input it was in for another control, as on a phone whose keyboard goes
   // away. What a tap beside the controls does is for the screen's recognisers to say.
@@ -153,7 +151,7 @@ void UIApplication::tapReached(const std::shared_ptr<UIView>& view) {
     return;
   }
   if (cell) {
-    controllerOf(*cell)->performSegueWithIdentifierSender(cell->segueIdentifier(), cell);
+    screen->performSegueWithIdentifierSender(cell->segueIdentifier(), cell);
     return;
   }
   // Gathered first: what one of them does may take away the view that holds the next.

@@ -114,7 +114,8 @@ class UIApplication : public UIResponder {
   bool settled() const;
   void run();
   void runRound();
-  UIViewController* controllerOf(const UIView& view) const;
+  // The innermost screen in sight whose view holds that one, or null.
+  std::shared_ptr<UIViewController> shownScreenOf(const UIView& view) const;
   void tapReached(const std::shared_ptr<UIView>& view);
   void tell(void (UIApplicationDelegate::*call)(UIApplication&));
 

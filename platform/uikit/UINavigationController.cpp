@@ -51,13 +51,6 @@ std::shared_ptr<UIViewController> UINavigationController::nearestBelow(
   return *found;
 }
 
-bool UINavigationController::isShown(const UIViewController& controller) const {
-  for (auto screen = topViewController(); screen != nullptr; screen = screen->shownChild()) {
-    if (screen.get() == &controller) return true;
-  }
-  return false;
-}
-
 const std::string& UINavigationController::barTitle(const UIViewController& controller) const {
   const auto* screen = &controller;
   while (const auto child = screen->shownChild()) screen = child.get();  // its parent keeps it

@@ -32,9 +32,6 @@ class UINavigationController : public std::enable_shared_from_this<UINavigationC
   std::shared_ptr<UIViewController> nearestBelow(const UIViewController& controller,
                                                  std::string_view sceneName) const;
 
-  // Whether the screen takes input: the topmost one does, and the child that it shows.
-  bool isShown(const UIViewController& controller) const;
-
   // The bar's text for a screen on the stack: its own title or that of the child it shows. A screen
   // without a text has no bar.
   const std::string& barTitle(const UIViewController& controller) const;
