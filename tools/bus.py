@@ -10,7 +10,7 @@ gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402
 
 LIMIT = 15.0  # seconds that any one step may take
-LOOK_AGAIN = 0.08  # seconds: each look asks the app some hundred questions
+LOOK_AGAIN = 0.08  # seconds, or as long as a look took: it asks the app some hundred questions
 # A role's name in words differs from version to version, a role does not.
 Role = Atspi.Role
 FIELDS = {Role.TEXT, Role.ENTRY, Role.PASSWORD_TEXT, Role.EDITBAR}
@@ -39,6 +39,7 @@ class App:
         end = time.monotonic() + LIMIT
         while True:
             self._take_events()
+            began = time.monotonic()
             try:
                 result = condition()
             except GLib.Error:
@@ -47,9 +48,10 @@ class App:
                 return result
             if not os.path.exists(f"/proc/{self.process}"):
                 raise WalkBroken(f"the app ended; expected {what}")
-            if time.monotonic() > end:
+            now = time.monotonic()
+            if now > end:
                 raise WalkBroken(f"not within {LIMIT:.0f} s: {what}")
-            time.sleep(LOOK_AGAIN)
+            time.sleep(max(LOOK_AGAIN, now - began))
 
     def walk(self, enters):
         """Every node, in reading order; below one that is not to be entered, none."""
