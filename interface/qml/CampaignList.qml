@@ -17,8 +17,7 @@ FocusScope {
     height: table.height
 
     function scrollBy(distance) {
-        const lowest = Math.max(0, flickable.contentHeight - flickable.height);
-        flickable.contentY = Math.max(0, Math.min(lowest, flickable.contentY + distance));
+        flickable.contentY = flickable.withinEnds(flickable.contentY + distance);
     }
 
     // The row in focus is brought into sight, and some of the next: only rows in sight can be reached.
@@ -81,7 +80,16 @@ FocusScope {
         clip: true
 
         // The item owns the offset. What logic or layout placed anew is taken over once.
-        onContentYChanged: list.table.scroll(contentY)
+        // On its way it may be past an end, where sums are rounded, and goes back by itself; put back, it
+        // would believe that it moves, and miss the next turn of the wheel.
+        onContentYChanged: list.table.scroll(moving ? withinEnds(contentY) : contentY)
+        onMovingChanged: {
+            if (!moving && contentY !== withinEnds(contentY))
+                contentY = withinEnds(contentY);
+        }
+        function withinEnds(y: real): real {
+            return Math.max(0, Math.min(contentHeight - height, y));
+        }
         readonly property int placement: list.table.placement
         onPlacementChanged: contentY = list.table.contentOffset
         // A fling ends where its list is covered.

@@ -31,7 +31,7 @@ void WindowUser::scroll(const Action& action, Chance& how) {
     }
     const bool room = down ? before < list->greatestOffset() - 1 : before > 1;
     if (!room || slides || how.percent(60)) return;
-    hand_.rest();
+    hand_.rest(how);
     const double moved = reference_.shown().table->offset - before;
     if (moved == 0 || (moved > 0) != down) complain("the wheel moved no list");
   } else {

@@ -12,27 +12,17 @@ namespace leafund::random {
 
 namespace {
 
-constexpr int kFrame = 16;        // milliseconds
-constexpr int kMostFrames = 400;  // until rest: a fling takes 2 to 3 seconds
-constexpr int kHeldFor = 20;      // milliseconds that a key is down
-constexpr int kLookAhead = 60;    // real milliseconds, after which the host prepares what may come
+// Milliseconds.
+constexpr int kFrame = 16;
+constexpr int kMostRest = 6400;  // until rest: a fling takes 2 to 3 seconds
+constexpr int kHeldFor = 20;     // that a key is down
+constexpr int kLookAhead = 60;   // real ones, after which the host prepares what may come
 
 bool isPrintable(const QString& text) {
   return std::all_of(text.begin(), text.end(), [](QChar each) { return each.isPrint(); });
 }
 
 }  // namespace
-
-void FrameClock::start() {
-  sinceStart_ = 0;
-  QAnimationDriver::start();
-}
-
-void FrameClock::pass(int milliseconds) {
-  now_ += milliseconds;
-  sinceStart_ += milliseconds;
-  if (isRunning()) advanceAnimation();
-}
 
 void WindowHand::pointer(QEvent::Type type, QPointF where, Qt::MouseButtons buttons,
                          Qt::MouseButton button) {
@@ -124,11 +114,13 @@ void WindowHand::frames(int count, Chance& how) {
   }
 }
 
-bool WindowHand::rest() {
-  for (int frame = 0; frame < kMostFrames; ++frame) {
+bool WindowHand::rest(Chance& how) {
+  const int length = how.percent(50) ? kFrame : static_cast<int>(how.between(4, 40));
+  const int drawn = how.percent(75) ? 1 : 4;  // of so many frames one, as on a busy machine
+  for (int frame = 0; frame * length < kMostRest; ++frame) {
     QCoreApplication::processEvents();
-    clock_.pass(kFrame);
-    draw();
+    clock_.pass(length);
+    if (frame % drawn == 0 || !clock_.isRunning()) draw();
     QCoreApplication::processEvents();
     if (frame > 1 && !clock_.isRunning()) return true;
   }
@@ -152,10 +144,10 @@ bool WindowHand::serve(Chance& how) {
     default:
       break;
   }
-  if (!rest()) return false;
+  if (!rest(how)) return false;
   if (!how.percent(20)) return true;
   QTest::qWait(kLookAhead);
-  return rest();
+  return rest(how);
 }
 
 }  // namespace leafund::random

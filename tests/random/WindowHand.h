@@ -1,31 +1,14 @@
 #pragma once
 
-#include <QAnimationDriver>
 #include <QPointF>
 #include <QPointingDevice>
 #include <memory>
 
 #include "platform/qt/QtWindow.h"
 #include "tests/random/Chance.h"
+#include "tests/support/FrameClock.h"
 
 namespace leafund::random {
-
-// The time of animations and of the pointer. It passes only when it is told to, so that a seed
-// decides what is met in the middle of a slide.
-class FrameClock : public QAnimationDriver {
- public:
-  FrameClock() { install(); }
-  void pass(int milliseconds);
-  qint64 elapsed() const override { return sinceStart_; }
-  int now() const { return now_; }
-
- protected:
-  void start() override;
-
- private:
-  qint64 sinceStart_ = 0;
-  int now_ = 1000;
-};
 
 // Pointer, finger and keys, as the system tells them to the window.
 class WindowHand {
@@ -47,8 +30,9 @@ class WindowHand {
 
   // So many frames of a length drawn for each; some are withheld.
   void frames(int count, Chance& how);
-  // Until nothing moves, or for so long that it never will.
-  bool rest();
+  // Until nothing moves, or for so long that it never will; in frames of a length drawn for it, of
+  // which most may be withheld.
+  bool rest(Chance& how);
   // As much or as little as is drawn. True when nothing moves any more.
   bool serve(Chance& how);
   bool moving() const { return clock_.isRunning(); }
