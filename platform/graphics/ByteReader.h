@@ -29,6 +29,9 @@ class ByteReader {
   // What there is of so many bytes; where there are fewer, the reader stays good.
   std::string_view takeUpTo(std::size_t count) { return take(count < left() ? count : left()); }
 
+  // Over what stands before the next such byte, or over all there is.
+  void skipTo(char byte) { takeUpTo(rest_.find(byte)); }
+
   std::uint8_t byte() {
     const std::string_view taken = take(1);
     return taken.empty() ? std::uint8_t{0} : static_cast<std::uint8_t>(taken.front());

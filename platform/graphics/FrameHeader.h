@@ -13,6 +13,10 @@ struct FrameHeader {
   int orientation = 1;  // 1 to 8, as in PictureHeader
 };
 
+// Of the markers or chunks of a body only so many are looked at, by the window's thread: 64 MB can
+// hold 33 million of them. No picture that is not made to take time has a thousandth of a million.
+inline constexpr int kMostParts = 1'000'000;
+
 // One function a format: nothing for bytes that do not begin as that format, or whose size cannot
 // be read.
 std::optional<FrameHeader> readJpeg(std::string_view body);

@@ -1,17 +1,9 @@
-#include "platform/graphics/ByteReader.h"
 #include "platform/graphics/FrameHeader.h"
+#include "platform/graphics/JpegSegments.h"
 
 namespace leafund {
 
 namespace {
-
-// Marker codes of ITU-T T.81, table B.1.
-constexpr std::uint8_t temporary = 0x01;
-constexpr std::uint8_t firstRestart = 0xD0;
-constexpr std::uint8_t startOfImage = 0xD8;
-constexpr std::uint8_t endOfImage = 0xD9;
-constexpr std::uint8_t startOfScan = 0xDA;
-constexpr std::uint8_t exifApplication = 0xE1;
 
 // Every kind of frame: which of them can be drawn is for the decoder to say.
 bool isFrame(std::uint8_t marker) {
@@ -22,46 +14,29 @@ bool isFrame(std::uint8_t marker) {
          marker != arithmeticConditions;
 }
 
-bool standsAlone(std::uint8_t marker) {
-  return marker == temporary || (marker >= firstRestart && marker <= startOfImage);
-}
-
-// Passes over fill bytes, and over stray bytes between segments as decoders do.
-std::uint8_t nextMarker(ByteReader& bytes) {
-  for (;;) {
-    while (bytes.good() && bytes.byte() != 0xFF) {
-    }
-    std::uint8_t marker = bytes.byte();
-    while (marker == 0xFF) marker = bytes.byte();
-    if (marker != 0 || !bytes.good()) return marker;
-  }
-}
-
-std::optional<FrameHeader> frameIn(ByteReader segment) {
-  segment.byte();  // the bits of a sample
+std::optional<FrameHeader> frameIn(std::string_view segment) {
+  ByteReader bytes{segment};
+  bytes.byte();  // the bits of a sample
   FrameHeader frame{};
-  frame.height = segment.big16();
-  frame.width = segment.big16();
-  return segment.good() ? std::optional(frame) : std::nullopt;
+  frame.height = bytes.big16();
+  frame.width = bytes.big16();
+  return bytes.good() ? std::optional(frame) : std::nullopt;
 }
 
 }  // namespace
 
 std::optional<FrameHeader> readJpeg(std::string_view body) {
+  constexpr std::uint8_t exifApplication = 0xE1;
+  constexpr std::string_view exif("Exif\0\0", 6);
   if (!body.starts_with("\xFF\xD8\xFF")) return std::nullopt;
-  ByteReader bytes{body.substr(2)};
   std::optional<FrameHeader> frame;
   int orientation = 1;
-  for (;;) {
-    const std::uint8_t marker = nextMarker(bytes);
-    if (!bytes.good() || marker == startOfScan || marker == endOfImage) break;
-    if (standsAlone(marker)) continue;
-    const std::size_t length = bytes.big16();  // It counts its own two bytes, or tells nonsense.
-    ByteReader segment{bytes.takeUpTo(length < 2 ? 0 : length - 2)};
-    if (isFrame(marker) && !frame) frame = frameIn(segment);
-    if (marker != exifApplication || orientation != 1) continue;
-    if (segment.take(6) == std::string_view("Exif\0\0", 6)) {
-      orientation = exifOrientation(segment.take(segment.left()));
+  JpegSegments segments(body);
+  while (const auto segment = segments.next()) {
+    const auto& [marker, content] = *segment;
+    if (isFrame(marker) && !frame) frame = frameIn(content);
+    if (marker == exifApplication && orientation == 1 && content.starts_with(exif)) {
+      orientation = exifOrientation(content);
     }
   }
   if (frame) frame->orientation = orientation;

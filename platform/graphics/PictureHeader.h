@@ -27,7 +27,8 @@ struct PictureHeader {
 // find, and stops nothing.
 //
 // Every host answers by this rule and not by what its own decoder takes. Takes time in proportion
-// to the number of the body's segments, and no memory.
+// to the number of the body's markers or chunks, of which the first million are looked at, and no
+// memory.
 std::optional<PictureHeader> readPictureHeader(std::string_view body);
 
 }  // namespace leafund

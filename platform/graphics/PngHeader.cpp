@@ -7,7 +7,7 @@ namespace {
 
 // Cameras' words may stand behind the pixels, too.
 int orientationIn(ByteReader chunks) {
-  while (chunks.good()) {
+  for (int part = 0; part < kMostParts && chunks.good(); ++part) {
     const std::size_t length = chunks.big32();
     const std::string_view name = chunks.take(4);
     const std::string_view data = chunks.take(length);

@@ -12,7 +12,7 @@ std::optional<FrameHeader> extended(ByteReader chunk, ByteReader others) {
   canvas.width = 1 + chunk.little24();
   canvas.height = 1 + chunk.little24();
   if (!chunk.good()) return std::nullopt;
-  while (others.good()) {
+  for (int part = 0; part < kMostParts && others.good(); ++part) {
     const std::string_view name = others.take(4);
     const std::size_t length = others.little32();
     const std::string_view data = others.take(length);

@@ -1,19 +1,20 @@
 """What a picture is, stated a second time and without the product's code.
 
 A body is one when it begins as a JPEG, PNG, GIF or WebP, and its frame size, of a GIF the canvas,
-can be read and is 1 to 65,535 pixels a side.
+can be read, in a JPEG among the first million markers, and is 1 to 65,535 pixels a side.
 """
 
 import struct
 
 LONGEST_SIDE = 65535
+MOST_MARKERS = 1_000_000
 FRAMES = set(range(0xC0, 0xD0)) - {0xC4, 0xC8, 0xCC}
 
 
 def jpeg_segments(body):
     """Each marker with its segment, to the first scan."""
     at = 2
-    while True:
+    for _ in range(MOST_MARKERS):
         at = body.find(b"\xff", at)
         while 0 <= at < len(body) and body[at] == 0xFF:
             at += 1
