@@ -1,5 +1,7 @@
 #include "platform/graphics/JpegSegments.h"
 
+#include <array>
+
 #include "platform/graphics/FrameHeader.h"
 
 namespace leafund {
@@ -38,6 +40,30 @@ std::uint8_t JpegSegments::nextMarker() {
   std::uint8_t marker = bytes_.byte();
   while (marker == 0xFF) marker = bytes_.byte();
   return marker;
+}
+
+std::string jpegProfile(std::string_view body) {
+  constexpr std::uint8_t profileApplication = 0xE2;
+  constexpr std::string_view name("ICC_PROFILE\0", 12);
+  std::array<std::optional<std::string_view>, 256> parts;
+  std::size_t count = 0;
+  JpegSegments segments(body);
+  while (const auto segment = segments.next()) {
+    if (segment->marker != profileApplication || !segment->content.starts_with(name)) continue;
+    ByteReader bytes{segment->content.substr(name.size())};
+    const std::size_t number = bytes.byte();
+    const std::size_t of = bytes.byte();
+    if (!bytes.good()) continue;
+    if (number == 0 || number > of || parts[number] || (count != 0 && of != count)) return {};
+    parts[number] = bytes.take(bytes.left());
+    count = of;
+  }
+  std::string profile;
+  for (std::size_t number = 1; number <= count; ++number) {
+    if (!parts[number]) return {};
+    profile += *parts[number];
+  }
+  return profile;
 }
 
 }  // namespace leafund

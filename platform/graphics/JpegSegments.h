@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <string_view>
 
 #include "platform/graphics/ByteReader.h"
@@ -29,5 +30,9 @@ class JpegSegments {
   ByteReader bytes_;
   int markers_ = 0;
 };
+
+// The colour profile of a JPEG, put together from its segments; empty when it has none, or when a
+// part is missing or there twice.
+std::string jpegProfile(std::string_view body);
 
 }  // namespace leafund

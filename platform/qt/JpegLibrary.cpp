@@ -23,9 +23,7 @@ JpegLibrary::JpegLibrary() {
   resolve(library, stdError, "jpeg_std_error");
   resolve(library, createDecompress, "jpeg_CreateDecompress");
   resolve(library, destroyDecompress, "jpeg_destroy_decompress");
-  resolve(library, saveMarkers, "jpeg_save_markers");
   resolve(library, readHeader, "jpeg_read_header");
-  resolve(library, readIccProfile, "jpeg_read_icc_profile");
   resolve(library, hasMultipleScans, "jpeg_has_multiple_scans");
   resolve(library, calcOutputDimensions, "jpeg_calc_output_dimensions");
   resolve(library, startDecompress, "jpeg_start_decompress");

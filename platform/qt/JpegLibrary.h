@@ -19,9 +19,7 @@ class JpegLibrary {
   decltype(&jpeg_std_error) stdError = nullptr;
   decltype(&jpeg_CreateDecompress) createDecompress = nullptr;
   decltype(&jpeg_destroy_decompress) destroyDecompress = nullptr;
-  decltype(&jpeg_save_markers) saveMarkers = nullptr;
   decltype(&jpeg_read_header) readHeader = nullptr;
-  decltype(&jpeg_read_icc_profile) readIccProfile = nullptr;
   decltype(&jpeg_has_multiple_scans) hasMultipleScans = nullptr;
   decltype(&jpeg_calc_output_dimensions) calcOutputDimensions = nullptr;
   decltype(&jpeg_start_decompress) startDecompress = nullptr;

@@ -1,7 +1,7 @@
 #include <csetjmp>
-#include <cstdlib>
 #include <utility>
 
+#include "platform/graphics/JpegSegments.h"
 #include "platform/qt/DecodedPicture.h"
 #include "platform/qt/JpegLibrary.h"
 
@@ -63,7 +63,7 @@ void cmykToRgb32(unsigned char* row, unsigned width) {
 class JpegDecoder {
  public:
   JpegDecoder(const JpegLibrary& jpeg, std::string_view body, const std::stop_token& stop)
-      : jpeg_(jpeg), stop_(stop), picture_{} {
+      : jpeg_(jpeg), body_(body), stop_(stop), picture_{} {
     source_.manager.next_input_byte = reinterpret_cast<const JOCTET*>(body.data());
     source_.manager.bytes_in_buffer = body.size();
     bytesLeft_ = body.size();
@@ -111,7 +111,6 @@ class JpegDecoder {
   void begin(QSize enough) {
     jpeg_.createDecompress(&picture_, JPEG_LIB_VERSION, sizeof picture_);
     picture_.src = &source_.manager;
-    jpeg_.saveMarkers(&picture_, JPEG_APP0 + 2, 0xFFFF);  // where profiles are
     jpeg_.readHeader(&picture_, TRUE);
     const auto isEnough = [&](unsigned eighths) {
       return picture_.image_width * eighths >= 8U * static_cast<unsigned>(enough.width()) &&
@@ -140,18 +139,15 @@ class JpegDecoder {
     return bytes;
   }
 
-  ColourTransform toSRgb() {
+  // libjpeg would keep the segments of a profile in a list, and go through it for each one more:
+  // 200 KB of empty ones took three seconds, 60 MB did not come to an end.
+  ColourTransform toSRgb() const {
     using Pixels = ColourTransform::Pixels;
-    JOCTET* bytes = nullptr;
-    unsigned length = 0;
-    if (!tried([&] { jpeg_.readIccProfile(&picture_, &bytes, &length); })) return {};
-    if (bytes == nullptr) return {};
+    const std::string profile = jpegProfile(body_);
+    if (profile.empty()) return {};
     const auto colours =
         picture_.jpeg_color_space == JCS_GRAYSCALE ? Pixels::Grey : Pixels::Colours;
-    const auto transform = ColourTransform::ofProfile(
-        {reinterpret_cast<const char*>(bytes), length}, isOfInks() ? Pixels::Inks : colours);
-    std::free(bytes);
-    return transform;
+    return ColourTransform::ofProfile(profile, isOfInks() ? Pixels::Inks : colours);
   }
 
   void readRows(unsigned char* bits, std::size_t stride) {
@@ -204,6 +200,7 @@ class JpegDecoder {
   int mostRowsOfABlock() const { return 8 * picture_.max_v_samp_factor; }
 
   const JpegLibrary& jpeg_;
+  const std::string_view body_;
   const std::stop_token& stop_;
   jpeg_decompress_struct picture_;
   Errors errors_{};

@@ -174,6 +174,35 @@ TEST(PictureJpegTest, ABrokenProfileDoesNotMatter) {
   expectQuadrants(drawn(body.substr(0, 2) + segment + body.substr(2)));
 }
 
+// libjpeg, asked to keep segments, goes through all it has for each one more.
+TEST(PictureJpegTest, SegmentsWhereProfilesStandTakeBoundedTime) {
+  const std::string body = quadrantJpeg({64, 64}, [](auto&) {});
+  std::string segments;
+  for (int each = 0; each < 50'000; ++each) segments += std::string("\xFF\xE2\0\2", 4);
+  const double start = processorSeconds();
+
+  expectQuadrants(drawn(body.substr(0, 2) + segments + body.substr(2)));
+
+  EXPECT_LT(processorSeconds() - start, 1);
+}
+
+// Behind the end stands what a decoder that reads on would take for the rest of the picture: what a
+// string held before it was made shorter.
+TEST(PictureJpegTest, ASegmentThatClaimsMoreThanTheBodyEndsIt) {
+  const std::string body = quadrantJpeg({64, 64}, [](auto&) {});
+  const std::size_t scan = body.find("\xFF\xDA");
+  auto claiming =
+      std::make_shared<std::string>(body.substr(0, scan) + std::string("\xFF\xFE\1\0", 4) +
+                                    std::string(254, 'x') + body.substr(scan));
+  const auto whole = UIImage::initWithData(std::make_shared<const std::string>(*claiming));
+  expectQuadrants(picturePixels(*whole, {128, 128}, stretch));
+
+  claiming->resize(scan + 4 + 100);
+
+  const auto cut = UIImage::initWithData(claiming);
+  EXPECT_TRUE(picturePixels(*cut, {128, 128}, stretch).isNull());
+}
+
 TEST(PictureJpegTest, WhateverIsCutOffTheRestIsDrawn) {
   for (const bool isProgressive : {false, true}) {
     const std::string body = quadrantJpeg({640, 480}, [&](auto& picture) {
