@@ -1,53 +1,33 @@
 #include "platform/qt/ColourTransform.h"
 
-#include <dlfcn.h>
 #include <lcms2.h>
+
+#include "platform/foundation/LoadedLibrary.h"
 
 namespace leafund {
 
 namespace {
 
 // What is used of Little CMS, each as it is named there.
-struct Library {
-  decltype(&cmsOpenProfileFromMem) openProfileFromMem = nullptr;
-  decltype(&cmsCloseProfile) closeProfile = nullptr;
-  decltype(&cmsGetColorSpace) getColorSpace = nullptr;
-  decltype(&cmsCreate_sRGBProfile) createSRgbProfile = nullptr;
-  decltype(&cmsCreateRGBProfile) createRgbProfile = nullptr;
-  decltype(&cmsBuildParametricToneCurve) buildToneCurve = nullptr;
-  decltype(&cmsFreeToneCurve) freeToneCurve = nullptr;
-  decltype(&cmsCreateTransform) createTransform = nullptr;
-  decltype(&cmsDeleteTransform) deleteTransform = nullptr;
-  decltype(&cmsDoTransform) doTransform = nullptr;
-  bool isThere = false;
-
+struct Library : LoadedLibrary {
   static const Library& get() {
     static const Library library;
     return library;
   }
 
- private:
-  Library() {
-    void* const library = dlopen("liblcms2.so.2", RTLD_NOW | RTLD_LOCAL);
-    isThere = library != nullptr;
-    if (!isThere) return;
-    resolve(library, openProfileFromMem, "cmsOpenProfileFromMem");
-    resolve(library, closeProfile, "cmsCloseProfile");
-    resolve(library, getColorSpace, "cmsGetColorSpace");
-    resolve(library, createSRgbProfile, "cmsCreate_sRGBProfile");
-    resolve(library, createRgbProfile, "cmsCreateRGBProfile");
-    resolve(library, buildToneCurve, "cmsBuildParametricToneCurve");
-    resolve(library, freeToneCurve, "cmsFreeToneCurve");
-    resolve(library, createTransform, "cmsCreateTransform");
-    resolve(library, deleteTransform, "cmsDeleteTransform");
-    resolve(library, doTransform, "cmsDoTransform");
-  }
+  decltype(&cmsOpenProfileFromMem) openProfileFromMem = function("cmsOpenProfileFromMem");
+  decltype(&cmsCloseProfile) closeProfile = function("cmsCloseProfile");
+  decltype(&cmsGetColorSpace) getColorSpace = function("cmsGetColorSpace");
+  decltype(&cmsCreate_sRGBProfile) createSRgbProfile = function("cmsCreate_sRGBProfile");
+  decltype(&cmsCreateRGBProfile) createRgbProfile = function("cmsCreateRGBProfile");
+  decltype(&cmsBuildParametricToneCurve) buildToneCurve = function("cmsBuildParametricToneCurve");
+  decltype(&cmsFreeToneCurve) freeToneCurve = function("cmsFreeToneCurve");
+  decltype(&cmsCreateTransform) createTransform = function("cmsCreateTransform");
+  decltype(&cmsDeleteTransform) deleteTransform = function("cmsDeleteTransform");
+  decltype(&cmsDoTransform) doTransform = function("cmsDoTransform");
 
-  template <typename Function>
-  void resolve(void* library, Function& function, const char* name) {
-    function = reinterpret_cast<Function>(dlsym(library, name));
-    isThere = isThere && function != nullptr;
-  }
+ private:
+  Library() : LoadedLibrary("liblcms2.so.2") {}
 };
 
 using Pixels = ColourTransform::Pixels;
@@ -103,7 +83,7 @@ ColourTransform::ColourTransform(void* transform, Pixels pixels) : pixels_(pixel
 
 ColourTransform ColourTransform::ofProfile(std::string_view icc, Pixels pixels) {
   const Library& lcms = Library::get();
-  if (!lcms.isThere) return {};
+  if (!lcms.isThere()) return {};
   cmsHPROFILE profile =
       lcms.openProfileFromMem(icc.data(), static_cast<cmsUInt32Number>(icc.size()));
   if (profile == nullptr) return {};
@@ -115,7 +95,7 @@ ColourTransform ColourTransform::ofProfile(std::string_view icc, Pixels pixels) 
 
 ColourTransform ColourTransform::ofPrimaries(const Primaries& primaries) {
   const Library& lcms = Library::get();
-  if (!lcms.isThere) return {};
+  if (!lcms.isThere()) return {};
   cmsHPROFILE profile = profileOf(lcms, primaries);
   if (profile == nullptr) return {};
   return {transformOf(lcms, profile, kRgb32), Pixels::Colours};

@@ -2,31 +2,28 @@
 
 #include <gif_lib.h>
 
+#include "platform/foundation/LoadedLibrary.h"
+
 namespace leafund {
 
-// What is used of giflib, loaded when the first GIF is drawn; it stays loaded.
-class GifLibrary {
+// What is used of giflib, loaded when the first GIF is drawn. Each as the library names it.
+class GifLibrary : public LoadedLibrary {
  public:
-  static const GifLibrary& get();
+  static const GifLibrary& get() {
+    static const GifLibrary library;
+    return library;
+  }
 
-  // False where there is none; the functions are null then.
-  bool isThere() const { return isThere_; }
-
-  // Each as the library names it.
-  decltype(&DGifOpen) open = nullptr;
-  decltype(&DGifCloseFile) close = nullptr;
-  decltype(&DGifGetRecordType) getRecordType = nullptr;
-  decltype(&DGifGetImageDesc) getImageDesc = nullptr;
-  decltype(&DGifGetExtension) getExtension = nullptr;
-  decltype(&DGifGetExtensionNext) getExtensionNext = nullptr;
-  decltype(&DGifGetLine) getLine = nullptr;
+  decltype(&DGifOpen) open = function("DGifOpen");
+  decltype(&DGifCloseFile) close = function("DGifCloseFile");
+  decltype(&DGifGetRecordType) getRecordType = function("DGifGetRecordType");
+  decltype(&DGifGetImageDesc) getImageDesc = function("DGifGetImageDesc");
+  decltype(&DGifGetExtension) getExtension = function("DGifGetExtension");
+  decltype(&DGifGetExtensionNext) getExtensionNext = function("DGifGetExtensionNext");
+  decltype(&DGifGetLine) getLine = function("DGifGetLine");
 
  private:
-  GifLibrary();
-  template <typename Function>
-  void resolve(void* library, Function& function, const char* name);
-
-  bool isThere_ = false;
+  GifLibrary() : LoadedLibrary("libgif.so.7") {}
 };
 
 }  // namespace leafund

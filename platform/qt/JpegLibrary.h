@@ -5,35 +5,34 @@
 #include <jpeglib.h>
 // clang-format on
 
+#include "platform/foundation/LoadedLibrary.h"
+
 namespace leafund {
 
-// What is used of libjpeg-turbo, loaded when the first JPEG is drawn; it stays loaded.
-class JpegLibrary {
+// What is used of libjpeg-turbo, loaded when the first JPEG is drawn. Each as the library names it.
+class JpegLibrary : public LoadedLibrary {
  public:
-  static const JpegLibrary& get();
+  static const JpegLibrary& get() {
+    static const JpegLibrary library;
+    return library;
+  }
 
-  // False where there is none; the functions are null then.
-  bool isThere() const { return isThere_; }
-
-  // Each as the library names it.
-  decltype(&jpeg_std_error) stdError = nullptr;
-  decltype(&jpeg_CreateDecompress) createDecompress = nullptr;
-  decltype(&jpeg_destroy_decompress) destroyDecompress = nullptr;
-  decltype(&jpeg_read_header) readHeader = nullptr;
-  decltype(&jpeg_has_multiple_scans) hasMultipleScans = nullptr;
-  decltype(&jpeg_calc_output_dimensions) calcOutputDimensions = nullptr;
-  decltype(&jpeg_start_decompress) startDecompress = nullptr;
-  decltype(&jpeg_consume_input) consumeInput = nullptr;
-  decltype(&jpeg_start_output) startOutput = nullptr;
-  decltype(&jpeg_read_scanlines) readScanlines = nullptr;
-  decltype(&jpeg_resync_to_restart) resyncToRestart = nullptr;
+  decltype(&jpeg_std_error) stdError = function("jpeg_std_error");
+  decltype(&jpeg_CreateDecompress) createDecompress = function("jpeg_CreateDecompress");
+  decltype(&jpeg_destroy_decompress) destroyDecompress = function("jpeg_destroy_decompress");
+  decltype(&jpeg_read_header) readHeader = function("jpeg_read_header");
+  decltype(&jpeg_has_multiple_scans) hasMultipleScans = function("jpeg_has_multiple_scans");
+  decltype(&jpeg_calc_output_dimensions) calcOutputDimensions =
+      function("jpeg_calc_output_dimensions");
+  decltype(&jpeg_start_decompress) startDecompress = function("jpeg_start_decompress");
+  decltype(&jpeg_consume_input) consumeInput = function("jpeg_consume_input");
+  decltype(&jpeg_start_output) startOutput = function("jpeg_start_output");
+  decltype(&jpeg_read_scanlines) readScanlines = function("jpeg_read_scanlines");
+  decltype(&jpeg_resync_to_restart) resyncToRestart = function("jpeg_resync_to_restart");
 
  private:
-  JpegLibrary();
-  template <typename Function>
-  void resolve(void* library, Function& function, const char* name);
-
-  bool isThere_ = false;
+  // The binary interface follows the version that the library was built to be like.
+  JpegLibrary() : LoadedLibrary(JPEG_LIB_VERSION >= 80 ? "libjpeg.so.8" : "libjpeg.so.62") {}
 };
 
 }  // namespace leafund

@@ -2,23 +2,24 @@
 
 #include <webp/decode.h>
 
+#include "platform/foundation/LoadedLibrary.h"
+
 namespace leafund {
 
-// What is used of libwebp, loaded when the first WebP is drawn; it stays loaded.
-class WebPLibrary {
+// What is used of libwebp, loaded when the first WebP is drawn. Each as the library names it.
+class WebPLibrary : public LoadedLibrary {
  public:
-  static const WebPLibrary& get();
+  static const WebPLibrary& get() {
+    static const WebPLibrary library;
+    return library;
+  }
 
-  // False where there is none.
-  bool isThere() const { return newRgb != nullptr && update != nullptr && remove != nullptr; }
-
-  // Each as the library names it, and null where there is none.
-  decltype(&WebPINewRGB) newRgb = nullptr;
-  decltype(&WebPIUpdate) update = nullptr;
-  decltype(&WebPIDelete) remove = nullptr;
+  decltype(&WebPINewRGB) newRgb = function("WebPINewRGB");
+  decltype(&WebPIUpdate) update = function("WebPIUpdate");
+  decltype(&WebPIDelete) remove = function("WebPIDelete");
 
  private:
-  WebPLibrary();
+  WebPLibrary() : LoadedLibrary("libwebp.so.7") {}
 };
 
 }  // namespace leafund

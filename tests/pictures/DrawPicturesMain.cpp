@@ -26,21 +26,13 @@
 #include <string>
 
 #include "platform/qt/PicturePixels.h"
+#include "tests/support/ProcessMemory.h"
 #include "tests/support/ProcessorTime.h"
 
 namespace leafund {
 namespace {
 
 constexpr unsigned kPatience = 120;  // seconds, after which a drawing has not come to an end
-
-long kilobytes(const std::string& name) {
-  std::ifstream status("/proc/self/status");
-  std::string word;
-  while (status >> word && word != name) continue;
-  long number = 0;
-  status >> number;
-  return number;
-}
 
 // The size at which so many pixels, each way, become one: filters agree best on whole numbers.
 QSize fraction(CGSize own, double pixels) {
@@ -65,7 +57,7 @@ std::string drawn(const std::string& path, const std::string& folder) {
   const CGSize own = picture->size();
   std::ostringstream line;
   line << "picture " << own.width << ' ' << own.height;
-  const long before = kilobytes("VmRSS:");
+  const long before = kilobytes("VmRSS");
   const QSize sizes[] = {fraction(own, std::sqrt(own.width * own.height / 1'048'576)),
                          fraction(own, std::max(own.width, own.height) / 128)};
   for (int which = 0; which < 2; ++which) {
@@ -73,7 +65,7 @@ std::string drawn(const std::string& path, const std::string& folder) {
     const double start = processorSeconds();
     const QImage image = picturePixels(*picture, size, UIViewContentMode::ScaleToFill);
     const double seconds = processorSeconds() - start;
-    const long most = kilobytes("VmHWM:") - before;
+    const long most = kilobytes("VmHWM") - before;
     write(folder + '/' + std::to_string(which), image);
     line << ' ' << size.width() << ' ' << size.height() << ' ' << image.isNull() << ' ' << seconds
          << ' ' << most;

@@ -1,5 +1,4 @@
-#include <fstream>
-
+#include "tests/support/ProcessMemory.h"
 #include "tests/window/PixelsFixture.h"
 
 namespace leafund {
@@ -38,16 +37,6 @@ TEST(PicturePixelsTest, APictureWithAHeaderAloneGivesNothingOrGrey) {
   }
 }
 
-// In kilobytes, of addresses: room that was taken and never filled counts, too.
-long mostRoomTaken() {
-  std::ifstream status("/proc/self/status");
-  std::string word;
-  while (status >> word && word != "VmPeak:") continue;
-  long kilobytes = 0;
-  status >> kilobytes;
-  return kilobytes;
-}
-
 TEST(PicturePixelsTest, NoRoomIsTakenForWhatAPngOnlyAnnounces) {
   const std::string announced = "\x3D\x01\x01\x01tEXt";  // a gigabyte of words
   std::string body = *written(quadrants({64, 64}), "png");
@@ -55,14 +44,14 @@ TEST(PicturePixelsTest, NoRoomIsTakenForWhatAPngOnlyAnnounces) {
   ASSERT_NE(end, std::string::npos);
   body.insert(end - 4, announced);
   picturePixels(*picture({64, 64}, "png"), {16, 16}, stretch);
-  const long before = mostRoomTaken();
+  const long before = kilobytes("VmPeak");  // room that was taken and never filled counts, too
   const auto image = UIImage::initWithData(std::make_shared<const std::string>(body));
   ASSERT_TRUE(image);
 
   picturePixels(*image, {16, 16}, stretch);
 
   ASSERT_GT(before, 0);
-  EXPECT_LT(mostRoomTaken(), before + 100'000);
+  EXPECT_LT(kilobytes("VmPeak"), before + 100'000);
 }
 
 TEST(PicturePixelsTest, ADrawingOfVectorsGivesNothing) {

@@ -11,13 +11,8 @@ std::string gifWithItsFrameAt(char x, char y) {
          "\0\2\0\2\0\0\2\3\x44\x34\5\0;"s;
 }
 
-QImage drawn(const std::string& body) {
-  const auto recipe = UIImage::initWithData(std::make_shared<const std::string>(body));
-  return recipe ? picturePixels(*recipe, {4, 4}, stretch) : QImage();
-}
-
 TEST(PictureGifTest, TheFirstFrameLiesWhereItSaysAndAllElseIsClear) {
-  const QImage image = drawn(gifWithItsFrameAt(1, 2));
+  const QImage image = drawn(gifWithItsFrameAt(1, 2), {4, 4});
 
   EXPECT_TRUE(shows(image, 1, 2, Qt::red));
   EXPECT_TRUE(shows(image, 2, 2, Qt::green));
@@ -29,19 +24,19 @@ TEST(PictureGifTest, TheFirstFrameLiesWhereItSaysAndAllElseIsClear) {
 }
 
 TEST(PictureGifTest, OfAFrameThatReachesOverTheEdgeTheRestIsDrawn) {
-  const QImage image = drawn(gifWithItsFrameAt(3, 3));
+  const QImage image = drawn(gifWithItsFrameAt(3, 3), {4, 4});
 
   EXPECT_TRUE(shows(image, 3, 3, Qt::red));
   EXPECT_EQ(image.pixelColor(2, 3).alpha(), 0);
-  EXPECT_EQ(drawn(gifWithItsFrameAt(9, 9)).pixelColor(3, 3).alpha(), 0);
+  EXPECT_EQ(drawn(gifWithItsFrameAt(9, 9), {4, 4}).pixelColor(3, 3).alpha(), 0);
 }
 
 TEST(PictureGifTest, ACanvasOfMoreThan256MegabytesIsBlank) {
   std::string body = gifWithItsFrameAt(0, 0);
   body.replace(6, 4, "\x40\x1F\x41\x1F");  // 8,000 by 8,001
 
-  EXPECT_FALSE(drawn(gifWithItsFrameAt(0, 0)).isNull());
-  EXPECT_TRUE(drawn(body).isNull());
+  EXPECT_FALSE(drawn(gifWithItsFrameAt(0, 0), {4, 4}).isNull());
+  EXPECT_TRUE(drawn(body, {4, 4}).isNull());
 }
 
 }  // namespace

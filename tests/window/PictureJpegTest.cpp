@@ -1,6 +1,4 @@
-#include <QColorSpace>
-#include <fstream>
-
+#include "tests/support/ProcessMemory.h"
 #include "tests/support/ProcessorTime.h"
 #include "tests/window/JpegBytes.h"
 #include "tests/window/PixelsFixture.h"
@@ -12,23 +10,8 @@ using jpegbytes::quadrantsOf;
 using jpegbytes::Wish;
 using jpegbytes::written;
 
-QImage drawn(const std::string& body, QSize size = {128, 128}) {
-  const auto recipe = UIImage::initWithData(std::make_shared<const std::string>(body));
-  return recipe ? picturePixels(*recipe, size, stretch) : QImage();
-}
-
 std::string quadrantJpeg(QSize size, std::function<void(jpeg_compress_struct&)> options) {
   return written({size, quadrantsOf(size), std::move(options)});
-}
-
-// In megabytes, the most there has been.
-long mostMemory() {
-  std::ifstream status("/proc/self/status");
-  std::string word;
-  while (status >> word && word != "VmHWM:") continue;
-  long kilobytes = 0;
-  status >> kilobytes;
-  return kilobytes / 1024;
 }
 
 TEST(PictureJpegTest, EveryKindThatLibjpegWritesIsDrawn) {
@@ -76,13 +59,13 @@ TEST(PictureJpegTest, APhotoOf48MegapixelsTakesLittleMemory) {
   const QSize size{8064, 6048};
   const std::string body = quadrantJpeg(size, [](auto&) {});
   drawn(quadrantJpeg({64, 64}, [](auto&) {}));
-  const long before = mostMemory();
+  const long before = kilobytes("VmHWM");
 
   const double start = processorSeconds();
   expectQuadrants(drawn(body));
 
   RecordProperty("seconds", std::to_string(processorSeconds() - start));
-  EXPECT_LT(mostMemory() - before, 32);
+  EXPECT_LT(kilobytes("VmHWM") - before, 32'000);
 }
 
 TEST(PictureJpegTest, WhatWouldTakeMoreThan256MegabytesIsBlank) {
@@ -93,12 +76,12 @@ TEST(PictureJpegTest, WhatWouldTakeMoreThan256MegabytesIsBlank) {
   });
   std::string huge = body;
   huge.replace(huge.find("\xFF\xC2") + 5, 4, "\x27\x10\x27\x10");
-  const long before = mostMemory();
+  const long before = kilobytes("VmHWM");
 
   EXPECT_FALSE(drawn(body).isNull());
   EXPECT_TRUE(drawn(huge).isNull());
 
-  EXPECT_LT(mostMemory() - before, 32);
+  EXPECT_LT(kilobytes("VmHWM") - before, 32'000);
 }
 
 TEST(PictureJpegTest, ScansWithoutAnEndTakeBoundedTime) {
@@ -152,17 +135,6 @@ TEST(PictureJpegTest, ASmallBodyThatClaimsTheLargestSizeIsSoonDrawn) {
 
   EXPECT_TRUE(image.isNull());
   EXPECT_LT(processorSeconds() - start, 1);
-}
-
-TEST(PictureJpegTest, AColourProfileCounts) {
-  QImage picture(64, 64, QImage::Format_RGB32);
-  picture.fill(QColor(200, 100, 50));
-  picture.setColorSpace(QColorSpace(QColorSpace::DisplayP3));
-
-  const auto recipe = UIImage::initWithData(leafund::written(picture, "jpeg"));
-
-  // By hand, from the matrices of the two spaces.
-  EXPECT_TRUE(shows(picturePixels(*recipe, {16, 16}, stretch), 8, 8, QColor(215, 93, 31), 4));
 }
 
 TEST(PictureJpegTest, ABrokenProfileDoesNotMatter) {

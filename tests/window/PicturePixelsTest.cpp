@@ -1,7 +1,22 @@
+#include <QColorSpace>
+
 #include "tests/window/PixelsFixture.h"
 
 namespace leafund {
 namespace {
+
+TEST(PicturePixelsTest, AColourProfileCounts) {
+  for (const char* format : {"jpeg", "png"}) {
+    QImage picture(64, 64, QImage::Format_RGB32);
+    picture.fill(QColor(200, 100, 50));
+    picture.setColorSpace(QColorSpace(QColorSpace::DisplayP3));
+
+    const QImage image = drawn(*written(picture, format));
+
+    // By hand, from the matrices of the two spaces.
+    EXPECT_TRUE(shows(image, 8, 8, QColor(215, 93, 31), 4)) << format;
+  }
+}
 
 TEST(PicturePixelsTest, ALargerPictureIsStretchedAndNotCropped) {
   const QImage image = picturePixels(*picture({640, 480}), {128, 128}, stretch);

@@ -1,21 +1,15 @@
 #include <zlib.h>
 
-#include <QColorSpace>
-#include <fstream>
 #include <vector>
 
 #include "tests/platform/PictureBytes.h"
+#include "tests/support/ProcessMemory.h"
 #include "tests/window/PixelsFixture.h"
 
 namespace leafund {
 namespace {
 
 using namespace picturebytes;
-
-QImage drawn(const std::string& body, QSize size) {
-  const auto recipe = UIImage::initWithData(std::make_shared<const std::string>(body));
-  return recipe ? picturePixels(*recipe, size, stretch) : QImage();
-}
 
 std::string packed(const std::string& rows) {
   std::string bytes(compressBound(static_cast<uLong>(rows.size())), '\0');
@@ -53,16 +47,6 @@ TEST(PicturePngTest, AClearColourOf16BitsIsClearAndTheOneBesideItIsNot) {
   }
 }
 
-// In megabytes, the most there has been.
-long mostMemory() {
-  std::ifstream status("/proc/self/status");
-  std::string word;
-  while (status >> word && word != "VmHWM:") continue;
-  long kilobytes = 0;
-  status >> kilobytes;
-  return kilobytes / 1024;
-}
-
 TEST(PicturePngTest, WordsAreNotUnpacked) {
   // 480 MB of words in half a megabyte.
   const std::string words = std::string("k\0\0", 3) + packed(std::string(7'500'000, 'x'));
@@ -70,11 +54,11 @@ TEST(PicturePngTest, WordsAreNotUnpacked) {
   std::string all;
   for (int each = 0; each < 64; ++each) all += chunk("zTXt", words);
   body.insert(body.find("IDAT") - 4, all);
-  const long before = mostMemory();
+  const long before = kilobytes("VmHWM");
 
   expectQuadrants(drawn(body, {64, 64}));
 
-  EXPECT_LT(mostMemory() - before, 64);
+  EXPECT_LT(kilobytes("VmHWM") - before, 64'000);
 }
 
 TEST(PicturePngTest, RowsOfMoreThan350MegabytesAreBlank) {
@@ -82,11 +66,11 @@ TEST(PicturePngTest, RowsOfMoreThan350MegabytesAreBlank) {
   // Sixteen bits a channel, four channels: 400 MB.
   const std::string header = big32(10'000) + big32(5'000) + byte(16) + byte(6);
   body.replace(8, 25, chunk("IHDR", header + std::string(3, '\0')));
-  const long before = mostMemory();
+  const long before = kilobytes("VmHWM");
 
   EXPECT_TRUE(drawn(body, {64, 64}).isNull());
 
-  EXPECT_LT(mostMemory() - before, 64);
+  EXPECT_LT(kilobytes("VmHWM") - before, 64'000);
 }
 
 TEST(PicturePngTest, EveryKindThatQtWritesIsDrawn) {
@@ -163,17 +147,6 @@ TEST(PicturePngTest, ItsGammaCountsUnlessItIsSRgb) {
   EXPECT_EQ(lightOf(chunk("gAMA", big32(45'455))), 55);
   EXPECT_EQ(lightOf(chunk("sRGB", byte(0)) + linear), 55);
   EXPECT_EQ(lightOf(chunk("gAMA", big32(0))), 55);
-}
-
-TEST(PicturePngTest, AColourProfileCounts) {
-  QImage picture(64, 64, QImage::Format_ARGB32);
-  picture.fill(QColor(200, 100, 50));
-  picture.setColorSpace(QColorSpace(QColorSpace::DisplayP3));
-
-  const auto recipe = UIImage::initWithData(written(picture, "png"));
-
-  // By hand, from the matrices of the two spaces.
-  EXPECT_TRUE(shows(picturePixels(*recipe, {16, 16}, stretch), 8, 8, QColor(215, 93, 31), 3));
 }
 
 }  // namespace

@@ -52,6 +52,12 @@ inline std::shared_ptr<const UIImage> redrawn(const std::shared_ptr<const UIImag
                                .strokes = {{image, {0, 0, size.width, size.height}}}});
 }
 
+// As the body is drawn; null where it is no picture, too.
+inline QImage drawn(const std::string& body, QSize size = {128, 128}) {
+  const auto recipe = UIImage::initWithData(std::make_shared<const std::string>(body));
+  return recipe ? picturePixels(*recipe, size, stretch) : QImage();
+}
+
 // How far two colours are apart, in the channel in which they differ most.
 inline int difference(QColor one, QColor other) {
   return std::max({std::abs(one.red() - other.red()), std::abs(one.green() - other.green()),
