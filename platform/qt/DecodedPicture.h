@@ -22,6 +22,8 @@ struct DecodedPicture {
 inline constexpr long long kMostPictureBytes = 256'000'000;
 // All rows of a PNG, unpacked; one that has more is null.
 inline constexpr std::size_t kMostPngBytes = 350'000'000;
+// Of a lossy WebP so many bytes are looked at, which take as long as the most of a JPEG.
+inline constexpr std::size_t kMostWebPBytes = 32'000'000;
 // Each scan of a JPEG counts its pixels, and each byte counts as some; behind so many of them the
 // rest is left out.
 inline constexpr long long kMostJpegWork = 600'000'000;
@@ -34,6 +36,6 @@ DecodedPicture decodeJpeg(std::string_view body, QSize enough, const std::stop_t
 // cut short says nothing. `size` is what the header tells.
 DecodedPicture decodePng(std::string_view body, const std::stop_token& stop);
 DecodedPicture decodeGif(std::string_view body, const std::stop_token& stop);
-DecodedPicture decodeWebP(std::string_view body, QSize size);
+DecodedPicture decodeWebP(std::string_view body, QSize size, const std::stop_token& stop);
 
 }  // namespace leafund

@@ -63,7 +63,7 @@ DecodedPicture decoded(const std::string& body, const PictureHeader& header, QSi
     case PictureHeader::Format::GIF:
       return decodeGif(body, stop);
     case PictureHeader::Format::WebP:
-      return decodeWebP(body, {header.width, header.height});
+      return decodeWebP(body, {header.width, header.height}, stop);
   }
   return {};
 }

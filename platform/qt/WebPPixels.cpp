@@ -1,4 +1,5 @@
 #include <QPainter>
+#include <algorithm>
 
 #include "platform/graphics/ByteReader.h"
 #include "platform/qt/DecodedPicture.h"
@@ -11,21 +12,25 @@ namespace {
 // ARGB32 is a number, whose bytes lie by the machine's order.
 constexpr WEBP_CSP_MODE kArgb32 = Q_BYTE_ORDER == Q_LITTLE_ENDIAN ? MODE_BGRA : MODE_ARGB;
 
-// What is needed of the chunks of a WebP (RFC 9649, 2.7).
+// What is needed of the chunks of a WebP, or of a frame of one (RFC 9649, 2.7).
 struct Chunks {
   std::string_view profile;
-  std::string_view firstFrame;  // Empty when nothing moves.
-  bool isLossy = true;          // Without a lossless part, which an alpha channel is, too.
+  std::string_view firstFrame;   // Empty when nothing moves.
+  bool isLossy = true;           // Without a lossless part, which an alpha channel is, too.
+  std::size_t beforePixels = 0;  // How many bytes stand before those of the first still picture.
 };
 
-Chunks chunksOf(std::string_view body) {
-  ByteReader bytes{body};
-  bytes.take(12);
+Chunks chunksOf(std::string_view chunks) {
+  ByteReader bytes{chunks};
   Chunks found;
+  found.beforePixels = chunks.size();
   while (bytes.good() && found.firstFrame.empty()) {
     const std::string_view name = bytes.take(4);
     const std::size_t length = bytes.little32();
     if (!bytes.good()) break;
+    if (found.beforePixels == chunks.size() && (name == "VP8 " || name == "VP8L")) {
+      found.beforePixels = chunks.size() - bytes.left();
+    }
     const std::string_view data = bytes.takeUpTo(length);
     if (name == "ICCP") found.profile = data;
     if (name == "ANMF") found.firstFrame = data;
@@ -40,23 +45,45 @@ Chunks chunksOf(std::string_view body) {
 constexpr int kLossyBytes = 5;
 constexpr int kLosslessBytes = 9;
 
-// What can be made of the bytes, which are transparent where they are cut short.
-QImage stillPixels(const WebPLibrary& webp, std::string_view bytes, QSize size, int bytesAPixel) {
-  if (1LL * bytesAPixel * size.width() * size.height() > kMostPictureBytes) return {};
-  QImage pixels(size, QImage::Format_ARGB32);
+// Behind each of so many pieces of a body a stop is looked for.
+constexpr std::size_t kPieces = 64;
+
+struct Still {
+  std::string_view bytes;
+  std::size_t beforePixels;
+  QSize size;
+  bool isLossy;
+};
+
+// What can be made of it, which is transparent where it is cut short.
+QImage stillPixels(const WebPLibrary& webp, const Still& still, const std::stop_token& stop) {
+  const int bytesAPixel = still.isLossy ? kLossyBytes : kLosslessBytes;
+  if (1LL * bytesAPixel * still.size.width() * still.size.height() > kMostPictureBytes) return {};
+  QImage pixels(still.size, QImage::Format_ARGB32);
   if (pixels.isNull()) return {};
   pixels.fill(Qt::transparent);
   auto* const decoder =
       webp.newRgb(kArgb32, pixels.bits(), static_cast<size_t>(pixels.sizeInBytes()),
                   static_cast<int>(pixels.bytesPerLine()));
   if (decoder == nullptr) return {};
-  webp.update(decoder, reinterpret_cast<const uint8_t*>(bytes.data()), bytes.size());
+  const auto* const first = reinterpret_cast<const uint8_t*>(still.bytes.data());
+  // It goes through all chunks before the pixels until it is given the first of these.
+  std::size_t given = still.beforePixels;
+  const std::size_t rest = still.bytes.size() - given;
+  const std::size_t all = given + (still.isLossy ? std::min(rest, kMostWebPBytes) : rest);
+  const std::size_t piece = rest / kPieces + 1;
+  auto status = VP8_STATUS_SUSPENDED;
+  while (given < all && status == VP8_STATUS_SUSPENDED && !stop.stop_requested()) {
+    given = std::min(given + piece, all);
+    status = webp.update(decoder, first, given);
+  }
   webp.remove(decoder);
   return pixels;
 }
 
 // The first picture of an animation, where it lies on its canvas.
-QImage framePixels(const WebPLibrary& webp, std::string_view frame, QSize canvasSize) {
+QImage framePixels(const WebPLibrary& webp, std::string_view frame, QSize canvasSize,
+                   const std::stop_token& stop) {
   ByteReader bytes{frame};
   const auto number = [&bytes] { return static_cast<int>(bytes.little24()); };
   const int x = 2 * number();
@@ -69,7 +96,9 @@ QImage framePixels(const WebPLibrary& webp, std::string_view frame, QSize canvas
   if (!isInside ||
       (4LL + kLosslessBytes) * canvasSize.width() * canvasSize.height() > kMostPictureBytes)
     return {};
-  const QImage pixels = stillPixels(webp, bytes.take(bytes.left()), place.size(), kLosslessBytes);
+  const std::string_view still = bytes.take(bytes.left());
+  const QImage pixels = stillPixels(
+      webp, {still, chunksOf(still).beforePixels, place.size(), /*isLossy=*/false}, stop);
   QImage canvas(canvasSize, QImage::Format_ARGB32);
   if (pixels.isNull() || canvas.isNull()) return {};
   canvas.fill(Qt::transparent);
@@ -79,14 +108,15 @@ QImage framePixels(const WebPLibrary& webp, std::string_view frame, QSize canvas
 
 }  // namespace
 
-DecodedPicture decodeWebP(std::string_view body, QSize size) {
+DecodedPicture decodeWebP(std::string_view body, QSize size, const std::stop_token& stop) {
+  constexpr std::size_t headBytes = 12;
   const WebPLibrary& webp = WebPLibrary::get();
   if (!webp.isThere()) return {};
-  const auto [profile, firstFrame, isLossy] = chunksOf(body);
+  const auto [profile, firstFrame, isLossy, beforePixels] = chunksOf(body.substr(headBytes));
   DecodedPicture decoded;
   decoded.pixels = firstFrame.empty()
-                       ? stillPixels(webp, body, size, isLossy ? kLossyBytes : kLosslessBytes)
-                       : framePixels(webp, firstFrame, size);
+                       ? stillPixels(webp, {body, headBytes + beforePixels, size, isLossy}, stop)
+                       : framePixels(webp, firstFrame, size, stop);
   if (!profile.empty()) {
     decoded.toSRgb = ColourTransform::ofProfile(profile, ColourTransform::Pixels::Colours);
   }

@@ -12,7 +12,6 @@
 #include <vector>
 
 #include "platform/qt/PixelWorker.h"
-#include "tests/support/ProcessorTime.h"
 #include "tests/window/PixelsFixture.h"
 
 namespace leafund {
@@ -203,21 +202,6 @@ TEST_F(PixelWorkerTest, TheEndStopsWhatIsUnderWayAndDropsTheRest) {
   serve();
 
   EXPECT_TRUE(arrived.empty());
-}
-
-TEST(PicturePixelsTest, EveryDecoderStopsWhenItIsTold) {
-  QImage large(4000, 3000, QImage::Format_RGB32);
-  large.fill(Qt::red);
-  std::stop_source stop;
-  stop.request_stop();
-  for (const char* format : {"jpeg", "png"}) {
-    const auto recipe = UIImage::initWithData(written(large, format));
-    const double start = processorSeconds();
-    EXPECT_FALSE(picturePixels(*recipe, {128, 128}, stretch).isNull());
-    const double whole = processorSeconds() - start;
-    EXPECT_TRUE(picturePixels(*recipe, {128, 128}, stretch, stop.get_token()).isNull());
-    EXPECT_LT(processorSeconds() - start - whole, whole / 2) << format;
-  }
 }
 
 }  // namespace
