@@ -53,6 +53,7 @@ CurlHandle::CurlHandle(const CurlLibrary& curl, Connections& connections, std::s
   // The success and error rules below were tried on HTTP/1.1.
   set(CURLOPT_HTTP_VERSION, long{CURL_HTTP_VERSION_1_1});
   set(CURLOPT_PROTOCOLS_STR, "http,https");
+  set(CURLOPT_SSLVERSION, long{CURL_SSLVERSION_TLSv1_2});  // or newer, whatever the system allows
   // Nothing around the application decides whom it asks, and no picture host on the loopback is
   // beyond reach because the system has a proxy, whose refusal would be taken for a picture.
   set(CURLOPT_PROXY, "");

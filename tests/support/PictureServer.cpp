@@ -17,7 +17,6 @@
 #include <utility>
 
 #include "tests/support/PictureAnswers.h"
-#include "tests/support/PictureServerCertificate.h"
 
 namespace leafund {
 
@@ -50,19 +49,27 @@ PictureServer::Request parsedHead(const std::string& head) {
   return request;
 }
 
-std::unique_ptr<QTcpServer> makeServer(PictureServer::Speaks speaks) {
+std::unique_ptr<QTcpServer> makeServer(PictureServer::Speaks speaks, const Identity& identity) {
   if (speaks == PictureServer::Speaks::Plain) return std::make_unique<QTcpServer>();
-  QSslConfiguration identity = QSslConfiguration::defaultConfiguration();
-  identity.setLocalCertificate(QSslCertificate(unvouchedCertificate));
-  identity.setPrivateKey(QSslKey(unvouchedKey, QSsl::Ec));
+  QSslConfiguration ways = QSslConfiguration::defaultConfiguration();
+  ways.setLocalCertificate(QSslCertificate(QByteArray::fromStdString(identity.certificate)));
+  ways.setPrivateKey(QSslKey(QByteArray::fromStdString(identity.key), QSsl::Ec));
+  if (speaks == PictureServer::Speaks::Tls10) {
+    QT_WARNING_PUSH
+    QT_WARNING_DISABLE_DEPRECATED
+    ways.setProtocol(QSsl::TlsV1_0);
+    QT_WARNING_POP
+    ways.setBackendConfigurationOption("CipherString", "ALL:@SECLEVEL=0");
+  }
   auto server = std::make_unique<QSslServer>();
-  server->setSslConfiguration(identity);
+  server->setSslConfiguration(ways);
   return server;
 }
 
 }  // namespace
 
-PictureServer::PictureServer(Speaks speaks) : speaks_(speaks) {
+PictureServer::PictureServer(Speaks speaks, Identity identity)
+    : speaks_(speaks), identity_(std::move(identity)) {
   std::promise<int> port;
   auto listening = port.get_future();
   thread_.reset(QThread::create(
@@ -80,7 +87,7 @@ PictureServer::~PictureServer() {
 }
 
 std::string PictureServer::baseAddress() const {
-  const char* scheme = speaks_ == Speaks::Tls ? "https" : "http";
+  const char* scheme = speaks_ == Speaks::Plain ? "http" : "https";
   return scheme + ("://127.0.0.1:" + std::to_string(port_));
 }
 
@@ -128,7 +135,7 @@ bool PictureServer::waitForConnections(int count) const {
 }
 
 void PictureServer::listenAndServe(const std::function<void(int port)>& listening) {
-  const auto server = makeServer(speaks_);
+  const auto server = makeServer(speaks_, identity_);
   QObject::connect(server.get(), &QTcpServer::pendingConnectionAvailable, server.get(), [&] {
     while (QTcpSocket* client = server->nextPendingConnection()) accept(*client);
   });

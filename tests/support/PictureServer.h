@@ -11,6 +11,8 @@
 #include <string_view>
 #include <vector>
 
+#include "tests/support/Certificates.h"
+
 class QTcpSocket;
 
 namespace leafund {
@@ -30,11 +32,10 @@ class PictureServer {
     std::map<std::string, std::string> headers;  // By their names in lower case.
   };
 
-  // Who speaks TLS shows a certificate that nobody vouches for.
-  enum class Speaks { Plain, Tls };
+  enum class Speaks { Plain, Tls, Tls10 };  // Tls10: that of 1999, and nothing newer
 
-  // Listens when this returns.
-  explicit PictureServer(Speaks speaks = Speaks::Plain);
+  // Listens when this returns. Who speaks TLS shows who it is.
+  explicit PictureServer(Speaks speaks = Speaks::Plain, Identity identity = {});
   PictureServer(const PictureServer&) = delete;
   PictureServer& operator=(const PictureServer&) = delete;
   // Cuts the connections that are open.
@@ -76,6 +77,7 @@ class PictureServer {
   int mostConnections_ = 0;
   int connectionsSoFar_ = 0;
   const Speaks speaks_;
+  const Identity identity_;
   int port_ = 0;
   std::vector<QTcpSocket*> clients_;  // on the server's thread
   std::unique_ptr<QThread> thread_;

@@ -18,8 +18,20 @@ std::string FaultHosts::picture() {
 std::string FaultHosts::closed() { return PictureServer().address("/fault"); }
 
 std::string FaultHosts::unvouched() {
-  tls_ = std::make_unique<PictureServer>(PictureServer::Speaks::Tls);
+  tls_ = std::make_unique<PictureServer>(PictureServer::Speaks::Tls,
+                                         identityWith(Certificate::SelfSigned));
   return tls_->serve("/new", answers::ok(bodies::jpeg(kNewColour)));
+}
+
+std::string FaultHosts::vouched(Certificate certificate, PictureServer::Speaks speaks) {
+  trustOurAuthority();
+  tls_ = std::make_unique<PictureServer>(speaks, identityWith(certificate));
+  return tls_->serve("/new", answers::ok(bodies::jpeg(kNewColour)));
+}
+
+std::string FaultHosts::oldTls() {
+  allowAnyTls();
+  return vouched(Certificate::Sound, PictureServer::Speaks::Tls10);
 }
 
 std::string FaultHosts::plainAsHttps() {

@@ -27,6 +27,11 @@ class FaultHosts {
   static std::string closed();
   // A picture, on a host whose certificate nobody vouches for.
   std::string unvouched();
+  // The same, but our authority does, and is trusted from now on.
+  std::string vouched(Certificate certificate,
+                      PictureServer::Speaks speaks = PictureServer::Speaks::Tls);
+  // And by the TLS of 1999, which the system would allow.
+  std::string oldTls();
   // The server itself, which does not speak TLS.
   std::string plainAsHttps();
   // So many redirects, and then the picture.

@@ -50,6 +50,10 @@ const std::vector<Fault>& faults() {
     {"RedirectToAClosedHost", [](At at) { return at.with(answers::redirect(FaultHosts::closed())); }, Kept, Kept, Kept},
     {"RedirectToABadCertificate", [](At at) { return at.with(answers::redirect(at.unvouched())); }, Kept, Kept, Kept},
     {"BadCertificate", [](At at) { return at.unvouched(); }, Kept, Kept, Kept},
+    {"GoodCertificate", [](At at) { return at.vouched(Certificate::Sound); }, Picture, Picture, Picture},
+    {"ExpiredCertificate", [](At at) { return at.vouched(Certificate::Expired); }, Kept, Kept, Kept},
+    {"CertificateOfAnotherHost", [](At at) { return at.vouched(Certificate::OfAnotherHost); }, Kept, Kept, Kept},
+    {"TlsOf1999", [](At at) { return at.oldTls(); }, Kept, Kept, Kept},
     {"TlsToAHostWithoutTls", [](At at) { return at.plainAsHttps(); }, Waits, Waits, Waits},
 
     // The head of the answer.

@@ -94,7 +94,7 @@ TEST_F(TransferShortageTest, NoKeysAreLoggedWhateverTheEnvironmentSays) {
   const auto log =
       std::filesystem::temp_directory_path() / ("leafund-keys-" + std::to_string(getpid()));
   setenv("SSLKEYLOGFILE", log.c_str(), 1);
-  const PictureServer secret(PictureServer::Speaks::Tls);
+  const PictureServer secret(PictureServer::Speaks::Tls, identityWith(Certificate::SelfSigned));
   CurlTransfer transfer;
 
   EXPECT_TRUE(fetched(transfer, secret.address("/picture")).isError());
