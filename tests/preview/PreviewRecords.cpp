@@ -1,6 +1,7 @@
 #include "tests/preview/PreviewRecords.h"
 
 #include "model/PictureHost.h"
+#include "model/SeedCampaigns.h"
 
 namespace leafund {
 
@@ -26,6 +27,20 @@ std::shared_ptr<CampaignClass> longCampaign() {
 std::shared_ptr<CampaignClass> emptyCampaign() {
   return std::make_shared<CampaignClass>("", "", 100.0F, 0.0F, "", placeholderPictureAddress(), "",
                                          1, "");
+}
+
+CampaignList manyCampaigns() {
+  constexpr std::size_t count = 10'000;
+  const CampaignList seeds = seedOtherCampaigns();
+  CampaignList campaigns;
+  while (campaigns.size() < count) {
+    const CampaignClass& seed = *seeds[campaigns.size() % seeds.size()];
+    campaigns.push_back(std::make_shared<CampaignClass>(
+        "Campaign " + std::to_string(campaigns.size() + 1), seed.creator(), seed.totalFunding(),
+        seed.currFunding(), seed.shortDescription(), seed.photo(), seed.shortDescription(), 4,
+        "Dec"));
+  }
+  return campaigns;
 }
 
 }  // namespace leafund

@@ -14,4 +14,7 @@ std::string longWords();
 std::shared_ptr<CampaignClass> longCampaign();
 std::shared_ptr<CampaignClass> emptyCampaign();
 
+// Ten thousand, with the pictures of the catalogue in turn.
+CampaignList manyCampaigns();
+
 }  // namespace leafund

@@ -73,7 +73,9 @@ std::vector<PreviewState> listStates(const std::string& scene) {
   return {state(scene, "filled"),
           state(
               scene, "empty", +[](UIViewController&) { list().clear(); }),
-          state(scene, "long", +[](UIViewController&) { list().assign(1, longCampaign()); })};
+          state(
+              scene, "long", +[](UIViewController&) { list().assign(1, longCampaign()); }),
+          state(scene, "many", +[](UIViewController&) { list() = manyCampaigns(); })};
 }
 
 std::vector<PreviewState> tabStates() {
@@ -88,14 +90,16 @@ std::vector<PreviewState> tabStates() {
   return all;
 }
 
-// A campaign alone in the browse list, open.
-void open(OneCampaignViewController& screen, std::shared_ptr<CampaignClass> campaign) {
-  otherCampaigns().assign(1, std::move(campaign));
+// The list stays as it is: the page is also made ahead, while another state shows the list.
+void openFirst(OneCampaignViewController& screen) {
   screen.campaignSendingYou = "otherCampaigns";
   screen.campaignNum = 0;
 }
 
-void openFirst(OneCampaignViewController& screen) { open(screen, otherCampaigns().front()); }
+void open(OneCampaignViewController& screen, std::shared_ptr<CampaignClass> campaign) {
+  otherCampaigns().assign(1, std::move(campaign));
+  openFirst(screen);
+}
 
 std::vector<PreviewState> campaignStates() {
   const std::string scene = "OneCampaignViewController";
