@@ -3,6 +3,7 @@
 import io
 import struct
 import subprocess
+import tempfile
 
 import profiles
 from PIL import Image
@@ -36,6 +37,15 @@ def exif(orientation, order="<"):
     start = {"<": b"II*\0", ">": b"MM\0*"}[order]
     entry = struct.pack(order + "HHIHH", 0x0112, 3, 1, orientation, 0)
     return b"Exif\0\0" + start + struct.pack(order + "IH", 8, 1) + entry + bytes(4)
+
+
+def exif_with(orientation, kind, count=1, others=0):
+    """Told as bytes or short numbers, or behind other entries, in a directory that stands further back."""
+    value = struct.pack("<BBxx" if kind == 1 else "<HH", orientation, 0)
+    entries = [struct.pack("<HHI", 0x0100 + at, 3, 1) + bytes(4) for at in range(others)]
+    entries.append(struct.pack("<HHI", 0x0112, kind, count) + value)
+    directory = struct.pack("<H", len(entries)) + b"".join(entries) + bytes(4)
+    return b"Exif\0\0II*\0" + struct.pack("<I", 40) + bytes(32) + directory
 
 
 def frame_at(body):
@@ -100,6 +110,45 @@ def kinds():
         yield f"orientation-{orientation}", jpeg(rgb, exif=exif(orientation, order))
     yield "orientation-6-progressive", jpeg(rgb, exif=exif(6), progressive=True)
     yield from coloured(rgb, grey, cmyk)
+    yield from odd(rgb, grey)
+
+
+def odd(rgb, grey):
+    """What cameras, scanners and broken copies write."""
+    plain = jpeg(rgb)
+    with tempfile.NamedTemporaryFile("w", suffix=".scans") as scans:
+        scans.write("0;\n1;\n2;\n")
+        scans.flush()
+        apart = by_cjpeg(rgb, "-scans", scans.name)
+    yield "components-apart", apart
+    # Its first scan alone.
+    starts = [at for at in range(len(apart)) if apart[at : at + 2] == b"\xff\xda"]
+    yield "components-missing", apart[: starts[1]] + b"\xff\xd9"
+    yield "tables-of-16-bits", by_cjpeg(rgb, "-quality", "1")
+    yield "tables-of-camera", without_application(plain, 0xC4)
+    yield "end-missing", plain[:-2]
+    yield "end-twice", plain + b"\xff\xd9"
+    yield "start-twice", plain[:2] + plain
+    yield "second-picture", plain + jpeg(grey)
+    yield "second-frame", plain[: frame_at(plain)] + segment(0xC0, b"\x08\0\x08\0\x08\1\1\x11\0") + plain[frame_at(plain) :]
+    yield "height-told-later", claiming(plain, 0xC0, size=(192, 0))
+    yield "components-five", plain.replace(b"\x08\0\x80\0\xc0\x03", b"\x08\0\x80\0\xc0\x05", 1)
+    restarts = by_cjpeg(rgb, "-restart", "1")
+    third = restarts.index(b"\xff\xd2")
+    yield "restart-missing", restarts[:third] + restarts[third + 2 :]
+    yield "restart-wrong", restarts[:third] + b"\xff\xd6" + restarts[third + 2 :]
+    jfif = b"JFIF\0\1\2\0\0\1\0\1"
+    yield "thumbnail", plain[:2] + segment(0xE0, jfif + b"\x10\x10" + bytes(768)) + without_application(plain, 0xE0)[2:]
+    words = segment(0xE1, b"http://ns.adobe.com/xap/1.0/\0<x:xmpmeta/>")
+    # Not one of 32 bits, which browsers and we pass over, and Pillow takes.
+    for name, told in (
+        ("of-8-bits", exif_with(6, 1)),
+        ("of-several", exif_with(6, 3, count=2)),
+        ("behind-others", exif_with(6, 3, others=20)),
+        ("in-a-cut-directory", exif_with(6, 3, others=20)[:100]),
+    ):
+        yield f"orientation-{name}", plain[:2] + words + segment(0xE1, told) + plain[2:]
+    yield "orientation-twice", plain[:2] + segment(0xE1, exif(8)) + segment(0xE1, exif(3)) + plain[2:]
 
 
 def coloured(rgb, grey, cmyk):

@@ -5,7 +5,7 @@ import jpegs
 import pngs
 
 CUTS = (5, 25, 50, 75, 95)  # percent
-WHOLE = ("canvas-", "claims-", "long-", "tall-", "size-")  # not worth cutting
+WHOLE = ("canvas-", "claims-", "long-", "tall-", "size-", "damage-", "orientation-")  # not worth cutting
 SMALL = {"jpg": jpegs.kinds, "png": pngs.kinds, "gif": gifs.gif_kinds, "webp": gifs.webp_kinds}
 LARGE = {"jpg": jpegs.large, "png": pngs.large, "webp": gifs.webp_large}
 

@@ -65,18 +65,18 @@ def paeth(left, above, corner):
     return min((left, above, corner), key=lambda each: abs(guess - each))
 
 
-def samples_of(kind):
-    width, height = 96, 64
+def samples_of(kind, width, height):
     picture = with_holes(scene(width, height))
     if kind == PALETTE:
-        return [bytes(picture.convert("RGB").convert("L").tobytes())], width, height, 1
+        return picture.convert("RGB").convert("L").tobytes(), 1
     mode = {GREY: "L", COLOURS: "RGB", GREY_ALPHA: "LA", COLOURS_ALPHA: "RGBA"}[kind]
     converted = picture.convert("RGB").convert(mode) if "A" not in mode else picture.convert(mode)
-    return [converted.tobytes()], width, height, len(mode)
+    return converted.tobytes(), len(mode)
 
 
-def png(kind, depth, interlaced=False, before=()):
-    (data,), width, height, bands = samples_of(kind)
+def png(kind, depth, interlaced=False, before=(), size=(96, 64), piece=4096):
+    width, height = size
+    data, bands = samples_of(kind, width, height)
     step = max(1, bands * depth // 8)
 
     def rows(x0, y0, dx, dy):
@@ -88,13 +88,14 @@ def png(kind, depth, interlaced=False, before=()):
             yield packed(samples, depth)
 
     passes = PASSES if interlaced else ((0, 0, 1, 1),)
-    body = b"".join(filtered(rows(*each), step) for each in passes)
+    # A pass that no pixel falls in has no rows.
+    body = b"".join(filtered(rows(*each), step) for each in passes if each[0] < width)
     header = struct.pack(">IIBBBBB", width, height, depth, kind, 0, 0, interlaced)
     chunks = [chunk(b"IHDR", header), *(chunk(*each) for each in before)]
     if kind == PALETTE and not any(name == b"PLTE" for name, _ in before):
         chunks.append(chunk(b"PLTE", palette(depth)))
     pixels = zlib.compress(body)
-    chunks += [chunk(b"IDAT", pixels[at : at + 4096]) for at in range(0, len(pixels), 4096)]
+    chunks += [chunk(b"IDAT", pixels[at : at + piece]) for at in range(0, len(pixels), piece)]
     return SIGNATURE + b"".join(chunks) + chunk(b"IEND", b"")
 
 
@@ -117,6 +118,39 @@ def primaries(which, white=profiles.D65):
 
 def icc(data):
     return b"iCCP", b"named\0\0" + zlib.compress(data)
+
+
+def with_header(body, depth, kind):
+    """With another depth and colour type in its header, and a checksum that fits."""
+    return body[:8] + chunk(b"IHDR", body[16:24] + bytes((depth, kind)) + body[26:29]) + body[33:]
+
+
+def odd():
+    """Sizes at which passes are empty, pixels in many pieces, and what each chunk may get wrong."""
+    for side in (1, 2, 3, 4, 5, 7, 8, 9, 33):
+        for interlaced in (False, True):
+            name = f"size-{side}{'-interlaced' if interlaced else ''}"
+            yield name, png(PALETTE, 4, interlaced, size=(side, side))
+            yield f"{name}-low", png(COLOURS, 8, interlaced, size=(40, side))
+            yield f"{name}-narrow", png(GREY, 1, interlaced, size=(side, 40))
+    yield "pieces-of-1", png(COLOURS, 8, piece=1)
+    plain = png(COLOURS, 8)
+    pixels, end = plain.index(b"IDAT") - 4, plain.index(b"IEND") - 4
+    empty = chunk(b"IDAT", b"")
+    yield "pieces-of-nothing", plain[:pixels] + empty + plain[pixels:end] + empty + plain[end:]
+    yield "pixels-missing", plain[:pixels] + plain[end:]
+    yield "pixels-behind-a-chunk", plain[:pixels] + chunk(b"teXt", b"a") + plain[pixels:]
+    yield "damage-header-checksum", plain[:29] + b"oops" + plain[33:]
+    yield "damage-pixels-checksum", plain[: end - 4] + b"oops" + plain[end:]
+    for depth, kind in ((8, 1), (8, 9), (0, 2), (3, 3), (99, 2), (16, 3), (4, 6)):
+        yield f"damage-depth-{depth}-type-{kind}", with_header(plain, depth, kind)
+    # Not palettes without enough colours: libpng draws black or nothing, and Pillow colours of its own.
+    yield "palette-of-colours", png(COLOURS, 8, before=[(b"PLTE", palette(4))])
+    yield "palette-clear-beyond", png(PALETTE, 2, before=[(b"PLTE", palette(2)), (b"tRNS", bytes(9))])
+    yield "clear-before-palette", png(PALETTE, 2, before=[(b"tRNS", bytes(2)), (b"PLTE", palette(2))])
+    yield "clear-of-alpha", png(COLOURS_ALPHA, 8, before=[(b"tRNS", bytes(6))])
+    yield "significant-bits", png(COLOURS, 8, before=[(b"sBIT", bytes((5, 6, 5)))])
+    yield "signature-of-text", plain.replace(b"\r\n", b"\n", 1)
 
 
 def saved(picture, **options):
@@ -178,6 +212,7 @@ def kinds():
         yield f"animated-{default}", saved(
             frames[0], save_all=True, append_images=frames[1:], duration=100, default_image=default
         )
+    yield from odd()
     yield "long-65535x1", saved(scene(65535, 1))
     yield "tall-1x65535", saved(scene(1, 65535))
     header = struct.pack(">IIBBBBB", 65535, 65535, 8, 2, 0, 0, 0)
