@@ -49,14 +49,17 @@ WindowBench::~WindowBench() {
 }
 
 void WindowBench::signIn() {
-  for (const auto* name : {"userEmail", "password"}) {
-    const auto input = std::dynamic_pointer_cast<UITextInput>(view(name));
-    application->beginEditing(input);
-    application->edit(input, "wren");
-  }
+  type("userEmail", "wren");
+  type("password", "wren");
   application->tap(view("signInButton"));
   settle();
   demand(page().objectName() == "TabBarVC", "the home screen is shown");
+}
+
+void WindowBench::type(const std::string& name, const std::string& text) {
+  const auto input = std::dynamic_pointer_cast<UITextInput>(view(name));
+  application->beginEditing(input);
+  application->edit(input, text);
 }
 
 void WindowBench::frame() {

@@ -22,6 +22,7 @@ class WindowBench {
 
   // Through the landing screen to the browse list.
   void signIn();
+  void type(const std::string& name, const std::string& text);
   // Draws now what is to be drawn, from the polishing of the items to what the window shows.
   void frame();
   void waitUntil(const std::function<bool()>& done);

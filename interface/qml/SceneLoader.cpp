@@ -1,9 +1,11 @@
 #include "interface/qml/SceneLoader.h"
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
-#include "interface/qml/ScenePage.h"
 #include "interface/qml/access/ItemAccess.h"
 #include "platform/foundation/FatalError.h"
 #include "platform/uikit/UIApplication.h"
@@ -25,25 +27,16 @@ SceneLoader::SceneLoader(QQuickItem& content) : content_(content) {
 }
 
 SceneLoader::~SceneLoader() {
-  for (const auto& [className, skin] : ahead_) {
-    delete skin.item;
-    delete skin.scene;
-  }
-  delete wings_;
+  ahead_.clear();
+  // Their items go before the engine.
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
-std::unique_ptr<Page> SceneLoader::make(UIViewController& controller, QQuickItem& parent) {
-  return std::make_unique<ScenePage>(*this, controller, &parent);
-}
-
-SceneSkin SceneLoader::skinOf(UIViewController& controller, QQuickItem* parent) {
-  const auto waiting = ahead_.extract(controller.className());
-  if (!waiting) return makeSkin(controller, parent);
-  const auto skin = waiting.mapped();
-  skin.scene->show(controller);
-  skin.item->setParent(parent);
-  skin.item->setParentItem(parent);
-  return skin;
+std::unique_ptr<Page> SceneLoader::make(UIViewController& controller) {
+  auto waiting = ahead_.extract(controller.className());
+  if (!waiting) return std::make_unique<ScenePage>(*this, controller, content_);
+  waiting.mapped()->show(controller);
+  return std::move(waiting.mapped());
 }
 
 void SceneLoader::lookAhead(const UINavigationController& navigation) {
@@ -57,38 +50,27 @@ void SceneLoader::lookAhead(const UINavigationController& navigation) {
   const auto missing = std::ranges::find_if(
       next, [&](const auto& className) { return !ahead_.contains(className); });
   if (missing == next.end()) return;
-  UIApplication::current()->turn([&] { makeAhead(navigation, *storyboard->draft(*missing)); });
+  UIApplication::current()->turn([&] {
+    const auto draft = storyboard->draft(*missing);
+    draft->view()->setFrame(navigation.rootFrame(*draft));  // what does not change is laid out
+    ahead_.emplace(*missing, std::make_unique<ScenePage>(*this, *draft, content_));
+  });
 }
 
-void SceneLoader::makeAhead(const UINavigationController& navigation, UIViewController& draft) {
-  if (wings_ == nullptr) wings_ = makeItem("Wings", {}, &content_);
-  draft.view()->setFrame(navigation.rootFrame(draft));  // what does not change is then laid out
-  const auto skin = makeSkin(draft, wings_);
-  skin.scene->readBar(navigation, draft);
-  ahead_.emplace(draft.className(), skin);
-}
-
-SceneSkin SceneLoader::makeSkin(UIViewController& controller, QQuickItem* parent) {
-  auto* scene = new SceneObject(controller);
-  const QVariantMap properties{{"scene", QVariant::fromValue(scene)}, {"visible", false}};
-  auto* item = makeItem(controller.className(), properties, parent);
-  item->setObjectName(qtText(controller.className()));
-  return {scene, item};
-}
-
-QQuickItem* SceneLoader::makeItem(const std::string& fileName, const QVariantMap& properties,
-                                  QQuickItem* parent) {
-  auto& component = components_[fileName];
+QQuickItem& SceneLoader::makeItem(const std::string& className, const QVariantMap& properties,
+                                  QQuickItem& parent) {
+  auto& component = components_[className];
   if (!component) {
-    const QUrl url("qrc:/Leafund/" + qtText(fileName) + ".qml");
+    const QUrl url("qrc:/Leafund/" + qtText(className) + ".qml");
     component = std::make_unique<QQmlComponent>(&engine_, url);
-    if (!component->isReady()) fatalError(fileName, component->errorString().toStdString());
+    if (!component->isReady()) fatalError(className, component->errorString().toStdString());
   }
   auto* item = qobject_cast<QQuickItem*>(component->createWithInitialProperties(properties));
-  if (item == nullptr) fatalError(fileName, component->errorString().toStdString());
-  item->setParent(parent);
-  item->setParentItem(parent);
-  return item;
+  if (item == nullptr) fatalError(className, component->errorString().toStdString());
+  item->setObjectName(qtText(className));
+  item->setParent(&parent);
+  item->setParentItem(&parent);
+  return *item;
 }
 
 }  // namespace leafund

@@ -7,46 +7,36 @@
 #include <memory>
 #include <string>
 
-#include "interface/qml/bridge/SceneObject.h"
-#include "platform/qt/PageMaker.h"
+#include "interface/qml/ScenePage.h"
 
 namespace leafund {
 
-// How a screen looks: its item in the window, and the bridge of its scene, which outlives the item.
-struct SceneSkin {
-  SceneObject* scene;
-  QQuickItem* item;
-};
-
-// Makes the skins of screens: the QML file of a scene is named after its controller's class. Fatal
-// when the file is missing or faulty. A skin may be made ahead of need, with nothing in it but what
-// the scene says: a screen that comes then has only to write what is its own. It waits in the
-// wings, where it is neither seen nor reached, and is taken by one screen for good.
+// Makes the pages of screens: the QML file of a scene is named after its controller's class. Fatal
+// when the file is missing or faulty.
+//
+// While the window is at rest, the pages that may come next are made ahead, since most of opening a
+// screen is making its items. Such a page waits hidden, with nothing in it but what its scene says,
+// and is shown by one screen for good.
 class SceneLoader final : public PageMaker {
  public:
   // Pages become children of `content`.
   explicit SceneLoader(QQuickItem& content);
   ~SceneLoader() override;
 
-  // The item becomes a child of `parent`, hidden.
-  SceneSkin skinOf(UIViewController& controller, QQuickItem* parent);
-
-  std::unique_ptr<Page> make(UIViewController& controller, QQuickItem& parent) override;
+  std::unique_ptr<Page> make(UIViewController& controller) override;
   void lookAhead(const UINavigationController& navigation) override;
+
+  // The item becomes a child of `parent`.
+  QQuickItem& makeItem(const std::string& className, const QVariantMap& properties,
+                       QQuickItem& parent);
 
   QQmlEngine& engine() { return engine_; }
 
  private:
-  void makeAhead(const UINavigationController& navigation, UIViewController& draft);
-  SceneSkin makeSkin(UIViewController& controller, QQuickItem* parent);
-  QQuickItem* makeItem(const std::string& fileName, const QVariantMap& properties,
-                       QQuickItem* parent);
-
-  QQmlEngine engine_;
   QQuickItem& content_;
+  QQmlEngine engine_;
   std::map<std::string, std::unique_ptr<QQmlComponent>> components_;
-  QQuickItem* wings_ = nullptr;  // once something waits there
-  std::map<std::string, SceneSkin> ahead_;
+  std::map<std::string, std::unique_ptr<ScenePage>> ahead_;
 };
 
 }  // namespace leafund

@@ -2,10 +2,13 @@
 
 #include <QQuickItem>
 
-#include "interface/qml/SceneLoader.h"
+#include "interface/qml/bridge/SceneObject.h"
 #include "platform/display/ScreenPages.h"
+#include "platform/qt/PageMaker.h"
 
 namespace leafund {
+
+class SceneLoader;
 
 // A screen by its QML: the bridge of its scene, its item, and the pages of the children it has
 // shown. The item's objectName is the controller's class name. Ending a page deletes its item later
@@ -13,17 +16,21 @@ namespace leafund {
 // that is gone.
 class ScenePage final : public Page {
  public:
-  ScenePage(SceneLoader& loader, UIViewController& controller, QQuickItem* parent);
+  ScenePage(SceneLoader& loader, UIViewController& controller, QQuickItem& parent);
   ~ScenePage() override;
 
-  QQuickItem& item() const override { return *skin_.item; }
+  // Shows another screen of the same scene from now on, whose view must be loaded.
+  void show(UIViewController& controller) { scene_.show(controller); }
+
+  QQuickItem& item() const override { return item_; }
   void refresh(const UINavigationController& navigation, UIViewController& controller) override;
 
  private:
   void showChild(UIViewController& child);
 
   SceneLoader& loader_;
-  SceneSkin skin_;
+  SceneObject& scene_;
+  QQuickItem& item_;
   ScreenPages<ScenePage> children_;
 };
 

@@ -32,8 +32,9 @@ class PageMaker {
   PageMaker& operator=(const PageMaker&) = delete;
   virtual ~PageMaker() = default;
 
-  // The controller's view must be loaded. The page's item becomes a child of `parent`, hidden.
-  virtual std::unique_ptr<Page> make(UIViewController& controller, QQuickItem& parent) = 0;
+  // The controller's view must be loaded. The page's item is a hidden child of the window's
+  // content.
+  virtual std::unique_ptr<Page> make(UIViewController& controller) = 0;
   // Called while nothing moves: may prepare a page that the screen shown may lead to.
   virtual void lookAhead(const UINavigationController& navigation) = 0;
 };

@@ -35,8 +35,8 @@ SceneStage::SceneStage(PageMaker& maker, QQuickItem& content) : maker_(maker), c
 }
 
 void SceneStage::show(const UINavigationController& navigation) {
-  auto change = pages_.follow(
-      navigation, [this](UIViewController& screen) { return maker_.make(screen, content_); });
+  auto change =
+      pages_.follow(navigation, [this](UIViewController& screen) { return maker_.make(screen); });
   change.shown.refresh(navigation, *navigation.topViewController());
   if (&change.shown.item() != shown_) exchangeFor(change.shown.item(), change.came);
   for (auto& gone : change.gone) {

@@ -16,7 +16,7 @@ namespace leafund {
 // it: the screen that comes takes input from the start, the one that goes takes none any more.
 class SceneStage : public QObject {
  public:
-  // Screens become children of `content`.
+  // `content` is where the maker puts the pages.
   SceneStage(PageMaker& maker, QQuickItem& content);
 
   void show(const UINavigationController& navigation);

@@ -76,8 +76,8 @@ TEST_F(AccessibilityFocusTest, ANewScreenPutsTheReaderOnItsHeading) {
 TEST_F(AccessibilityFocusTest, AScreenThatWasMadeAheadPutsTheReaderOnItsHeadingToo) {
   const auto ready = [&](const char* screen) {
     return app.waitUntil([&] {
-      const auto* ahead = app.window().contentItem()->findChild<QQuickItem*>("wings");
-      return ahead != nullptr && ahead->findChild<QQuickItem*>(screen) != nullptr;
+      const auto* content = app.window().contentItem();
+      return content->findChild<QQuickItem*>(screen, Qt::FindDirectChildrenOnly) != nullptr;
     });
   };
   signIn();

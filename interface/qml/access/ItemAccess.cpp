@@ -12,20 +12,12 @@ namespace leafund {
 
 namespace {
 
-// A pane that hides its children from assistive technology.
-class ClosedAccess final : public ItemAccess {
- public:
-  using ItemAccess::ItemAccess;
-  QAccessible::Role role() const override { return QAccessible::Pane; }
-};
-
 QAccessibleInterface* accessFor(const QString&, QObject* object) {
   auto* item = qobject_cast<QQuickItem*>(object);
   if (item == nullptr) return nullptr;
   if (item->inherits("QQuickTextInput") || item->inherits("QQuickTextEdit")) {
     return new InputAccess(item);
   }
-  if (item->metaObject()->indexOfProperty("closed") >= 0) return new ClosedAccess(item);
   if (item->metaObject()->indexOfProperty("maximumValue") >= 0) return new ProgressAccess(item);
   if (item->metaObject()->indexOfProperty("heading") >= 0) return new WordsAccess(item);
   return nullptr;
