@@ -6,13 +6,15 @@ import Leafund
 Item {
     id: announcement
 
-    required property ViewObject view
+    required property ViewBridge view
     // Empty where there is none.
     required property string message
     // The control that is to be seen with it.
     required property Item place
 
+    // The user is in the input that the message stands in.
     property bool editing: false
+    property bool wasEditing: false
     property string told
 
     visible: false
@@ -35,9 +37,9 @@ Item {
     // That the user enters or leaves the input is a change of the view and none of the message.
     Connections {
         target: announcement.view
-        function onChanged() {
-            const entered = announcement.editing !== announcement.view.editing;
-            announcement.editing = announcement.view.editing;
+        function onRefreshed() {
+            const entered = announcement.wasEditing !== announcement.editing;
+            announcement.wasEditing = announcement.editing;
             if (!entered || announcement.message !== announcement.told)
                 Qt.callLater(announcement.tell);
         }

@@ -5,7 +5,7 @@ import Leafund
 Pressable {
     id: button
 
-    required property ViewObject view
+    required property ButtonBridge view
     property bool primary: true
     readonly property alias text: label.text
 

@@ -6,8 +6,11 @@ import Leafund
 Column {
     id: funds
 
-    required property var views
-    readonly property bool reached: !views.slider.visible
+    required property LabelBridge heading
+    required property ProgressBridge bar
+    required property LabelBridge raised
+    required property LabelBridge goal
+    readonly property bool reached: !bar.visible
 
     spacing: Theme.unit
 
@@ -18,7 +21,7 @@ Column {
         height: Theme.mark
     }
     Words {
-        view: funds.views.labelAboveSlider
+        view: funds.heading
         width: parent.width
         horizontalAlignment: funds.reached ? Text.AlignHCenter : Text.AlignLeft
         color: funds.reached ? Theme.accentDeep : Theme.quiet
@@ -28,7 +31,7 @@ Column {
         }
     }
     ProgressBar {
-        view: funds.views.slider
+        view: funds.bar
         width: parent.width
     }
     // Raised on the left, the goal behind its flag at the end of the bar, or below where they are
@@ -37,10 +40,10 @@ Column {
         readonly property bool stacked: raised.width + flag.width + goal.width + 2 * Theme.unit > width
         width: parent.width
         height: stacked ? goal.y + goal.height : raised.height
-        visible: funds.views.currentFund.visible || funds.views.desiredFund.visible
+        visible: funds.raised.visible || funds.goal.visible
         Words {
             id: raised
-            view: funds.views.currentFund
+            view: funds.raised
             width: Math.min(implicitWidth, parent.width)
             wrapMode: Text.WrapAnywhere
             color: Theme.accentDeep
@@ -57,7 +60,7 @@ Column {
         }
         Words {
             id: goal
-            view: funds.views.desiredFund
+            view: funds.goal
             anchors.right: parent.right
             y: parent.stacked ? raised.height : (raised.height - height) / 2
             width: Math.min(implicitWidth, parent.width - flag.width - Theme.half)

@@ -5,7 +5,14 @@ import Leafund
 Item {
     id: head
 
-    required property var views
+    required property ImageBridge picture
+    required property LabelBridge title
+    required property LabelBridge by
+    required property LabelBridge creator
+    required property LabelBridge fundsHeading
+    required property ProgressBridge bar
+    required property LabelBridge raised
+    required property LabelBridge goal
     readonly property bool reached: funds.reached
 
     implicitHeight: column.height
@@ -27,7 +34,7 @@ Item {
         bottomPadding: Theme.space
 
         Picture {
-            view: head.views.campaignImage
+            view: head.picture
             anchors.horizontalCenter: parent.horizontalCenter
             width: Theme.portrait
             height: Theme.portrait
@@ -36,7 +43,7 @@ Item {
             width: parent.width
             spacing: Theme.half
             Title {
-                view: head.views.campaignTitle
+                view: head.title
                 width: parent.width
                 horizontalAlignment: Text.AlignHCenter
             }
@@ -48,13 +55,13 @@ Item {
                 height: creator.y + creator.height
                 Words {
                     id: by
-                    view: head.views.byCreator
+                    view: head.by
                     x: parent.stacked ? (parent.width - width) / 2 : parent.start
                     color: Theme.quiet
                 }
                 Words {
                     id: creator
-                    view: head.views.campaignCreator
+                    view: head.creator
                     x: parent.stacked ? 0 : parent.start + by.width + Theme.half
                     y: parent.stacked ? by.height : 0
                     width: parent.stacked ? parent.width : implicitWidth
@@ -66,7 +73,10 @@ Item {
         }
         CampaignFunds {
             id: funds
-            views: head.views
+            heading: head.fundsHeading
+            bar: head.bar
+            raised: head.raised
+            goal: head.goal
             width: parent.width
         }
     }

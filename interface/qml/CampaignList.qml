@@ -5,16 +5,14 @@ import Leafund
 FocusScope {
     id: list
 
-    required property SceneObject scene
-    readonly property var views: scene.views
-    readonly property ViewObject table: scene.root
+    required property TableBridge root
 
     property int emptyIcon: IconItem.Leaf
 
-    x: table.x
-    y: table.y
-    width: table.width
-    height: table.height
+    x: root.x
+    y: root.y
+    width: root.width
+    height: root.height
 
     function scrollBy(distance) {
         flickable.contentY = flickable.withinEnds(flickable.contentY + distance);
@@ -40,7 +38,7 @@ FocusScope {
         if (!list.activeFocus)
             return;
         rows.focusSeen(flickable.contentY, flickable.contentY + flickable.height);
-        if (list.table.contentHeight === 0)
+        if (list.root.contentHeight === 0)
             flickable.forceActiveFocus(Qt.ActiveWindowFocusReason);
     }
 
@@ -60,12 +58,12 @@ FocusScope {
     // Where the rows end early the ground is not left bare.
     Loader {
         anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
-        active: list.table.contentHeight + Theme.meadow < list.height
+        active: list.root.contentHeight + Theme.meadow < list.height
         sourceComponent: Component { Meadow { room: list.height } }
     }
     Loader {
         anchors.centerIn: parent
-        active: list.table.contentHeight === 0
+        active: list.root.contentHeight === 0
         sourceComponent: Component { Medallion { icon: list.emptyIcon } }
     }
 
@@ -73,7 +71,7 @@ FocusScope {
         id: flickable
         objectName: "table"
         anchors.fill: parent
-        contentHeight: list.table.contentHeight
+        contentHeight: list.root.contentHeight
         // Where there is no row that could have the focus.
         activeFocusOnTab: contentHeight === 0
         boundsBehavior: Flickable.StopAtBounds
@@ -82,7 +80,7 @@ FocusScope {
         // The item owns the offset. What logic or layout placed anew is taken over once.
         // On its way it may be past an end, where sums are rounded, and goes back by itself; put back, it
         // would believe that it moves, and miss the next turn of the wheel.
-        onContentYChanged: list.table.scroll(moving ? withinEnds(contentY) : contentY)
+        onContentYChanged: list.root.scroll(moving ? withinEnds(contentY) : contentY)
         onMovingChanged: {
             if (!moving && contentY !== withinEnds(contentY))
                 contentY = withinEnds(contentY);
@@ -90,14 +88,14 @@ FocusScope {
         function withinEnds(y: real): real {
             return Math.max(0, Math.min(contentHeight - height, y));
         }
-        readonly property int placement: list.table.placement
-        onPlacementChanged: contentY = list.table.contentOffset
+        readonly property int placement: list.root.placement
+        onPlacementChanged: contentY = list.root.contentOffset
         // A fling ends where its list is covered.
         readonly property bool covered: !enabled || !visible
         onCoveredChanged: if (covered) cancelFlick()
 
         Accessible.role: Accessible.List
-        Accessible.name: list.table.accessibleName
+        Accessible.name: list.root.accessibleName
         Accessible.onNextPageAction: list.turnPage(1)
         Accessible.onPreviousPageAction: list.turnPage(-1)
 
@@ -105,7 +103,7 @@ FocusScope {
             id: rows
             width: flickable.width
             height: flickable.contentHeight
-            table: list.table
+            table: list.root
             onRowFocused: row => list.bringIntoSight(row)
             delegate: Component { CampaignRow {} }
         }

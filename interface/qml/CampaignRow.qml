@@ -5,7 +5,7 @@ import Leafund
 Pressable {
     id: row
 
-    required property ViewObject view
+    required property CellBridge view
 
     readonly property real inset: Math.max(Theme.gap, (width - Theme.column) / 2)
 

@@ -4,12 +4,17 @@ import Leafund
 Page {
     id: page
 
+    required property LabelBridge question
+    required property LabelBridge outcome
+    required property ButtonBridge yesButton
+    required property ButtonBridge noButton
+
     Meadow {
         anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
     }
 
     ScrollPane {
-        scene: page.scene
+        root: page.root
         centred: true
 
         Card {
@@ -21,23 +26,23 @@ Page {
                 icon: IconItem.Heart
             }
             Title {
-                view: page.views.question
+                view: page.question
                 width: parent.width
                 horizontalAlignment: Text.AlignHCenter
             }
             Words {
-                view: page.views.outcome
+                view: page.outcome
                 width: parent.width
                 horizontalAlignment: Text.AlignHCenter
                 color: Theme.quiet
             }
             Item { width: parent.width; height: Theme.half }
             Button {
-                view: page.views.yesButton
+                view: page.yesButton
                 width: parent.width
             }
             Button {
-                view: page.views.noButton
+                view: page.noButton
                 primary: false
                 width: parent.width
             }

@@ -6,20 +6,20 @@ import Leafund
 Rectangle {
     id: box
 
-    required property ViewObject view
+    required property TextInputBridge bridge
     required property Item input
     // Neither text nor what is being composed is in it.
     required property bool empty
     default property alias content: place.data
     // The label that says why what it holds was refused; null where the input itself says so.
-    property ViewObject reason: null
-    readonly property bool wrong: reason ? reason.visible : view.coloured
+    property LabelBridge reason: null
+    readonly property bool wrong: reason ? reason.visible : bridge.coloured
     readonly property string accessibleReason: reason && reason.visible ? reason.text : ""
     readonly property bool userIsIn: input.activeFocus
     // Empty and unfocused: the caption stands where the text will.
     readonly property bool resting: !userIsIn && empty
 
-    visible: view.visible
+    visible: bridge.visible
     implicitHeight: Math.max(Theme.target,
                              caption.height + input.height + 2 * Theme.unit + Theme.half)
     radius: Theme.radius
@@ -30,7 +30,7 @@ Rectangle {
     }
 
     // The toolkit ended the editing: the window follows.
-    readonly property bool editing: view.editing
+    readonly property bool editing: bridge.editing
     onEditingChanged: {
         if (editing)
             return;
@@ -48,7 +48,7 @@ Rectangle {
 
     // Later, and only if assistive technology has not written over it meanwhile.
     function selectMessage() {
-        if (view.showsMessage)
+        if (bridge.showsMessage)
             messageSelected();
     }
     // The input selects what it holds, a message.
@@ -58,11 +58,11 @@ Rectangle {
         id: watch
         target: box.input
         onEntered: {
-            if (box.view.showsMessage)
+            if (box.bridge.showsMessage)
                 Qt.callLater(box.selectMessage);
-            box.view.beginEditing();
+            box.bridge.beginEditing();
         }
-        onLeft: box.view.endEditing()
+        onLeft: box.bridge.endEditing()
     }
 
     // A finger enters by a tap, since it may have come to scroll; after it, as the input places the
@@ -94,7 +94,7 @@ Rectangle {
         anchors { left: parent.left; right: parent.right }
         anchors { leftMargin: Theme.gap; rightMargin: Theme.gap }
         y: box.resting ? Math.max(Theme.unit, drop) : Theme.unit
-        text: box.view.placeholder
+        text: box.bridge.placeholder
         textFormat: Text.PlainText
         wrapMode: Text.Wrap
         color: Theme.quiet
@@ -105,10 +105,11 @@ Rectangle {
     // A message in the input is read out when it comes, wherever the user is.
     Announcement {
         anchors.fill: place
-        view: box.view
-        message: box.view.showsMessage ? box.view.text : ""
+        view: box.bridge
+        message: box.bridge.showsMessage ? box.bridge.text : ""
+        editing: box.bridge.editing
         place: box
-        Accessible.description: box.view.accessibleName
+        Accessible.description: box.bridge.accessibleName
     }
 
     Item {

@@ -4,8 +4,16 @@ import Leafund
 Page {
     id: page
 
+    required property LabelBridge brand
+    required property LabelBridge tagline
+    required property TextFieldBridge userEmail
+    required property TextFieldBridge password
+    required property ButtonBridge signInButton
+    required property LabelBridge newHere
+    required property ButtonBridge signUpButton
+
     ScrollPane {
-        scene: page.scene
+        root: page.root
         centred: true
 
         IconItem {
@@ -19,7 +27,7 @@ Page {
             width: parent.width
             Words {
                 id: brand
-                view: page.views.brand
+                view: page.brand
                 heading: true
                 takesFocus: true
                 width: parent.width
@@ -28,7 +36,7 @@ Page {
                 FocusRing { target: brand }
             }
             Words {
-                view: page.views.tagline
+                view: page.tagline
                 width: parent.width
                 horizontalAlignment: Text.AlignHCenter
                 color: Theme.quiet
@@ -36,25 +44,25 @@ Page {
         }
         Item { width: parent.width; height: Theme.unit }
         TextEntry {
-            view: page.views.userEmail
+            view: page.userEmail
             width: parent.width
         }
         TextEntry {
-            view: page.views.password
+            view: page.password
             width: parent.width
         }
         Button {
-            view: page.views.signInButton
+            view: page.signInButton
             width: parent.width
         }
         Words {
-            view: page.views.newHere
+            view: page.newHere
             width: parent.width
             horizontalAlignment: Text.AlignHCenter
             color: Theme.quiet
         }
         Button {
-            view: page.views.signUpButton
+            view: page.signUpButton
             primary: false
             width: parent.width
         }

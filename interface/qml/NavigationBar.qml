@@ -5,7 +5,7 @@ import Leafund
 Rectangle {
     id: bar
 
-    required property SceneObject scene
+    required property BarBridge view
     default property alias trailing: trailing.data
 
     color: Theme.card
@@ -14,14 +14,14 @@ Rectangle {
     Text {
         id: title
         readonly property bool heading: true
-        readonly property bool takesFocus: bar.scene.title !== ""
+        readonly property bool takesFocus: bar.view.title !== ""
 
         objectName: "barTitle"
         focus: takesFocus
         anchors.verticalCenter: parent.verticalCenter
         x: back.visible ? back.x + back.width : Theme.gap
         width: (trailing.width > 0 ? trailing.x : bar.width) - x - Theme.unit
-        text: bar.scene.title
+        text: bar.view.title
         textFormat: Text.PlainText
         elide: Text.ElideRight
         fontSizeMode: Text.HorizontalFit
@@ -41,10 +41,10 @@ Rectangle {
         anchors.verticalCenter: parent.verticalCenter
         width: Theme.target
         height: Theme.target
-        visible: bar.scene.canGoBack
+        visible: bar.view.canGoBack
         ringOutset: 0
-        onPressed: bar.scene.goBack()
-        Accessible.name: bar.scene.backLabel
+        onPressed: bar.view.goBack()
+        Accessible.name: bar.view.backLabel
 
         Rectangle {
             anchors.centerIn: parent

@@ -4,47 +4,57 @@ import Leafund
 Page {
     id: page
 
+    required property TextFieldBridge nameOfCreator
+    required property TextFieldBridge nameOfCampaign
+    required property TextViewBridge shortDescription
+    required property TextViewBridge fullDescription
+    required property TextFieldBridge desiredFunding
+    required property LabelBridge moneyErrorField
+    required property TextFieldBridge imageURL
+    required property TextViewBridge emailInvite
+    required property ButtonBridge createButton
+
     ScrollPane {
-        scene: page.scene
+        root: page.root
         TextEntry {
-            view: page.views.nameOfCreator
+            view: page.nameOfCreator
             width: parent.width
         }
         TextEntry {
-            view: page.views.nameOfCampaign
+            view: page.nameOfCampaign
             width: parent.width
         }
         TextArea {
-            view: page.views.shortDescription
+            view: page.shortDescription
             width: parent.width
         }
         TextArea {
-            view: page.views.fullDescription
+            view: page.fullDescription
             width: parent.width
         }
         Column {
             width: parent.width
             spacing: Theme.unit
             TextEntry {
-                view: page.views.desiredFunding
-                reason: page.views.moneyErrorField
+                view: page.desiredFunding
+                reason: page.moneyErrorField
                 width: parent.width
             }
             ErrorWords {
-                view: page.views.moneyErrorField
+                view: page.moneyErrorField
                 width: parent.width
             }
         }
         TextEntry {
-            view: page.views.imageURL
+            view: page.imageURL
             width: parent.width
         }
         TextArea {
-            view: page.views.emailInvite
+            view: page.emailInvite
             width: parent.width
         }
         Button {
-            view: page.views.createButton
+            view: page.createButton
             width: parent.width
         }
     }

@@ -4,35 +4,43 @@ import Leafund
 FocusScope {
     id: page
 
-    required property SceneObject scene
-    readonly property var views: scene.views
+    required property PlainBridge root
+    required property ImageBridge rideStoryPicture
+    required property LabelBridge rideStoryTitle
+    required property LabelBridge rideStoryText
+    required property ImageBridge compostStoryPicture
+    required property LabelBridge compostStoryTitle
+    required property LabelBridge compostStoryText
+    required property ImageBridge pledgeStoryPicture
+    required property LabelBridge pledgeStoryTitle
+    required property LabelBridge pledgeStoryText
 
-    width: scene.root.width
-    height: scene.root.height
+    width: root.width
+    height: root.height
     Keys.forwardTo: [pane]
 
     ScrollPane {
         id: pane
-        scene: page.scene
+        root: page.root
 
         Story {
-            picture: page.views.rideStoryPicture
-            title: page.views.rideStoryTitle
-            words: page.views.rideStoryText
+            picture: page.rideStoryPicture
+            title: page.rideStoryTitle
+            words: page.rideStoryText
             source: "biking-to-work.jpg"
             width: parent.width
         }
         Story {
-            picture: page.views.compostStoryPicture
-            title: page.views.compostStoryTitle
-            words: page.views.compostStoryText
+            picture: page.compostStoryPicture
+            title: page.compostStoryTitle
+            words: page.compostStoryText
             source: "update-compost.jpg"
             width: parent.width
         }
         Story {
-            picture: page.views.pledgeStoryPicture
-            title: page.views.pledgeStoryTitle
-            words: page.views.pledgeStoryText
+            picture: page.pledgeStoryPicture
+            title: page.pledgeStoryTitle
+            words: page.pledgeStoryText
             source: "solar-panel-house.jpg"
             width: parent.width
         }

@@ -4,11 +4,35 @@ import Leafund
 Page {
     id: page
 
+    required property ImageBridge campaignImage
+    required property LabelBridge campaignTitle
+    required property LabelBridge byCreator
+    required property LabelBridge campaignCreator
+    required property LabelBridge labelAboveSlider
+    required property ProgressBridge slider
+    required property LabelBridge currentFund
+    required property LabelBridge desiredFund
+    required property TextFieldBridge dollarAmountField
+    required property LabelBridge errorLabel
+    required property ButtonBridge fundButton
+    required property ButtonBridge campaignUpdates
+    required property LabelBridge about
+    required property TextViewBridge campaignText
+    required property ImageBridge campaignPhoto
+    required property PlainBridge campaignDescription
+
     ScrollPane {
-        scene: page.scene
+        root: page.root
 
         CampaignHead {
-            views: page.views
+            picture: page.campaignImage
+            title: page.campaignTitle
+            by: page.byCreator
+            creator: page.campaignCreator
+            fundsHeading: page.labelAboveSlider
+            bar: page.slider
+            raised: page.currentFund
+            goal: page.desiredFund
             width: parent.width
         }
 
@@ -16,23 +40,23 @@ Page {
         Column {
             width: parent.width
             spacing: Theme.unit
-            visible: page.views.dollarAmountField.visible || page.views.errorLabel.visible
+            visible: page.dollarAmountField.visible || page.errorLabel.visible
             TextEntry {
-                view: page.views.dollarAmountField
-                reason: page.views.errorLabel
+                view: page.dollarAmountField
+                reason: page.errorLabel
                 width: parent.width
             }
             ErrorWords {
-                view: page.views.errorLabel
+                view: page.errorLabel
                 width: parent.width
             }
         }
         Button {
-            view: page.views.FundButton
+            view: page.fundButton
             width: parent.width
         }
         Button {
-            view: page.views.campaignUpdates
+            view: page.campaignUpdates
             primary: false
             width: parent.width
         }
@@ -42,19 +66,19 @@ Page {
             topPadding: Theme.unit
             spacing: Theme.gap
             Words {
-                view: page.views.about
+                view: page.about
                 heading: true
                 width: parent.width
                 horizontalAlignment: Text.AlignHCenter
                 font { pointSize: Theme.lead; weight: Font.Bold }
             }
             ReadingText {
-                view: page.views.campaignText
+                view: page.campaignText
                 width: parent.width
             }
         }
 
-        Unseen { view: page.views.campaignPhoto }
-        Unseen { view: page.views.campaignDescription }
+        Unseen { view: page.campaignPhoto }
+        Unseen { view: page.campaignDescription }
     }
 }

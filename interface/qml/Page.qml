@@ -6,17 +6,17 @@ import Leafund
 FocusScope {
     id: page
 
-    required property SceneObject scene
-    readonly property var views: scene.views
+    required property ViewBridge root
+    required property BarBridge bar
     default property alias content: content.data
-    property alias barContent: bar.trailing
+    property alias barContent: navigationBar.trailing
     readonly property int slideDuration: Theme.slideDuration
 
     // The keys that scroll work wherever on the screen the focus is.
     Keys.forwardTo: content.children
 
-    width: scene.root.width
-    height: scene.root.y + scene.root.height
+    width: root.width
+    height: root.y + root.height
 
     Rectangle {
         anchors.fill: parent
@@ -32,12 +32,12 @@ FocusScope {
         DragHandler {
             target: null
             yAxis.enabled: false
-            enabled: page.scene.canGoBack
+            enabled: page.bar.canGoBack
             grabPermissions: PointerHandler.CanTakeOverFromAnything
             onGrabChanged: (change, point) => {
                 const way = point.scenePosition.x - point.scenePressPosition.x;
                 if (change === PointerDevice.UngrabExclusive && way > Theme.swipe)
-                    page.scene.goBack();
+                    page.bar.goBack();
             }
         }
     }
@@ -46,22 +46,22 @@ FocusScope {
     MouseArea {
         readonly property bool isGround: true
         anchors.fill: parent
-        onClicked: page.scene.root.tap()
+        onClicked: page.root.tap()
     }
 
     NavigationBar {
-        id: bar
-        scene: page.scene
+        id: navigationBar
+        view: page.bar
         width: parent.width
-        height: page.scene.root.y
-        visible: page.scene.barShown
+        height: page.root.y
+        visible: page.bar.visible
     }
 
     Item {
         id: content
-        x: page.scene.root.x
-        y: page.scene.root.y
-        width: page.scene.root.width
-        height: page.scene.root.height
+        x: page.root.x
+        y: page.root.y
+        width: page.root.width
+        height: page.root.height
     }
 }

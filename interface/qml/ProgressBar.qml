@@ -5,7 +5,7 @@ import Leafund
 Item {
     id: progress
 
-    required property ViewObject view
+    required property ProgressBridge view
     property real shown: view.progressFrom
 
     // What assistive technology reads, by these names.

@@ -5,7 +5,7 @@ import Leafund
 Rectangle {
     id: area
 
-    required property ViewObject view
+    required property TextViewBridge view
 
     visible: view.visible
     readonly property real head: border.width > 0 ? Theme.wide / 2 + Theme.half : 0

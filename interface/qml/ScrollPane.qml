@@ -6,7 +6,7 @@ import Leafund
 Item {
     id: pane
 
-    required property SceneObject scene
+    required property ViewBridge root
     default property alias content: column.data
     property bool centred: false
     property alias spacing: column.spacing
@@ -108,7 +108,7 @@ Item {
             readonly property bool isGround: true
             width: flickable.width
             height: flickable.contentHeight
-            onClicked: pane.scene.root.tap()
+            onClicked: pane.root.tap()
         }
 
         Column {

@@ -4,12 +4,18 @@ import Leafund
 Page {
     id: page
 
+    required property LabelBridge welcome
+    required property TextFieldBridge nameField
+    required property TextFieldBridge passwordField
+    required property TextFieldBridge passwordConfirmField
+    required property ButtonBridge signUpButton
+
     Meadow {
         anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
     }
 
     ScrollPane {
-        scene: page.scene
+        root: page.root
         centred: true
 
         Medallion {
@@ -18,26 +24,26 @@ Page {
             icon: IconItem.Sprout
         }
         Words {
-            view: page.views.welcome
+            view: page.welcome
             width: parent.width
             horizontalAlignment: Text.AlignHCenter
             font { pointSize: Theme.lead; weight: Font.DemiBold }
         }
         Item { width: parent.width; height: Theme.half }
         TextEntry {
-            view: page.views.nameField
+            view: page.nameField
             width: parent.width
         }
         TextEntry {
-            view: page.views.passwordField
+            view: page.passwordField
             width: parent.width
         }
         TextEntry {
-            view: page.views.passwordConfirmField
+            view: page.passwordConfirmField
             width: parent.width
         }
         Button {
-            view: page.views.signUpButton
+            view: page.signUpButton
             width: parent.width
         }
     }

@@ -5,9 +5,9 @@ import Leafund
 Rectangle {
     id: story
 
-    required property ViewObject picture
-    required property ViewObject title
-    required property ViewObject words
+    required property ImageBridge picture
+    required property LabelBridge title
+    required property LabelBridge words
     required property url source
 
     implicitHeight: column.implicitHeight

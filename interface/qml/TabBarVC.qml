@@ -4,36 +4,41 @@ import Leafund
 Page {
     id: page
 
+    required property PlainBridge tabs
+    required property TabBarBridge tabBar
+    required property TabBridge browseTab
+    required property TabBridge fundedTab
+    required property TabBridge mineTab
+    required property TabBridge newsTab
+    required property ButtonBridge newButton
+
     barContent: Button {
-        view: page.views.newButton
+        view: page.newButton
         primary: false
         height: Theme.leastTarget
     }
 
     // The selected tab's screen is put here.
     Item {
-        objectName: page.views.tabs.name
-        x: page.views.tabs.x
-        y: page.views.tabs.y
-        width: page.views.tabs.width
-        height: page.views.tabs.height
+        objectName: page.tabs.name
+        x: page.tabs.x
+        y: page.tabs.y
+        width: page.tabs.width
+        height: page.tabs.height
         clip: true
         Keys.forwardTo: children
     }
 
     Rectangle {
-        id: bar
-        readonly property ViewObject view: page.views.tabBar
-
-        objectName: view.name
-        x: view.x
-        y: view.y
-        width: view.width
-        height: view.height
+        objectName: page.tabBar.name
+        x: page.tabBar.x
+        y: page.tabBar.y
+        width: page.tabBar.width
+        height: page.tabBar.height
         color: Theme.card
 
         Accessible.role: Accessible.PageTabList
-        Accessible.name: view.accessibleName
+        Accessible.name: page.tabBar.accessibleName
 
         Rectangle {
             width: parent.width
@@ -47,14 +52,14 @@ Page {
         }
 
         Row {
-            id: tabs
-            readonly property real room: Math.min(Theme.column, bar.width)
+            id: row
+            readonly property real room: Math.min(Theme.column, page.tabBar.width)
             // Tabs are equally wide, and on a narrow bar as wide as their titles need: in the accent
             // colour a title must not become small.
             readonly property bool crowded: room < Theme.narrow
             readonly property real words: browse.wordsWidth + funded.wordsWidth
                                           + mine.wordsWidth + news.wordsWidth
-            function widthFor(tab) {
+            function widthFor(tab: TabButton): real {
                 return crowded ? room * tab.wordsWidth / words : room / 4;
             }
             // All titles in one size: the largest that fits every tab, and the bar.
@@ -66,38 +71,38 @@ Page {
 
             TabButton {
                 id: browse
-                view: page.views.browseTab
-                share: tabs.share
+                view: page.browseTab
+                share: row.share
                 icon: IconItem.Search
-                tint: bar.view.tintColor
-                width: tabs.widthFor(browse)
+                tint: page.tabBar.tintColor
+                width: row.widthFor(browse)
                 height: parent.height
             }
             TabButton {
                 id: funded
-                view: page.views.fundedTab
-                share: tabs.share
+                view: page.fundedTab
+                share: row.share
                 icon: IconItem.Heart
-                tint: bar.view.tintColor
-                width: tabs.widthFor(funded)
+                tint: page.tabBar.tintColor
+                width: row.widthFor(funded)
                 height: parent.height
             }
             TabButton {
                 id: mine
-                view: page.views.mineTab
-                share: tabs.share
+                view: page.mineTab
+                share: row.share
                 icon: IconItem.Sprout
-                tint: bar.view.tintColor
-                width: tabs.widthFor(mine)
+                tint: page.tabBar.tintColor
+                width: row.widthFor(mine)
                 height: parent.height
             }
             TabButton {
                 id: news
-                view: page.views.newsTab
-                share: tabs.share
+                view: page.newsTab
+                share: row.share
                 icon: IconItem.Paper
-                tint: bar.view.tintColor
-                width: tabs.widthFor(news)
+                tint: page.tabBar.tintColor
+                width: row.widthFor(news)
                 height: parent.height
             }
         }

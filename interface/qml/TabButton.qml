@@ -5,7 +5,7 @@ import Leafund
 Pressable {
     id: tab
 
-    required property ViewObject view
+    required property TabBridge view
     required property int icon
     required property color tint
     // Of the size that a tab's title has at most, and how much of it fits into this tab.

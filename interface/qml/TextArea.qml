@@ -5,6 +5,9 @@ import Leafund
 EntryBox {
     id: area
 
+    required property TextViewBridge view
+
+    bridge: view
     input: editor
     empty: !editor.text && !editor.preeditText
     onMessageSelected: editor.selectAll()

@@ -5,6 +5,9 @@ import Leafund
 EntryBox {
     id: entry
 
+    required property TextFieldBridge view
+
+    bridge: view
     input: field
     empty: !field.text && !field.preeditText
     onMessageSelected: field.selectAll()
@@ -36,7 +39,7 @@ EntryBox {
         property bool rewriting: false
         // Not bound: an old text is told to assistive technology in clear when a new one is set over
         // it, and a password must not be.
-        function write(written) {
+        function write(written: string) {
             if (text === written)
                 return;
             rewriting = true;
@@ -69,7 +72,7 @@ EntryBox {
         Component.onCompleted: write(entry.view.text)
         Connections {
             target: entry.view
-            function onChanged() { field.write(entry.view.text); }
+            function onRefreshed() { field.write(entry.view.text); }
         }
 
         onTextEdited: {

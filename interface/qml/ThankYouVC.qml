@@ -4,12 +4,15 @@ import Leafund
 Page {
     id: page
 
+    required property LabelBridge thankYouLabel
+    required property ButtonBridge homeButton
+
     Meadow {
         anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
     }
 
     ScrollPane {
-        scene: page.scene
+        root: page.root
         centred: true
         spacing: Theme.space
 
@@ -20,14 +23,14 @@ Page {
         }
         Title {
             id: thanks
-            view: page.views.thankYouLabel
+            view: page.thankYouLabel
             takesFocus: true
             width: parent.width
             horizontalAlignment: Text.AlignHCenter
             FocusRing { target: thanks }
         }
         Button {
-            view: page.views.homeButton
+            view: page.homeButton
             width: parent.width
         }
     }

@@ -3,7 +3,7 @@ import Leafund
 
 // The place of a view that nobody sees.
 Item {
-    required property ViewObject view
+    required property ViewBridge view
 
     objectName: view.name
     visible: false

@@ -4,8 +4,13 @@ import Leafund
 Page {
     id: page
 
+    required property LabelBridge test
+    required property LabelBridge updateOneDate
+    required property ImageBridge updateOneImage
+    required property TextViewBridge updateOneText
+
     ScrollPane {
-        scene: page.scene
+        root: page.root
 
         // A post: what it is about and of when, its picture from edge to edge, its text.
         Card {
@@ -17,11 +22,11 @@ Page {
                 width: parent.width - 2 * x
                 topPadding: Theme.gap
                 Title {
-                    view: page.views.test
+                    view: page.test
                     width: parent.width
                 }
                 Words {
-                    view: page.views.updateOneDate
+                    view: page.updateOneDate
                     width: parent.width
                     height: text ? whole : 0
                     // Read also where there is no text: the first reading lays it out.
@@ -30,12 +35,12 @@ Page {
                 }
             }
             Picture {
-                view: page.views.updateOneImage
+                view: page.updateOneImage
                 width: parent.width
                 height: width * Theme.pictureShape
             }
             ReadingText {
-                view: page.views.updateOneText
+                view: page.updateOneText
                 width: parent.width
             }
         }

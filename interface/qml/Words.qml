@@ -5,7 +5,7 @@ import Leafund
 Text {
     id: words
 
-    required property ViewObject view
+    required property TextBridge view
     property bool heading: false
     // Of a screen without a bar: the focus is here when it comes.
     property bool takesFocus: false
@@ -22,6 +22,6 @@ Text {
     focus: takesFocus
 
     Accessible.role: heading ? Accessible.Heading : Accessible.StaticText
-    Accessible.name: view.accessibleName || text
+    Accessible.name: view.spokenText
     Accessible.ignored: text === ""
 }

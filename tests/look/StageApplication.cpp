@@ -8,7 +8,7 @@
 #include <cmath>
 #include <stdexcept>
 
-#include "interface/qml/bridge/ViewObject.h"
+#include "interface/qml/bridge/ImageBridge.h"
 #include "interface/qml/items/PictureItem.h"
 #include "model/Catalogue.h"
 #include "platform/uikit/UITableView.h"
@@ -138,7 +138,7 @@ bool StageApplication::rowsHaveTheirOwnPictures() {
 bool StageApplication::hasAllPictures() {
   for (const auto* item : shownItems(page())) {
     if (!item->inherits("leafund::PictureItem")) continue;
-    if (item->property("view").value<ViewObject*>()->look().image == nullptr) return false;
+    if (item->property("view").value<ImageBridge*>()->picture().image == nullptr) return false;
   }
   return true;
 }

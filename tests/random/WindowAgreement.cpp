@@ -3,7 +3,7 @@
 #include <cmath>
 #include <map>
 
-#include "interface/qml/bridge/ViewLook.h"
+#include "interface/qml/bridge/TextBridge.h"
 #include "platform/uikit/UIButton.h"
 #include "platform/uikit/UILabel.h"
 #include "platform/uikit/UINavigationController.h"
@@ -51,25 +51,36 @@ class Differences {
   std::string told;
 };
 
-void compareWords(const UIView& view, const QQuickItem& item, Differences& differences) {
-  const auto& name = view.name();
-  const auto look = lookOf(view);
-  const auto* input = dynamic_cast<const UITextInput*>(&view);
-  const bool hasWords = input != nullptr || dynamic_cast<const UILabel*>(&view) != nullptr ||
-                        dynamic_cast<const UIButton*>(&view) != nullptr;
-  if (hasWords) differences.expect(name, look.text, item.property("text").toString());
-  if (dynamic_cast<const UITabBarItem*>(&view) != nullptr) {
-    const bool lit = item.property("iconColor") == item.property("tint");
-    differences.expect(name + " selected", look.selected, lit);
-  }
-  if (input == nullptr) return;
+void compareInput(const UITextInput& input, const QQuickItem& item, Differences& differences) {
+  const auto words = input.editable() ? qtText(input.text()) : wordsToRead(input.text());
+  differences.expect(input.name(), words, item.property("text").toString());
   // Whoever reads and never writes sees the skin's own colour instead of the toolkit's plain black.
-  if (input->editable() || look.textColor != Qt::black) {
-    differences.expect(name + " colour", look.textColor, item.property("color").value<QColor>());
+  const QColor colour = qtColor(input.textColor().CGColor());
+  if (input.editable() || colour != Qt::black) {
+    differences.expect(input.name() + " colour", colour, item.property("color").value<QColor>());
   }
-  if (look.secure && item.property("preeditText").toString().isEmpty()) {
+  const auto* field = dynamic_cast<const UITextField*>(&input);
+  if (field == nullptr || !field->secureTextEntry()) return;
+  if (item.property("preeditText").toString().isEmpty()) {
     const bool masked = item.property("echoMode").toInt() != 0;
-    differences.expect(name + " masked", look.masked, masked);
+    differences.expect(input.name() + " masked", field->masked(), masked);
+  }
+}
+
+void compareWords(const UIView& view, const QQuickItem& item, Differences& differences) {
+  if (const auto* input = dynamic_cast<const UITextInput*>(&view)) {
+    return compareInput(*input, item, differences);
+  }
+  const auto shown = item.property("text").toString();
+  if (const auto* label = dynamic_cast<const UILabel*>(&view)) {
+    differences.expect(view.name(), wordsToRead(label->text()), shown);
+  }
+  if (const auto* button = dynamic_cast<const UIButton*>(&view)) {
+    differences.expect(view.name(), qtText(button->title()), shown);
+  }
+  if (const auto* tab = dynamic_cast<const UITabBarItem*>(&view)) {
+    const bool lit = item.property("iconColor") == item.property("tint");
+    differences.expect(view.name() + " selected", tab->selected(), lit);
   }
 }
 
@@ -84,7 +95,8 @@ void compareRow(const UITableViewCell& cell, const QQuickItem& item, Differences
   for (const auto* text : item.findChildren<QQuickItem*>()) {
     if (text->inherits("leafund::StillText")) words << text->property("text").toString();
   }
-  const QStringList held{lookOf(*cell.textLabel()).text, lookOf(*cell.detailTextLabel()).text};
+  const QStringList held{wordsToRead(cell.textLabel()->text()),
+                         wordsToRead(cell.detailTextLabel()->text())};
   differences.expect(name, held.join(u'|'), words.join(u'|'));
 }
 

@@ -1,7 +1,7 @@
 #include <QQuickItem>
 #include <algorithm>
 
-#include "interface/qml/bridge/ViewLook.h"
+#include "platform/qt/QtValues.h"
 #include "tests/random/WindowUser.h"
 
 // What a tap must do, by what the reference knows to be there.

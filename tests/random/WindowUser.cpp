@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "interface/qml/bridge/ViewLook.h"
+#include "platform/qt/QtValues.h"
 
 // What the user of a window does for an action.
 namespace leafund::random {

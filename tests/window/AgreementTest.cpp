@@ -1,6 +1,6 @@
 #include <map>
 
-#include "interface/qml/bridge/ViewLook.h"
+#include "platform/qt/QtValues.h"
 #include "platform/uikit/UIButton.h"
 #include "platform/uikit/UILabel.h"
 #include "platform/uikit/UITextInput.h"

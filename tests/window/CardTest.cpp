@@ -18,6 +18,9 @@ class CardTest : public WindowTest {
     other_.setX(50);
   }
 
+  static std::unique_ptr<PlainBridge> bridgeOf(const std::shared_ptr<UIView>& content) {
+    return std::unique_ptr<PlainBridge>(qobject_cast<PlainBridge*>(makeBridge(content, nullptr)));
+  }
   static std::shared_ptr<UIView> contentWith(const UIColor& color) {
     auto content = std::make_shared<UIView>();
     content->addSubview(card(color));
@@ -37,21 +40,21 @@ class CardTest : public WindowTest {
 
 TEST_F(CardTest, ACardThatIsLaidUnderAnotherIsSeenWhereItIsNotCovered) {
   const auto content = contentWith(UIColor::blackColor());
-  ViewObject bridge(content, nullptr);
-  item_.setView(&bridge);
+  const auto bridge = bridgeOf(content);
+  item_.setView(bridge.get());
   EXPECT_EQ(colourAt(55), QColor(Qt::white));
   const auto lower = card(UIColor::redColor(), 20);
   content->addSubview(lower);
   content->sendSubviewToBack(lower);
-  bridge.refresh();
+  bridge->refresh();
   EXPECT_EQ(colourAt(55), QColor(Qt::red));
   EXPECT_EQ(colourAt(30), QColor(Qt::black));
 }
 
 TEST_F(CardTest, AnotherGroundIsPainted) {
   const auto content = contentWith(UIColor::blackColor());
-  ViewObject bridge(content, nullptr);
-  item_.setView(&bridge);
+  const auto bridge = bridgeOf(content);
+  item_.setView(bridge.get());
   EXPECT_EQ(colourAt(2), QColor(Qt::white));
   item_.setGround(Qt::yellow);
   EXPECT_EQ(colourAt(2), QColor(Qt::yellow));
@@ -60,21 +63,21 @@ TEST_F(CardTest, AnotherGroundIsPainted) {
 TEST_F(CardTest, AnotherViewIsPainted) {
   const auto first = contentWith(UIColor::blackColor());
   const auto second = contentWith(UIColor::redColor());
-  ViewObject firstBridge(first, nullptr);
-  ViewObject secondBridge(second, nullptr);
-  item_.setView(&firstBridge);
+  const auto firstBridge = bridgeOf(first);
+  const auto secondBridge = bridgeOf(second);
+  item_.setView(firstBridge.get());
   EXPECT_EQ(colourAt(30), QColor(Qt::black));
-  item_.setView(&secondBridge);
+  item_.setView(secondBridge.get());
   EXPECT_EQ(colourAt(30), QColor(Qt::red));
 }
 
 TEST_F(CardTest, ACardOfAnotherColourIsNotPaintedLikeTheLastOne) {
   const auto black = contentWith(UIColor::blackColor());
   const auto red = contentWith(UIColor::redColor());
-  ViewObject blackBridge(black, nullptr);
-  ViewObject redBridge(red, nullptr);
-  item_.setView(&blackBridge);
-  other_.setView(&redBridge);
+  const auto blackBridge = bridgeOf(black);
+  const auto redBridge = bridgeOf(red);
+  item_.setView(blackBridge.get());
+  other_.setView(redBridge.get());
   EXPECT_EQ(colourAt(30, 20), QColor(Qt::black));
   EXPECT_EQ(colourAt(30, 70), QColor(Qt::red));
 }

@@ -5,7 +5,7 @@
 #include <QQuickItemGrabResult>
 #include <utility>
 
-#include "interface/qml/bridge/ViewObject.h"
+#include "interface/qml/bridge/ImageBridge.h"
 #include "interface/qml/items/PictureItem.h"
 #include "model/Catalogue.h"
 #include "platform/foundation/NSURLRequest.h"
@@ -100,7 +100,7 @@ void FaultApplication::hold(std::shared_ptr<UIImageView> place) {
 QQuickItem& FaultApplication::item() {
   for (auto* each : window.page()->findChildren<QQuickItem*>()) {
     if (!each->inherits("leafund::PictureItem")) continue;
-    const auto* shown = each->property("view").value<ViewObject*>();
+    const auto* shown = each->property("view").value<ImageBridge*>();
     if (shown != nullptr && imageView_->skin() == shown) return *each;
   }
   throw std::out_of_range("the place has no item");

@@ -52,7 +52,7 @@ class PixelsTest : public WindowTest {
   }
 
   std::shared_ptr<UIImageView> view_ = std::make_shared<UIImageView>();
-  ViewObject bridge_{view_, nullptr};
+  ImageBridge bridge_{view_, nullptr};
   QQuickWindow window_;
   std::unique_ptr<PictureItem> item_ = std::make_unique<PictureItem>();
 };

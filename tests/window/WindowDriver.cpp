@@ -1,6 +1,6 @@
 #include <QTest>
 
-#include "interface/qml/bridge/ViewObject.h"
+#include "interface/qml/bridge/TableBridge.h"
 #include "platform/uikit/UITableView.h"
 #include "platform/uikit/UITableViewCell.h"
 #include "tests/journeys/Driver.h"
@@ -50,7 +50,7 @@ class WindowDriver final : public Driver {
   std::vector<std::string> rows() override {
     std::vector<std::string> titles;
     for (const auto& [row, cell] : table().visibleCells()) {
-      const auto* view = rowItem(row).property("view").value<ViewObject*>();
+      const auto* view = rowItem(row).property("view").value<CellBridge*>();
       const auto* title = view->title();
       titles.push_back(title->text().toStdString());
     }
@@ -58,13 +58,13 @@ class WindowDriver final : public Driver {
   }
 
   bool pictureShown(const std::string& name) override {
-    const auto* view = app_.require(name).property("view").value<ViewObject*>();
-    return app_.waitUntil([&] { return view->look().image != nullptr; });
+    const auto* view = app_.require(name).property("view").value<ImageBridge*>();
+    return app_.waitUntil([&] { return view->picture().image != nullptr; });
   }
   bool rowPictureShown(std::ptrdiff_t row) override {
-    const auto* view = rowItem(row).property("view").value<ViewObject*>();
+    const auto* view = rowItem(row).property("view").value<CellBridge*>();
     const auto* picture = view->picture();
-    return app_.waitUntil([&] { return picture->look().image != nullptr; });
+    return app_.waitUntil([&] { return picture->picture().image != nullptr; });
   }
   std::string pictureAddress(const std::string& fileName) override {
     return app_.server().address("/" + fileName);

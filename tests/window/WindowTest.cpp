@@ -11,7 +11,6 @@
 #include <limits>
 
 #include "interface/qml/LeafundWindow.h"
-#include "interface/qml/bridge/ViewObject.h"
 #include "model/Catalogue.h"
 #include "platform/foundation/AmountText.h"
 #include "platform/uikit/UITabContainer.h"

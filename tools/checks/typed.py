@@ -10,6 +10,7 @@ from .tree import Unavailable
 
 TOOLS = "/usr/lib/qt6/bin"
 MODULE = "interface/qml/Leafund"
+LEAST_AHEAD = 0.9  # of the bindings and functions
 
 # What qmllint 6.4 takes for a mistake and is none.
 MISTAKEN = (
@@ -65,5 +66,14 @@ def bindings(project):
     return ahead, reasons
 
 
-CHECKS = (("QML names what exists", "see the line, or list qmllint's mistake in tools/checks/typed.py",
-           linted),)
+def compiled(project):
+    ahead, reasons = bindings(project)
+    whole = ahead + reasons.total()
+    return [] if ahead >= LEAST_AHEAD * whole else [f"{ahead} of {whole} do; tools/bindings says why"]
+
+
+CHECKS = (
+    ("QML names what exists", "see the line, or list qmllint's mistake in tools/checks/typed.py",
+     linted),
+    ("bindings compile ahead", "give what they read a type", compiled),
+)

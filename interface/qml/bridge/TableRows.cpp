@@ -11,11 +11,11 @@
 
 namespace leafund {
 
-void TableRows::setTable(ViewObject* table) {
+void TableRows::setTable(TableBridge* table) {
   if (table == table_) return;
   if (table_) disconnect(table_, nullptr, this, nullptr);
   table_ = table;
-  connect(table_, &ViewObject::changed, this, &TableRows::catchUp);
+  connect(table_, &ViewBridge::refreshed, this, &TableRows::catchUp);
   emit tableChanged();
 }
 
@@ -30,7 +30,7 @@ void TableRows::catchUp() {
   nameAndStack();
 }
 
-void TableRows::makeItem(ViewObject* cell) {
+void TableRows::makeItem(CellBridge* cell) {
   QVariantMap properties;
   properties.insert("view", QVariant::fromValue(cell));
   if (!delegate_->isReady()) fatalError("TableRows", delegate_->errorString().toStdString());

@@ -7,7 +7,7 @@
 #include <QQuickItem>
 #include <vector>
 
-#include "interface/qml/bridge/ViewObject.h"
+#include "interface/qml/bridge/TableBridge.h"
 
 namespace leafund {
 
@@ -19,15 +19,15 @@ class TableRows : public QQuickItem {
   Q_OBJECT
   QML_ELEMENT
   Q_PROPERTY(
-      leafund::ViewObject* table READ table WRITE setTable NOTIFY tableChanged REQUIRED FINAL)
+      leafund::TableBridge* table READ table WRITE setTable NOTIFY tableChanged REQUIRED FINAL)
   // Makes a row's item; it is given the cell as its property `view`.
   Q_PROPERTY(QQmlComponent* delegate MEMBER delegate_ NOTIFY delegateChanged REQUIRED FINAL)
 
  public:
   using QQuickItem::QQuickItem;
 
-  ViewObject* table() const { return table_; }
-  void setTable(ViewObject* table);
+  TableBridge* table() const { return table_; }
+  void setTable(TableBridge* table);
 
   // Puts the focus on a row that lies wholly between two heights of the table: where it has left
   // that stretch at the bottom on the last such row, otherwise on the first, and where there is
@@ -47,11 +47,11 @@ class TableRows : public QQuickItem {
 
  private:
   void catchUp();
-  void makeItem(ViewObject* cell);
+  void makeItem(CellBridge* cell);
   void nameAndStack();
   void keepFocus(const QString& rowName);
 
-  QPointer<ViewObject> table_;
+  QPointer<TableBridge> table_;
   QQmlComponent* delegate_ = nullptr;
   std::vector<QQuickItem*> items_;  // by the cells' order; children of this item
 };

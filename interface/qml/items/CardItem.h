@@ -4,6 +4,7 @@
 
 #include <vector>
 
+#include "interface/qml/bridge/PlainBridge.h"
 #include "interface/qml/items/ViewImageItem.h"
 
 namespace leafund {
@@ -14,9 +15,13 @@ namespace leafund {
 class CardItem : public leafund::ViewImageItem {
   Q_OBJECT
   QML_ELEMENT
+  Q_PROPERTY(leafund::PlainBridge* view READ view WRITE setView NOTIFY viewChanged REQUIRED FINAL)
 
  public:
   using ViewImageItem::ViewImageItem;
+
+  PlainBridge* view() const { return static_cast<PlainBridge*>(followed()); }
+  void setView(PlainBridge* view) { follow(view); }
 
  protected:
   QImage paint(QSize pixels, double scale) override;

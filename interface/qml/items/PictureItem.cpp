@@ -7,10 +7,8 @@
 namespace leafund {
 
 void PictureItem::catchUp() {
-  const auto& look = view()->look();
-  FramedPicture shown{.image = look.image, .mode = look.contentMode, .layer = look.layer};
-  if (shown == shown_) return;
-  shown_ = std::move(shown);
+  if (view()->picture() == shown_) return;
+  shown_ = view()->picture();
   repaint();
 }
 

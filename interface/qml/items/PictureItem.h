@@ -2,8 +2,8 @@
 
 #include <QtQmlIntegration/qqmlintegration.h>
 
+#include "interface/qml/bridge/ImageBridge.h"
 #include "interface/qml/items/ViewImageItem.h"
-#include "platform/qt/FramedPicture.h"
 #include "platform/qt/PixelWorker.h"
 
 namespace leafund {
@@ -16,9 +16,13 @@ namespace leafund {
 class PictureItem : public leafund::ViewImageItem {
   Q_OBJECT
   QML_ELEMENT
+  Q_PROPERTY(leafund::ImageBridge* view READ view WRITE setView NOTIFY viewChanged REQUIRED FINAL)
 
  public:
   using ViewImageItem::ViewImageItem;
+
+  ImageBridge* view() const { return static_cast<ImageBridge*>(followed()); }
+  void setView(ImageBridge* view) { follow(view); }
 
   // Whether no picture in sight on the window waits to be painted: the next frame draws what the
   // views show.

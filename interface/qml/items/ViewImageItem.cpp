@@ -2,11 +2,11 @@
 
 namespace leafund {
 
-void ViewImageItem::setView(ViewObject* view) {
+void ViewImageItem::follow(ViewBridge* view) {
   if (view == view_) return;
   if (view_) disconnect(view_, nullptr, this, nullptr);
   view_ = view;
-  if (view_) connect(view_, &ViewObject::changed, this, &ViewImageItem::catchUp);
+  if (view_) connect(view_, &ViewBridge::refreshed, this, &ViewImageItem::catchUp);
   emit viewChanged();
   if (view_) catchUp();
 }

@@ -5,7 +5,7 @@
 #include <QColor>
 #include <QPointer>
 
-#include "interface/qml/bridge/ViewObject.h"
+#include "interface/qml/bridge/ViewBridge.h"
 #include "interface/qml/items/ImageItem.h"
 
 namespace leafund {
@@ -14,14 +14,11 @@ namespace leafund {
 class ViewImageItem : public leafund::ImageItem {
   Q_OBJECT
   QML_ANONYMOUS
-  Q_PROPERTY(leafund::ViewObject* view READ view WRITE setView NOTIFY viewChanged REQUIRED FINAL)
   Q_PROPERTY(QColor ground READ ground WRITE setGround NOTIFY groundChanged FINAL)
 
  public:
   using ImageItem::ImageItem;
 
-  ViewObject* view() const { return view_; }
-  void setView(ViewObject* view);
   QColor ground() const { return ground_; }
   void setGround(const QColor& ground);
 
@@ -33,9 +30,12 @@ class ViewImageItem : public leafund::ImageItem {
   // Takes over what the view shows now, and repaints only where it is something else: a row's view
   // is refreshed at every scroll step.
   virtual void catchUp() = 0;
+  // The bridge of that view is followed from now on; null before, and when it is gone.
+  void follow(ViewBridge* view);
+  ViewBridge* followed() const { return view_; }
 
  private:
-  QPointer<ViewObject> view_;
+  QPointer<ViewBridge> view_;
   QColor ground_ = Qt::transparent;
 };
 
