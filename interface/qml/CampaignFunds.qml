@@ -37,6 +37,7 @@ Column {
     // Raised on the left, the goal behind its flag at the end of the bar, or below where they are
     // too wide. A sum wider than the card goes on in the next line.
     Item {
+        id: sums
         readonly property bool stacked: raised.width + flag.width + goal.width + 2 * Theme.unit > width
         width: parent.width
         height: stacked ? goal.y + goal.height : raised.height
@@ -62,7 +63,7 @@ Column {
             id: goal
             view: funds.goal
             anchors.right: parent.right
-            y: parent.stacked ? raised.height : (raised.height - height) / 2
+            y: sums.stacked ? raised.height : (raised.height - height) / 2
             width: Math.min(implicitWidth, parent.width - flag.width - Theme.half)
             wrapMode: Text.WrapAnywhere
             horizontalAlignment: Text.AlignRight

@@ -49,6 +49,7 @@ Item {
             }
             // One line in the middle, or two where the name is long.
             Item {
+                id: maker
                 readonly property bool stacked: by.width + Theme.half + creator.implicitWidth > width
                 readonly property real start: (width - by.width - Theme.half - creator.width) / 2
                 width: parent.width
@@ -56,15 +57,15 @@ Item {
                 Words {
                     id: by
                     view: head.by
-                    x: parent.stacked ? (parent.width - width) / 2 : parent.start
+                    x: maker.stacked ? (parent.width - width) / 2 : maker.start
                     color: Theme.quiet
                 }
                 Words {
                     id: creator
                     view: head.creator
-                    x: parent.stacked ? 0 : parent.start + by.width + Theme.half
-                    y: parent.stacked ? by.height : 0
-                    width: parent.stacked ? parent.width : implicitWidth
+                    x: maker.stacked ? 0 : maker.start + by.width + Theme.half
+                    y: maker.stacked ? by.height : 0
+                    width: maker.stacked ? parent.width : implicitWidth
                     horizontalAlignment: Text.AlignHCenter
                     color: Theme.quiet
                     font.weight: Font.DemiBold

@@ -21,7 +21,7 @@ FocusScope {
     // The row in focus is brought into sight, and some of the next: only rows in sight can be reached.
     readonly property Item focused: Window.activeFocusItem
     onFocusedChanged: if (focused === list) Qt.callLater(giveFocusToRow)
-    function bringIntoSight(row) {
+    function bringIntoSight(row: Item) {
         const top = row.y - flickable.contentY;
         const above = top - Theme.peek;
         const below = top + row.height + Theme.peek - flickable.height;

@@ -18,7 +18,7 @@ Words {
     }
 
     IconItem {
-        y: (parent.height / Math.max(1, parent.lineCount) - height) / 2
+        y: (parent.height / Math.max(1, words.lineCount) - height) / 2
         width: Theme.icon
         height: width
         icon: IconItem.Alert

@@ -8,9 +8,10 @@ Rectangle {
     required property TextViewBridge view
 
     visible: view.visible
-    readonly property real head: border.width > 0 ? Theme.wide / 2 + Theme.half : 0
+    readonly property bool framed: view.borderWidth > 0
+    readonly property real head: framed ? Theme.wide / 2 + Theme.half : 0
     implicitHeight: words.implicitHeight + head + Theme.gap
-    color: border.width > 0 ? Theme.card : Theme.none
+    color: framed ? Theme.card : Theme.none
     border { width: view.borderWidth; color: view.borderColor }
     radius: view.cornerRadius
 
@@ -25,12 +26,12 @@ Rectangle {
     Rectangle {
         anchors.horizontalCenter: parent.horizontalCenter
         y: -height / 2
-        visible: area.border.width > 0
+        visible: area.framed
         width: Theme.wide
         height: width
         radius: width / 2
         color: Theme.card
-        border { width: area.border.width; color: area.border.color }
+        border { width: area.view.borderWidth; color: area.view.borderColor }
         IconItem {
             anchors.centerIn: parent
             width: Theme.icon

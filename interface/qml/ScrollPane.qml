@@ -16,7 +16,7 @@ Item {
     // What a message has just come for, the topmost of several, is in sight until the user goes on.
     property Item told: null
     property real placed: 0  // where the content was last moved for it
-    function bringIntoSight(item) {
+    function bringIntoSight(item: Item) {
         if (!told || item.mapToItem(column, 0, 0).y < told.mapToItem(column, 0, 0).y)
             told = item;
         Qt.callLater(reveal);

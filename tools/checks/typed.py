@@ -55,20 +55,22 @@ def linted(project):
 
 
 def bindings(project):
-    """How many bindings and functions of the QML compile ahead, and why how many others do not."""
+    """How many bindings and functions of the QML compile ahead, and for each reason where others do
+    not."""
     generated = builds(project)[0].glob(".rcc/qmlcache/*_qml.cpp") if builds(project) else []
     ahead = sum(len(re.findall(r"\{ \d+, QMetaType", path.read_text())) for path in generated)
-    reasons = collections.Counter()
+    reasons = collections.defaultdict(list)
     for line in warnings(project, "--compiler", "warning"):
-        reason = re.search(r"Could not compile [^:]*: (.*)", line)
-        if reason:
-            reasons[re.sub(r'"[^"]*"|\b(of|with type) .*', "", reason.group(1)).strip()] += 1
+        found = re.search(r"/([^/:]+:\d+):\d+: Could not compile [^:]*: (.*)", line)
+        if found:
+            place, reason = found.groups()
+            reasons[re.sub(r"\b(of|with type) .*", "", reason).strip()].append(place)
     return ahead, reasons
 
 
 def compiled(project):
     ahead, reasons = bindings(project)
-    whole = ahead + reasons.total()
+    whole = ahead + sum(map(len, reasons.values()))
     return [] if ahead >= LEAST_AHEAD * whole else [f"{ahead} of {whole} do; tools/bindings says why"]
 
 
