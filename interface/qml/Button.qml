@@ -21,9 +21,9 @@ Pressable {
     Rectangle {
         anchors.fill: parent
         radius: Theme.radius
-        color: button.primary ? (button.held ? Theme.accentDeep : Theme.accent)
+        color: button.primary ? (button.held ? Theme.buttonHeld : Theme.button)
                               : (button.held ? Theme.accentPale : Theme.card)
-        border { width: Theme.hairline; color: Theme.accent }
+        border { width: Theme.hairline; color: Theme.button }
     }
 
     Text {
@@ -35,7 +35,7 @@ Pressable {
         verticalAlignment: Text.AlignVCenter
         fontSizeMode: Text.HorizontalFit
         minimumPointSize: Theme.small
-        color: button.primary ? Theme.accentInk : Theme.accentDeep
+        color: button.primary ? Theme.buttonInk : Theme.accentDeep
         font { pointSize: Theme.lead; weight: Font.Bold }
         Accessible.ignored: true
     }

@@ -13,15 +13,16 @@ Item {
     required property ProgressBridge bar
     required property LabelBridge raised
     required property LabelBridge goal
+    readonly property real portrait: 130
     readonly property bool reached: funds.reached
 
     implicitHeight: column.height
 
     Rectangle {
-        y: Theme.portrait / 2
+        y: head.portrait / 2
         width: parent.width
         height: parent.height - y
-        radius: Theme.radius
+        radius: Theme.cardRadius
         color: head.reached ? Theme.accentPale : Theme.card
         border { width: Theme.hairline; color: head.reached ? Theme.accentPale : Theme.seam }
     }
@@ -36,8 +37,8 @@ Item {
         Picture {
             view: head.picture
             anchors.horizontalCenter: parent.horizontalCenter
-            width: Theme.portrait
-            height: Theme.portrait
+            width: head.portrait
+            height: head.portrait
         }
         Column {
             width: parent.width

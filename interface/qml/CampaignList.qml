@@ -7,6 +7,8 @@ FocusScope {
 
     required property TableBridge root
 
+    // How much of the next row is seen beside the row in focus.
+    readonly property real peek: 48
     property int emptyIcon: IconItem.Leaf
 
     x: root.x
@@ -23,8 +25,8 @@ FocusScope {
     onFocusedChanged: if (focused === list) Qt.callLater(giveFocusToRow)
     function bringIntoSight(row: Item) {
         const top = row.y - flickable.contentY;
-        const above = top - Theme.peek;
-        const below = top + row.height + Theme.peek - flickable.height;
+        const above = top - peek;
+        const below = top + row.height + peek - flickable.height;
         scrollBy(above < 0 ? above : Math.max(0, below));
     }
 

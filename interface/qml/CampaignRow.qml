@@ -9,6 +9,13 @@ Pressable {
 
     readonly property real inset: Math.max(Theme.gap, (width - Theme.column) / 2)
 
+    // A card does not lie in the middle of its row.
+    readonly property real cardOffset: 2.5
+    readonly property real cardTop: 10
+    // What it leaves to title and pitch.
+    readonly property real cardRoom: 129
+    readonly property int pitchLines: 4
+
     x: view.x
     y: view.y
     width: view.width
@@ -26,7 +33,7 @@ Pressable {
 
     // The card does not grow with the system's text: where that is large, less of it is taken, so
     // that a title and a pitch of two lines each find room.
-    readonly property real share: Math.min(1, (Theme.cardRoom - Theme.unit)
+    readonly property real share: Math.min(1, (row.cardRoom - Theme.unit)
                                               / (2 * titleLine.height + 2 * pitchLine.height))
     FontMetrics {
         id: titleLine
@@ -48,7 +55,7 @@ Pressable {
     }
 
     Rectangle {
-        anchors { fill: parent; topMargin: Theme.cardTop; bottomMargin: Theme.cardTop - 2 * Theme.cardOffset }
+        anchors { fill: parent; topMargin: row.cardTop; bottomMargin: row.cardTop - 2 * row.cardOffset }
         visible: row.held
         color: Theme.veil
     }
@@ -57,7 +64,7 @@ Pressable {
         id: picture
         view: row.view.picture
         x: row.inset
-        anchors { verticalCenter: parent.verticalCenter; verticalCenterOffset: Theme.cardOffset }
+        anchors { verticalCenter: parent.verticalCenter; verticalCenterOffset: row.cardOffset }
         width: view.width
         height: view.height
         Accessible.ignored: true
@@ -66,7 +73,7 @@ Pressable {
     Column {
         anchors { left: picture.right; leftMargin: Theme.gap }
         anchors { right: parent.right; rightMargin: row.inset }
-        anchors { verticalCenter: parent.verticalCenter; verticalCenterOffset: Theme.cardOffset }
+        anchors { verticalCenter: parent.verticalCenter; verticalCenterOffset: row.cardOffset }
         spacing: Theme.half
 
         StillText {
@@ -82,8 +89,8 @@ Pressable {
             id: pitch
             width: parent.width
             text: row.view.detail.text
-            maximumLineCount: Math.max(1, Math.min(Theme.pitchLines, Math.floor(room / line.height)))
-            readonly property real room: Theme.cardRoom - title.height - Theme.half
+            maximumLineCount: Math.max(1, Math.min(row.pitchLines, Math.floor(room / line.height)))
+            readonly property real room: row.cardRoom - title.height - Theme.half
             color: Theme.quiet
             font.pointSize: row.share * Theme.body
             Accessible.ignored: true

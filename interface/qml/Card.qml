@@ -10,7 +10,7 @@ Rectangle {
     property real inset: Theme.space
 
     implicitHeight: column.height + 2 * inset
-    radius: Theme.radius
+    radius: Theme.cardRadius
     color: Theme.card
     border { width: Theme.hairline; color: Theme.seam }
 

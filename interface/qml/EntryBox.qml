@@ -16,6 +16,8 @@ Rectangle {
     readonly property bool wrong: reason ? reason.visible : bridge.coloured
     readonly property string accessibleReason: reason && reason.visible ? reason.text : ""
     readonly property bool userIsIn: input.activeFocus
+    // How high an empty box is where its caption stands in the middle.
+    readonly property real restHeight: 64
     // Empty and unfocused: the caption stands where the text will.
     readonly property bool resting: !userIsIn && empty
 
@@ -26,7 +28,7 @@ Rectangle {
     color: Theme.card
     border {
         width: userIsIn && wrong ? Theme.ringWidth : userIsIn || wrong ? Theme.caret : Theme.hairline
-        color: wrong ? Theme.alert : userIsIn ? Theme.accent : Theme.line
+        color: wrong ? Theme.alert : userIsIn ? Theme.accent : Theme.outline
     }
 
     // The toolkit ended the editing: the window follows.
@@ -90,7 +92,7 @@ Rectangle {
 
     Text {
         id: caption
-        readonly property real drop: (Math.min(box.height, Theme.restHeight) - height) / 2
+        readonly property real drop: (Math.min(box.height, box.restHeight) - height) / 2
         anchors { left: parent.left; right: parent.right }
         anchors { leftMargin: Theme.gap; rightMargin: Theme.gap }
         y: box.resting ? Math.max(Theme.unit, drop) : Theme.unit

@@ -72,6 +72,6 @@ Rectangle {
     Rectangle {
         anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
         height: Theme.hairline
-        color: Theme.line
+        color: Theme.outline
     }
 }

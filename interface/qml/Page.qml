@@ -10,6 +10,8 @@ FocusScope {
     required property BarBridge bar
     default property alias content: content.data
     property alias barContent: navigationBar.trailing
+    // How far a drag leads back, in points.
+    readonly property real swipe: 80
     readonly property int slideDuration: Theme.slideDuration
 
     // The keys that scroll work wherever on the screen the focus is.
@@ -36,7 +38,7 @@ FocusScope {
             grabPermissions: PointerHandler.CanTakeOverFromAnything
             onGrabChanged: (change, point) => {
                 const way = point.scenePosition.x - point.scenePressPosition.x;
-                if (change === PointerDevice.UngrabExclusive && way > Theme.swipe)
+                if (change === PointerDevice.UngrabExclusive && way > page.swipe)
                     page.bar.goBack();
             }
         }

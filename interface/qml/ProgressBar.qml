@@ -15,7 +15,7 @@ Item {
 
     objectName: view.name
     visible: view.visible
-    implicitHeight: Theme.bar
+    implicitHeight: Theme.gap - Theme.half
 
     readonly property real goal: view.progress
     onGoalChanged: refill()
@@ -41,8 +41,8 @@ Item {
     Rectangle {
         anchors.fill: parent
         radius: height / 2
-        color: Theme.accentPale
-        border { width: Theme.hairline; color: Theme.line }
+        color: Theme.track
+        border { width: Theme.hairline; color: Theme.outline }
     }
 
     Rectangle {
@@ -50,6 +50,6 @@ Item {
         height: parent.height
         radius: height / 2
         visible: progress.shown > 0
-        color: Theme.accent
+        color: Theme.progress
     }
 }

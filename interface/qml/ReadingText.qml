@@ -19,7 +19,7 @@ Rectangle {
         id: words
         view: area.view
         anchors { fill: parent; margins: Theme.gap; topMargin: area.head }
-        lineHeight: Theme.readingLines
+        lineHeight: 1.35
     }
 
     // The seal of a letter, on the line of its frame.

@@ -7,9 +7,9 @@ Rectangle {
 
     anchors { right: parent.right; rightMargin: Theme.half }
     y: target.visibleArea.yPosition * target.height
-    width: Theme.scrollMark
+    width: Theme.half
     height: target.visibleArea.heightRatio * target.height
     visible: target.visibleArea.heightRatio < 1
     radius: width / 2
-    color: Theme.line
+    color: Theme.outline
 }

@@ -11,7 +11,7 @@ Rectangle {
     required property url source
 
     implicitHeight: column.implicitHeight
-    radius: Theme.radius
+    radius: Theme.cardRadius
     color: Theme.card
 
     Column {
@@ -24,7 +24,7 @@ Rectangle {
             objectName: story.picture.name
             visible: story.picture.visible
             width: parent.width
-            height: width * Theme.storyShape
+            height: width * 0.6
             source: story.source
             fillMode: Image.PreserveAspectCrop
             Accessible.role: Accessible.Graphic
@@ -46,14 +46,14 @@ Rectangle {
 
     // The picture's upper corners, round by what is laid over them.
     IconItem {
-        width: Theme.radius
+        width: Theme.cardRadius
         height: width
         icon: IconItem.Corner
         color: Theme.ground
     }
     IconItem {
         anchors.right: parent.right
-        width: Theme.radius
+        width: Theme.cardRadius
         height: width
         rotation: 90
         icon: IconItem.Corner

@@ -43,7 +43,7 @@ Page {
         Rectangle {
             width: parent.width
             height: Theme.hairline
-            color: Theme.line
+            color: Theme.outline
         }
 
         FontMetrics {
@@ -53,17 +53,21 @@ Page {
 
         Row {
             id: row
+            // Below this width four titles do not fit beside one another in equal parts.
+            readonly property real narrow: 320
+            // Titles grow with the system's text up to this height of a line, 120 % of `lead`.
+            readonly property real tabLine: 29
             readonly property real room: Math.min(Theme.column, page.tabBar.width)
             // Tabs are equally wide, and on a narrow bar as wide as their titles need: in the accent
             // colour a title must not become small.
-            readonly property bool crowded: room < Theme.narrow
+            readonly property bool crowded: room < narrow
             readonly property real words: browse.wordsWidth + funded.wordsWidth
                                           + mine.wordsWidth + news.wordsWidth
             function widthFor(tab: TabButton): real {
                 return crowded ? room * tab.wordsWidth / words : room / 4;
             }
             // All titles in one size: the largest that fits every tab, and the bar.
-            readonly property real share: Math.min(1, Theme.tabLine / line.height, browse.fit,
+            readonly property real share: Math.min(1, tabLine / line.height, browse.fit,
                                                    funded.fit, mine.fit, news.fit)
 
             anchors.horizontalCenter: parent.horizontalCenter

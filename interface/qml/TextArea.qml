@@ -21,7 +21,7 @@ EntryBox {
         id: editor
         objectName: area.view.name
         width: parent.width
-        height: Math.max(implicitHeight, Theme.areaLines * metrics.lineSpacing)
+        height: Math.max(implicitHeight, 3 * metrics.lineSpacing)
         activeFocusOnTab: true
         activeFocusOnPress: false
         text: area.view.text
@@ -32,8 +32,8 @@ EntryBox {
         inputMethodHints: area.view.inputHints | Qt.ImhMultiLine
         // A finger that is drawn over it scrolls the form, as long as nothing is to be selected.
         selectByMouse: pointer.hovered
-        selectionColor: Theme.accentDeep
-        selectedTextColor: Theme.accentInk
+        selectionColor: Theme.button
+        selectedTextColor: Theme.buttonInk
 
         HoverHandler {
             id: pointer

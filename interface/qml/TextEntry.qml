@@ -32,8 +32,8 @@ EntryBox {
         wrapMode: entry.view.coloured ? TextInput.Wrap : TextInput.NoWrap
         maximumLength: 0x7fffffff
         selectByMouse: true
-        selectionColor: Theme.accentDeep
-        selectedTextColor: Theme.accentInk
+        selectionColor: Theme.button
+        selectedTextColor: Theme.buttonInk
 
         // The toolkit writes, and not the user.
         property bool rewriting: false

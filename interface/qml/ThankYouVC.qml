@@ -6,6 +6,7 @@ Page {
 
     required property LabelBridge thankYouLabel
     required property ButtonBridge homeButton
+    readonly property real celebration: 200
 
     Meadow {
         anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
@@ -19,7 +20,7 @@ Page {
         Celebration {
             anchors.horizontalCenter: parent.horizontalCenter
             width: Math.min(parent.width, height * 1.5)
-            height: Math.min(Theme.celebration, page.height / 3)
+            height: Math.min(page.celebration, page.height / 3)
         }
         Title {
             id: thanks

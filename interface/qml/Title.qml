@@ -6,13 +6,15 @@ import Leafund
 Words {
     id: title
 
+    // How many characters are many.
+    readonly property int longTitle: 48
     readonly property string longestWord: view.text.split(/[\s-]+/).reduce(
         (longest, word) => word.length > longest.length ? word : longest, "")
     readonly property real share: Math.min(1, (width - Theme.half) / Math.max(1, word.advanceWidth))
 
     heading: true
     font {
-        pointSize: view.text.length > Theme.longTitle
+        pointSize: view.text.length > longTitle
                    ? Theme.lead : Math.max(Theme.lead, Math.floor(Theme.display * share))
         weight: Font.Bold
     }

@@ -37,7 +37,7 @@ Page {
             Picture {
                 view: page.updateOneImage
                 width: parent.width
-                height: width * Theme.pictureShape
+                height: width * 0.75  // as the pictures are drawn: nothing of an infographic is cut off
             }
             ReadingText {
                 view: page.updateOneText

@@ -17,7 +17,7 @@ Text {
     wrapMode: Text.Wrap
     color: Theme.ink
     font.pointSize: Theme.body
-    lineHeight: Theme.lines
+    lineHeight: 1.2
 
     focus: takesFocus
 

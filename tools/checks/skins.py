@@ -1,9 +1,10 @@
-"""What QML may hold: layout and look, no words, no decisions, every token from the theme."""
+"""What QML may hold: layout and look, no words, no decisions, what skins share from the tokens."""
 
+import json
 import re
 
 ROOM = "interface/qml/"
-THEME = ROOM + "Theme.qml"
+TOKENS = "interface/tokens.json"
 
 
 def skins(project):
@@ -11,19 +12,17 @@ def skins(project):
     return [path for path in project.files(".qml") if path.startswith(ROOM)]
 
 
-def lines(project, theme=False):
+def lines(project):
     """Every line of QML without its comments."""
     for path in skins(project):
-        if path == THEME and not theme:
-            continue
         for number, line in enumerate(project.text(path).splitlines(), 1):
             yield path, number, re.sub(r"(^|\s)//.*", "", line)
 
 
-def matching(project, pattern, theme=False):
+def matching(project, pattern):
     return [
         f"{path}:{number}  {line.strip()}"
-        for path, number, line in lines(project, theme)
+        for path, number, line in lines(project)
         if re.search(pattern, line)
     ]
 
@@ -63,12 +62,14 @@ def colours(project):
     return matching(project, f"{literal}|{named}")
 
 
-# A number by itself is a token, with a name in the theme. These are none: nothing, one, two and
-# their like below one, which are shares; a factor or divisor, which tells a relation to something
-# that has a name; a quarter turn; and bounds that are not of the screen.
+# A number by itself has a name: a token's, or that of a property of the one skin that uses it.
+# These are no such numbers: nothing, one, two and their like below one, which are shares; a factor
+# or divisor, which tells a relation to something that has a name; a quarter turn; how far lines
+# stand apart; and bounds that are not of the screen.
 NUMBER = re.compile(r"(?<![\w.#])(0x[0-9a-fA-F]+|\d+(?:\.\d+)?)(?![\w.])")
 SHARE = re.compile(r"0(\.\d+)?|[12](\.0)?")
-NO_TOKEN = re.compile(r"\b(rotation|maximumLength|maximumValue)\s*:")
+NO_TOKEN = re.compile(r"\b(rotation|lineHeight|maximumLength|maximumValue)\s*:")
+NAMED = re.compile(r"readonly property (real|int) \w+: [\d.]+$")
 # Where the parts of a drawing stand, in units of the drawing.
 PLACE = re.compile(r"\{ x: -?[\d.]+, y: -?[\d.]+, size: [^}]*\}")
 
@@ -83,7 +84,7 @@ def numbers(project):
     found = []
     for path, number, line in lines(project):
         bare = PLACE.sub("", re.sub(r'"[^"]*"', '""', line))
-        if bare.startswith("import") or NO_TOKEN.search(bare):
+        if bare.startswith("import") or NO_TOKEN.search(bare) or NAMED.search(bare.rstrip()):
             continue
         if any(is_token(bare, each) for each in NUMBER.finditer(bare)):
             found.append(f"{path}:{number}  {line.strip()}")
@@ -94,15 +95,24 @@ def tokens(project):
     return sorted(set(colours(project) + numbers(project)))
 
 
+def used_tokens(project):
+    known = json.loads(project.text(TOKENS))
+    groups = [known["color"]["day"], *(known[group] for group in known if group not in ("color", "$description"))]
+    names = [name for group in groups for name in group if not name.startswith("$")]
+    used = "".join(project.text(path) for path in skins(project))
+    return [name for name in names if not re.search(rf"\bTheme\.{name}\b", used)]
+
+
 def heavy(project):
     imports = r"import QtQuick\.(Controls|Layouts)"
     effects = r"layer\.(effect|enabled)|ShaderEffect|MultiEffect|GraphicalEffects"
-    return matching(project, f"{imports}|{effects}", theme=True)
+    return matching(project, f"{imports}|{effects}")
 
 
 CHECKS = (
     ("no words in QML", "say it in interface/scenes and bind to the view's text", words),
     ("plain text only", "textFormat: Text.PlainText, or use Words.qml", plain_text),
-    ("tokens from the theme", "give the colour, size or duration a name in Theme.qml", tokens),
+    ("tokens from the theme", "give the colour, size or duration a name in interface/tokens.json", tokens),
+    ("tokens have users", "take it out of interface/tokens.json", used_tokens),
     ("no controls, no effects", "draw it in C++ once; see the reasons in docs", heavy),
 )

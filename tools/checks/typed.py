@@ -57,7 +57,7 @@ def linted(project):
 def bindings(project):
     """How many bindings and functions of the QML compile ahead, and for each reason where others do
     not."""
-    generated = builds(project)[0].glob(".rcc/qmlcache/*_qml.cpp") if builds(project) else []
+    generated = builds(project)[0].glob(".rcc/qmlcache/**/*_qml.cpp") if builds(project) else []
     ahead = sum(len(re.findall(r"\{ \d+, QMetaType", path.read_text())) for path in generated)
     reasons = collections.defaultdict(list)
     for line in warnings(project, "--compiler", "warning"):

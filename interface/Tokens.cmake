@@ -1,0 +1,109 @@
+# tokens_to_qml(FILE) writes the tokens of tokens.json as the singleton Theme of the window,
+# tokens_to_css(FILE) as custom properties for the page. A changed token configures again.
+set(tokensFile ${CMAKE_CURRENT_LIST_DIR}/tokens.json)
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${tokensFile})
+file(READ ${tokensFile} tokens)
+
+# The members of an object that are none of the format's own.
+function(token_names out)
+  string(JSON last LENGTH "${tokens}" ${ARGN})
+  math(EXPR last "${last} - 1")
+  set(names "")
+  foreach(i RANGE ${last})
+    string(JSON name MEMBER "${tokens}" ${ARGN} ${i})
+    if(NOT name MATCHES "^\\$")
+      list(APPEND names ${name})
+    endif()
+  endforeach()
+  set(${out} ${names} PARENT_SCOPE)
+endfunction()
+
+# A colour of a mode, or of the mode it falls back to.
+function(token_colour out name)
+  foreach(mode IN LISTS ARGN)
+    string(JSON value ERROR_VARIABLE missing GET "${tokens}" color ${mode} ${name} $value)
+    if(NOT missing)
+      break()
+    endif()
+  endforeach()
+  set(${out} ${value} PARENT_SCOPE)
+endfunction()
+
+# QML writes the transparency of a colour in front.
+function(qml_colour out name)
+  token_colour(value ${name} ${ARGN})
+  string(REGEX REPLACE "^#(......)(..)$" "#\\2\\1" value ${value})
+  set(${out} "\"${value}\"" PARENT_SCOPE)
+endfunction()
+
+function(tokens_to_qml file)
+  set(lines "")
+  token_names(colours color day)
+  foreach(name IN LISTS colours)
+    qml_colour(value ${name} day)
+    string(APPEND lines "    readonly property color ${name}: ${value}\n")
+  endforeach()
+  foreach(group IN ITEMS type space motion)
+    token_names(names ${group})
+    foreach(name IN LISTS names)
+      string(JSON value GET "${tokens}" ${group} ${name} $value)
+      string(REGEX REPLACE "(px|ms)$" "" value ${value})
+      set(kind real)
+      if(group STREQUAL "type")
+        math(EXPR whole "${value} * 3 / 4")
+        math(EXPR rest "${value} * 3 % 4 * 25")
+        set(value ${whole}.${rest})
+      elseif(group STREQUAL "motion")
+        set(kind int)
+      endif()
+      string(APPEND lines "    readonly property ${kind} ${name}: ${value}\n")
+    endforeach()
+  endforeach()
+  file(CONFIGURE OUTPUT ${file} @ONLY CONTENT [[// Made from interface/tokens.json.
+pragma Singleton
+import QtQuick
+
+QtObject {
+@lines@    readonly property color none: "transparent"
+}
+]])
+endfunction()
+
+function(css_property out name value)
+  string(REGEX REPLACE "([A-Z])" "-\\1" name ${name})
+  string(TOLOWER ${name} name)
+  set(${out} "  --${name}: ${value};\n" PARENT_SCOPE)
+endfunction()
+
+# What a mode says itself, under the condition that it is for.
+function(css_mode out mode condition)
+  set(lines "")
+  token_names(names color ${mode})
+  foreach(name IN LISTS names)
+    token_colour(value ${name} ${mode})
+    css_property(line ${name} ${value})
+    string(APPEND lines "${line}")
+  endforeach()
+  set(${out} "@media ${condition} { :root {\n${lines}} }\n" PARENT_SCOPE)
+endfunction()
+
+function(tokens_to_css file)
+  set(lines "")
+  foreach(group IN ITEMS "color;day" type space motion)
+    token_names(names ${group})
+    foreach(name IN LISTS names)
+      string(JSON value GET "${tokens}" ${group} ${name} $value)
+      if(group STREQUAL "type")
+        string(REGEX REPLACE "px$" "" value ${value})
+        set(value "calc(${value}rem / 16)")
+      endif()
+      css_property(line ${name} ${value})
+      string(APPEND lines "${line}")
+    endforeach()
+  endforeach()
+  css_mode(night night "(prefers-color-scheme: dark)")
+  css_mode(contrast contrast "(prefers-contrast: more) and (prefers-color-scheme: light)")
+  css_mode(nightContrast nightContrast "(prefers-contrast: more) and (prefers-color-scheme: dark)")
+  file(CONFIGURE OUTPUT ${file} @ONLY CONTENT
+    "/* Made from interface/tokens.json. */\n:root {\n${lines}}\n${night}${contrast}${nightContrast}")
+endfunction()
