@@ -8,7 +8,7 @@
 
 namespace leafund {
 
-// A drawn sign in one colour, on a grid of 24 by 24 that is stretched to the item's size.
+// An icon of interface/icons in one colour, its grid of 24 by 24 stretched to the item's size.
 class IconItem : public leafund::ImageItem {
   Q_OBJECT
   QML_ELEMENT
@@ -16,7 +16,24 @@ class IconItem : public leafund::ImageItem {
   Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged REQUIRED FINAL)
 
  public:
-  enum Icon { Leaf, Search, Heart, Sprout, Paper, Back, Flag, Alert, HillFar, HillNear, Corner };
+  // By the names of the files: HillFar is hill-far.svg.
+  enum Icon {
+    Leaf,
+    Search,
+    SearchFilled,
+    Heart,
+    HeartFilled,
+    Sprout,
+    SproutFilled,
+    Paper,
+    PaperFilled,
+    Back,
+    Flag,
+    Alert,
+    HillFar,
+    HillNear,
+    Corner
+  };
   Q_ENUM(Icon)
   using ImageItem::ImageItem;
 
