@@ -4,6 +4,8 @@ import Leafund
 Page {
     id: page
 
+    required property LabelBridge amount
+    required property LabelBridge campaignName
     required property LabelBridge question
     required property LabelBridge outcome
     required property ButtonBridge yesButton
@@ -26,7 +28,24 @@ Page {
                 icon: IconItem.Heart
             }
             Title {
+                view: page.amount
+                heading: false
+                largest: Theme.hero
+                width: parent.width
+                horizontalAlignment: Text.AlignHCenter
+                color: Theme.accentDeep
+                lineHeight: 1
+            }
+            Words {
+                view: page.campaignName
+                width: parent.width
+                horizontalAlignment: Text.AlignHCenter
+                font { pointSize: Theme.lead; weight: Font.Bold }
+            }
+            Words {
                 view: page.question
+                heading: true
+                font { pointSize: Theme.lead; weight: Font.DemiBold }
                 width: parent.width
                 horizontalAlignment: Text.AlignHCenter
             }

@@ -8,6 +8,7 @@ Words {
 
     // How many characters are many.
     readonly property int longTitle: 48
+    property real largest: Theme.display
     readonly property string longestWord: view.text.split(/[\s-]+/).reduce(
         (longest, word) => word.length > longest.length ? word : longest, "")
     readonly property real share: Math.min(1, (width - Theme.half) / Math.max(1, word.advanceWidth))
@@ -15,13 +16,13 @@ Words {
     heading: true
     font {
         pointSize: view.text.length > longTitle
-                   ? Theme.lead : Math.max(Theme.lead, Math.floor(Theme.display * share))
+                   ? Theme.lead : Math.max(Theme.lead, Math.floor(largest * share))
         weight: Font.Bold
     }
 
     TextMetrics {
         id: word
         text: title.longestWord
-        font { pointSize: Theme.display; weight: Font.Bold }
+        font { pointSize: title.largest; weight: Font.Bold }
     }
 }

@@ -61,6 +61,9 @@ void ReferenceApp::load(const ScreenRef& screen) {
     case Scene::Confirm:
       print(std::to_string(screen->position));
       screen->pledge = entry(others_, screen->position, *screen);
+      screen->at("amount").text = dollars(screen->amount);
+      screen->at("campaignName").text = screen->pledge->title;
+      screen->at("campaignName").hidden = screen->pledge->title.empty();
       screen->hidesBack = true;
       break;
     case Scene::Thanks:

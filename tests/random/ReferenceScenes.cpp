@@ -137,9 +137,12 @@ std::vector<View> campaign() {
 }
 
 std::vector<View> confirm() {
-  return {label("question", "Do you want to fund this campaign?"),
+  return {label("amount"),
+          label("campaignName"),
+          label("question", "Do you want to fund this campaign?"),
           label("outcome", "Your pledge counts at once, and you find the campaign under Funded."),
-          button("yesButton", "Yes"), button("noButton", "No")};
+          button("yesButton", "Yes"),
+          button("noButton", "No")};
 }
 
 std::vector<View> update() {

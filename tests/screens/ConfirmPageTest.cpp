@@ -26,6 +26,14 @@ class ConfirmPageTest : public testing::Test {
     page->dollarsDonated = amount;
     page->view();
   }
+  // Of what the scene says beside the logic; null where nothing is seen.
+  const std::string* words(const std::string& name) {
+    for (const auto& view : page->view()->subviews()) {
+      if (view->name() != name || view->hidden()) continue;
+      return &static_cast<const UILabel&>(*view).text();
+    }
+    return nullptr;
+  }
   void yes() { page->yesButton->sendActionsForControlEvents(UIControlEvent::TouchUpInside); }
 
   RecordedScreen<ConfirmPageVC> page{"ConfirmPageVC"};
@@ -43,6 +51,25 @@ TEST_F(ConfirmPageTest, AnAmountThatReachesTheGoalStoresItAndMovesTheCampaignToT
   EXPECT_EQ(campaignsIFunded()[1]->title(), "Compost for Christ!");
   EXPECT_EQ(page->segues, Segues{"yesSegue"});
   EXPECT_EQ(page->lastSender, page.screen);
+}
+
+TEST_F(ConfirmPageTest, ItNamesWhatIsPledgedAndTheCampaignItIsFor) {
+  confirm(12.5);
+  ASSERT_NE(words("amount"), nullptr);
+  EXPECT_EQ(*words("amount"), "$12.50");
+  ASSERT_NE(words("campaignName"), nullptr);
+  EXPECT_EQ(*words("campaignName"), "Solar Panel House");
+}
+
+TEST_F(ConfirmPageTest, TheLargestNegativeAmountIsNamedInFull) {
+  confirm(-std::numeric_limits<float>::max());
+  ASSERT_NE(words("amount"), nullptr);
+  EXPECT_EQ(*words("amount"), "$-340282346638528859811704183484516925440.00");
+}
+
+TEST_F(ConfirmPageTest, WithoutAnAmountNoneIsNamed) {
+  page->campaignNum = 0;
+  EXPECT_EQ(words("amount"), nullptr);
 }
 
 TEST_F(ConfirmPageTest, AFullyFundedCampaignIsShownAsFundedAfterwards) {
