@@ -36,11 +36,28 @@ function(qml_colour out name)
   set(${out} "\"${value}\"" PARENT_SCOPE)
 endfunction()
 
+# One of two where they differ.
+function(qml_choice out condition then else)
+  if(then STREQUAL else)
+    set(${out} ${then} PARENT_SCOPE)
+  elseif(then MATCHES " \\? ")
+    set(${out} "${condition} ? (${then}) : ${else}" PARENT_SCOPE)
+  else()
+    set(${out} "${condition} ? ${then} : ${else}" PARENT_SCOPE)
+  endif()
+endfunction()
+
 function(tokens_to_qml file)
   set(lines "")
   token_names(colours color day)
   foreach(name IN LISTS colours)
     qml_colour(value ${name} day)
+    qml_colour(night ${name} night day)
+    qml_colour(contrast ${name} contrast day)
+    qml_colour(nightContrast ${name} nightContrast night day)
+    qml_choice(value Desktop.highContrast ${contrast} ${value})
+    qml_choice(night Desktop.highContrast ${nightContrast} ${night})
+    qml_choice(value Desktop.night ${night} ${value})
     string(APPEND lines "    readonly property color ${name}: ${value}\n")
   endforeach()
   foreach(group IN ITEMS type space motion)
@@ -62,6 +79,7 @@ function(tokens_to_qml file)
   file(CONFIGURE OUTPUT ${file} @ONLY CONTENT [[// Made from interface/tokens.json.
 pragma Singleton
 import QtQuick
+import Leafund
 
 QtObject {
 @lines@    readonly property color none: "transparent"

@@ -52,6 +52,7 @@ Pressable {
         anchors.fill: parent
         view: row.view.content
         ground: Theme.ground
+        white: Theme.white
     }
 
     Rectangle {

@@ -26,7 +26,7 @@ Item {
         property: "scale"
         from: 0.6
         to: 1
-        duration: Theme.fillDuration
+        duration: Desktop.lessMotion ? 0 : Theme.fillDuration
         easing.type: Easing.OutBack
         running: party.visible && !party.seen
         onFinished: party.seen = true

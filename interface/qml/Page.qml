@@ -12,7 +12,7 @@ FocusScope {
     property alias barContent: navigationBar.trailing
     // How far a drag leads back, in points.
     readonly property real swipe: 80
-    readonly property int slideDuration: Theme.slideDuration
+    readonly property int slideDuration: Desktop.lessMotion ? 0 : Theme.slideDuration
 
     // The keys that scroll work wherever on the screen the focus is.
     Keys.forwardTo: content.children

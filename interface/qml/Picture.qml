@@ -6,6 +6,7 @@ PictureItem {
     objectName: view.name
     visible: view.visible
     ground: Theme.accentPale
+    black: Theme.black
 
     Accessible.role: Accessible.Graphic
     Accessible.name: view.accessibleName

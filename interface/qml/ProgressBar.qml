@@ -31,7 +31,7 @@ Item {
         id: fill
         target: progress
         property: "shown"
-        duration: Theme.fillDuration
+        duration: Desktop.lessMotion ? 0 : Theme.fillDuration
         easing.type: Easing.OutCubic
     }
 

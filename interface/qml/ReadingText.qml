@@ -12,7 +12,7 @@ Rectangle {
     readonly property real head: framed ? Theme.wide / 2 + Theme.half : 0
     implicitHeight: words.implicitHeight + head + Theme.gap
     color: framed ? Theme.card : Theme.none
-    border { width: view.borderWidth; color: view.borderColor }
+    border { width: view.borderWidth; color: view.borderColor.hslLightness > 0 ? view.borderColor : Theme.black }
     radius: view.cornerRadius
 
     Words {

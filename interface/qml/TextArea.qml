@@ -27,7 +27,7 @@ EntryBox {
         text: area.view.text
         textFormat: TextEdit.PlainText
         wrapMode: TextEdit.Wrap
-        color: area.view.textColor
+        color: area.view.coloured ? area.view.textColor : Theme.black
         font { pointSize: Theme.lead; weight: area.view.coloured ? Font.Bold : Font.Normal }
         inputMethodHints: area.view.inputHints | Qt.ImhMultiLine
         // A finger that is drawn over it scrolls the form, as long as nothing is to be selected.

@@ -25,7 +25,7 @@ EntryBox {
         autoScroll: activeFocus
         onActiveFocusChanged: if (!activeFocus) ensureVisible(0)
         activeFocusOnPress: false
-        color: entry.view.textColor
+        color: entry.view.coloured ? entry.view.textColor : Theme.black
         font { pointSize: Theme.lead; weight: entry.view.coloured ? Font.Bold : Font.Normal }
         echoMode: entry.view.masked || composing ? TextInput.Password : TextInput.Normal
         inputMethodHints: entry.view.inputHints

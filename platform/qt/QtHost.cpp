@@ -5,12 +5,14 @@
 #include <QFontDatabase>
 #include <QGuiApplication>
 #include <QThread>
+#include <chrono>
 #include <thread>
 #include <utility>
 
 #include "platform/curl/CurlTransfer.h"
 #include "platform/foundation/FatalError.h"
 #include "platform/foundation/NSURLRequest.h"
+#include "platform/qt/DesktopSettings.h"
 #include "platform/qt/Display.h"
 #include "platform/qt/QtWindow.h"
 #include "platform/qt/SceneStage.h"
@@ -19,6 +21,10 @@
 namespace leafund {
 
 namespace {
+
+// What the first frame waits for the desktop's settings at most; they come while the window is
+// made.
+constexpr std::chrono::milliseconds kSettingsWait{20};
 
 // How far the application is from the user: in front, in sight, out of sight.
 enum class Activity { Background, Inactive, Active };
@@ -84,6 +90,7 @@ void QtHost::start(UIApplication& application) {
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
   }
   gui_ = connectToDisplay(argc_, argv_, settings_.title);
+  auto& desktop = DesktopSettings::ofApplication();
   QGuiApplication::setDesktopFileName(settings_.desktopFile);
   QGuiApplication::setFont(fontOf(settings_.typeface));
   // The list of the system's fonts takes a sixth of the start, and the first text waits for it. The
@@ -99,6 +106,7 @@ void QtHost::start(UIApplication& application) {
   application.resize(
       {static_cast<double>(window_->width()), static_cast<double>(window_->height())});
   application.launch();
+  desktop.await(kSettingsWait);
   window_->show();
   window_->requestActivate();  // where no window manager does it, no key would arrive
 }

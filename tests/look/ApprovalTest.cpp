@@ -28,9 +28,9 @@ struct Sitting {
 };
 
 std::string nameOf(const Sitting& sitting) {
-  const auto& [percent, scale] = sitting.surroundings;
+  const auto& [percent, scale, night] = sitting.surroundings;
   return sitting.stage + (percent == 100 ? "" : "-font" + std::to_string(percent)) +
-         (scale == 1 ? "" : "-scale" + std::to_string(scale));
+         (scale == 1 ? "" : "-scale" + std::to_string(scale)) + (night ? "-night" : "");
 }
 
 std::string fileName(const Sitting& sitting, QSize size) {
@@ -43,6 +43,10 @@ void PrintTo(const Sitting& sitting, std::ostream* out) { *out << nameOf(sitting
 const std::set<std::string> kInLargeLetters = {"landing-refused", "browse-filled", "campaign-open",
                                                "new-campaign-refused", "update-written"};
 const std::set<std::string> kOnFineScreens = {"browse-filled", "campaign-open", "thanks-pledged"};
+// One a scene that holds fields, cards or pictures.
+const std::set<std::string> kByNight = {"landing-refused",      "browse-filled",  "campaign-open",
+                                        "confirm-asked",        "thanks-pledged", "update-written",
+                                        "new-campaign-refused", "news-filled"};
 
 std::vector<Sitting> sittings() {
   std::vector<Sitting> all;
@@ -52,6 +56,7 @@ std::vector<Sitting> sittings() {
       all.push_back({stage.name, {150, 1}, {kSmall, kNatural}});
     }
     if (kOnFineScreens.contains(stage.name)) all.push_back({stage.name, {100, 2}, {kNatural}});
+    if (kByNight.contains(stage.name)) all.push_back({stage.name, {100, 1, true}, {kNatural}});
   }
   return all;
 }

@@ -16,7 +16,8 @@ struct Case {
 
 std::string nameOf(const Case& tried) {
   return tried.stage + "-font" + std::to_string(tried.surroundings.fontPercent) +
-         (tried.surroundings.scale > 1 ? "-scale" + std::to_string(tried.surroundings.scale) : "");
+         (tried.surroundings.scale > 1 ? "-scale" + std::to_string(tried.surroundings.scale) : "") +
+         (tried.surroundings.night ? "-night" : "");
 }
 
 void PrintTo(const Case& tried, std::ostream* out) { *out << nameOf(tried); }
@@ -26,6 +27,7 @@ std::vector<Case> cases() {
   for (const auto& stage : stages()) {
     all.push_back({stage.name, {100, 1}});
     all.push_back({stage.name, {150, 1}});
+    all.push_back({stage.name, {100, 1, true}});
     if (stage.ordinary) all.push_back({stage.name, {100, 2}});
   }
   return all;

@@ -4,6 +4,7 @@
 
 #include <QFontInfo>
 #include <QGuiApplication>
+#include <QPalette>
 #include <QScreen>
 #include <cmath>
 #include <stdexcept>
@@ -11,6 +12,7 @@
 #include "interface/qml/bridge/ImageBridge.h"
 #include "interface/qml/items/PictureItem.h"
 #include "model/Catalogue.h"
+#include "platform/qt/DesktopSettings.h"
 #include "platform/uikit/UITableView.h"
 #include "platform/uikit/UITableViewCell.h"
 #include "tests/look/WindowItems.h"
@@ -36,6 +38,15 @@ void requireSurroundings(const Surroundings& wanted, const QQuickWindow& window)
   }
 }
 
+void fallNight() {
+  QPalette dark;
+  dark.setColor(QPalette::Window, Qt::black);
+  dark.setColor(QPalette::WindowText, Qt::white);
+  QGuiApplication::setPalette(dark);
+  QCoreApplication::processEvents();
+  if (!DesktopSettings::ofApplication().night()) throw std::runtime_error("night does not fall");
+}
+
 }  // namespace
 
 StageApplication::Prepared::Prepared(const Surroundings& surroundings) {
@@ -48,6 +59,7 @@ StageApplication::Prepared::Prepared(const Surroundings& surroundings) {
 StageApplication::StageApplication(Surroundings surroundings, Pictures pictures, QSize size)
     : prepared_(surroundings), host_(app_.host, app_.server().baseAddress()), pictures_(pictures) {
   requireSurroundings(surroundings, window());
+  if (surroundings.night) fallNight();
   setCurrentHost(&host_);
   serve(pictures);
   resize(size);

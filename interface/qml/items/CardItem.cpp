@@ -26,12 +26,12 @@ void paintShadow(QPainter& painter, const QRectF& card, const CALayer& layer) {
   }
 }
 
-void paintCard(QPainter& painter, const CardLook& card, double rowWidth) {
+void paintCard(QPainter& painter, const CardLook& card, const QColor& color, double rowWidth) {
   const QRectF rect(card.frame.x, card.frame.y, rowWidth - card.frame.x, card.frame.height);
   if (card.layer.shadowOpacity() > 0 && !card.layer.masksToBounds()) {
     paintShadow(painter, rect, card.layer);
   }
-  painter.setBrush(qtColor(*card.layer.backgroundColor()));
+  painter.setBrush(color);
   painter.drawRoundedRect(rect, card.layer.cornerRadius(), card.layer.cornerRadius());
 }
 
@@ -53,13 +53,14 @@ void CardItem::catchUp() {
 QImage CardItem::paint(QSize pixels, double scale) {
   static Painted last;
   if (!last.isOf(*this, pixels, scale)) {
-    last = {looks_, ground(), pixels, scale, painted(pixels, scale)};
+    last = {looks_, ground(), white(), pixels, scale, painted(pixels, scale)};
   }
   return last.image;
 }
 
 bool CardItem::Painted::isOf(const CardItem& item, QSize size, double scaled) const {
-  return pixels == size && scale == scaled && ground == item.ground() && looks == item.looks_;
+  return pixels == size && scale == scaled && ground == item.ground() && white == item.white() &&
+         looks == item.looks_;
 }
 
 QImage CardItem::painted(QSize pixels, double scale) const {
@@ -69,7 +70,8 @@ QImage CardItem::painted(QSize pixels, double scale) const {
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
   painter.scale(scale, scale);
-  for (const auto& look : looks_) paintCard(painter, look, width());
+  for (const auto& look : looks_)
+    paintCard(painter, look, drawnAs(*look.layer.backgroundColor()), width());
   return image;
 }
 

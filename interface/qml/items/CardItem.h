@@ -32,6 +32,7 @@ class CardItem : public leafund::ViewImageItem {
   struct Painted {
     std::vector<CardLook> looks;
     QColor ground;
+    QColor white;
     QSize pixels;
     double scale = 0;
     QImage image;

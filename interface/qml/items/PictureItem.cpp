@@ -29,6 +29,11 @@ bool PictureItem::isDrawn() const {
 FramedPicture PictureItem::wanted(QSize pixels, double scale) const {
   FramedPicture picture = shown_;
   picture.ground = ground();
+  if (shown_.layer.borderColor()) {
+    const QColor border = drawnAs(*shown_.layer.borderColor());
+    picture.layer.setBorderColor(
+        CGColor{border.redF(), border.greenF(), border.blueF(), border.alphaF()});
+  }
   picture.pixels = pixels;
   picture.scale = scale;
   return picture;

@@ -2,6 +2,16 @@
 
 namespace leafund {
 
+ViewImageItem::ViewImageItem(QQuickItem* parent) : ImageItem(parent) {
+  connect(this, &ViewImageItem::tonesChanged, this, &ViewImageItem::repaint);
+}
+
+QColor ViewImageItem::drawnAs(const CGColor& set) const {
+  const QColor color = qtColor(set);
+  if (color == QColor(Qt::black)) return black_;
+  return color == QColor(Qt::white) ? white_ : color;
+}
+
 void ViewImageItem::follow(ViewBridge* view) {
   if (view == view_) return;
   if (view_) disconnect(view_, nullptr, this, nullptr);

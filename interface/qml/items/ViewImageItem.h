@@ -14,17 +14,22 @@ namespace leafund {
 class ViewImageItem : public leafund::ImageItem {
   Q_OBJECT
   QML_ANONYMOUS
+  // What the toolkit's black and white are drawn as; every other colour is drawn as it is set.
+  Q_PROPERTY(QColor black MEMBER black_ NOTIFY tonesChanged FINAL)
+  Q_PROPERTY(QColor white MEMBER white_ NOTIFY tonesChanged FINAL)
   Q_PROPERTY(QColor ground READ ground WRITE setGround NOTIFY groundChanged FINAL)
 
  public:
-  using ImageItem::ImageItem;
+  explicit ViewImageItem(QQuickItem* parent = nullptr);
 
   QColor ground() const { return ground_; }
   void setGround(const QColor& ground);
+  QColor white() const { return white_; }
 
  signals:
   void viewChanged();
   void groundChanged();
+  void tonesChanged();
 
  protected:
   // Takes over what the view shows now, and repaints only where it is something else: a row's view
@@ -33,10 +38,13 @@ class ViewImageItem : public leafund::ImageItem {
   // The bridge of that view is followed from now on; null before, and when it is gone.
   void follow(ViewBridge* view);
   ViewBridge* followed() const { return view_; }
+  QColor drawnAs(const CGColor& set) const;
 
  private:
   QPointer<ViewBridge> view_;
   QColor ground_ = Qt::transparent;
+  QColor black_ = Qt::black;
+  QColor white_ = Qt::white;
 };
 
 }  // namespace leafund

@@ -1,0 +1,118 @@
+#include <gtest/gtest.h>
+
+#include <QElapsedTimer>
+#include <QPalette>
+#include <optional>
+
+#include "platform/qt/DesktopSettings.h"
+#include "tests/window/PrivateBus.h"
+#include "tests/window/WindowApplication.h"
+
+namespace leafund {
+namespace {
+
+using namespace std::chrono_literals;
+
+const QString kAppearance = QStringLiteral("org.freedesktop.appearance");
+const QColor kDay("#f3f7ef");
+const QColor kNight("#10150d");
+
+SettingsPortal::Settings appearance(const char* key, uint value) {
+  return {{kAppearance, {{QString::fromLatin1(key), value}}}};
+}
+
+// The ground of the landing screen, in its corner.
+QColor ground(WindowApplication& app) { return app.window().grabWindow().pixelColor(2, 2); }
+
+class DesktopSettingsTest : public testing::Test {
+ protected:
+  void open(const SettingsPortal::Settings& settings, bool answers = true) {
+    portal.emplace(bus, settings, answers);
+    app.emplace();
+  }
+  bool becomes(const QColor& color) {
+    return app->waitUntil([&] { return ground(*app) == color; });
+  }
+  QColor colorOf(const std::string& name) {
+    return app->require(name).property("color").value<QColor>();
+  }
+
+  PrivateBus bus;
+  std::optional<SettingsPortal> portal;
+  std::optional<WindowApplication> app;
+};
+
+TEST_F(DesktopSettingsTest, ByNightTheFirstFrameIsDark) {
+  open(appearance("color-scheme", 1));
+  EXPECT_EQ(ground(*app), kNight);
+}
+
+TEST_F(DesktopSettingsTest, WhoAsksForNothingHasDay) {
+  open(appearance("color-scheme", 0));
+  EXPECT_EQ(ground(*app), kDay);
+}
+
+TEST_F(DesktopSettingsTest, NightFallsWhileTheAppRuns) {
+  open(appearance("color-scheme", 2));
+  ASSERT_EQ(ground(*app), kDay);
+  portal->change(kAppearance, QStringLiteral("color-scheme"), 1U);
+  EXPECT_TRUE(becomes(kNight));
+  portal->change(kAppearance, QStringLiteral("color-scheme"), 2U);
+  EXPECT_TRUE(becomes(kDay));
+}
+
+TEST_F(DesktopSettingsTest, TheToolkitsBlackIsInkByNightAndBlackByDay) {
+  open(appearance("color-scheme", 1));
+  EXPECT_EQ(colorOf("userEmail"), QColor("#e7efe0"));
+  portal->change(kAppearance, QStringLiteral("color-scheme"), 2U);
+  ASSERT_TRUE(becomes(kDay));
+  EXPECT_EQ(colorOf("userEmail"), QColor(Qt::black));
+}
+
+TEST_F(DesktopSettingsTest, RedIsDrawnAsItIsSetByNightToo) {
+  open(appearance("color-scheme", 1));
+  app->click(app->require("signInButton"));
+  app->settle();
+  EXPECT_EQ(colorOf("userEmail"), QColor(Qt::red));
+}
+
+TEST_F(DesktopSettingsTest, MoreContrastMakesInkBlack) {
+  open(appearance("contrast", 1));
+  EXPECT_EQ(colorOf("brand"), QColor(Qt::black));
+}
+
+TEST_F(DesktopSettingsTest, WithLessMotionNothingSlides) {
+  open(appearance("reduced-motion", 1));
+  EXPECT_EQ(app->page()->property("slideDuration").toInt(), 0);
+}
+
+TEST_F(DesktopSettingsTest, ADesktopWithoutAnimationsAsksForLessMotion) {
+  open({{QStringLiteral("org.gnome.desktop.interface"),
+         {{QStringLiteral("enable-animations"), false}}}});
+  EXPECT_EQ(app->page()->property("slideDuration").toInt(), 0);
+}
+
+TEST_F(DesktopSettingsTest, APortalThatIsLateHoldsNothingUpAndIsHeardLater) {
+  open(appearance("color-scheme", 1), false);
+  EXPECT_EQ(ground(*app), kDay);
+  QElapsedTimer passed;
+  passed.start();
+  DesktopSettings::ofApplication().await(20ms);
+  EXPECT_GE(passed.elapsed(), 20);
+  EXPECT_LT(passed.elapsed(), 1000);
+  portal->answer();
+  EXPECT_TRUE(becomes(kNight));
+}
+
+TEST_F(DesktopSettingsTest, WithoutAPortalTheDesktopsPaletteTells) {
+  app.emplace();
+  ASSERT_EQ(ground(*app), kDay);
+  QPalette dark;
+  dark.setColor(QPalette::Window, Qt::black);
+  dark.setColor(QPalette::WindowText, Qt::white);
+  QGuiApplication::setPalette(dark);
+  EXPECT_TRUE(becomes(kNight));
+}
+
+}  // namespace
+}  // namespace leafund
