@@ -18,13 +18,11 @@ Item {
 
     implicitHeight: column.height
 
-    Rectangle {
+    Paper {
         y: head.portrait / 2
         width: parent.width
         height: parent.height - y
-        radius: Theme.cardRadius
         color: head.reached ? Theme.accentPale : Theme.card
-        border { width: Theme.hairline; color: head.reached ? Theme.accentPale : Theme.seam }
     }
 
     Column {

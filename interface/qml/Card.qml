@@ -1,8 +1,8 @@
 import QtQuick
 import Leafund
 
-// White ground for what belongs together, with its content in a column.
-Rectangle {
+// A sheet of paper with its content in a column.
+Paper {
     id: card
 
     default property alias content: column.data
@@ -10,9 +10,6 @@ Rectangle {
     property real inset: Theme.space
 
     implicitHeight: column.height + 2 * inset
-    radius: Theme.cardRadius
-    color: Theme.card
-    border { width: Theme.hairline; color: Theme.seam }
 
     Column {
         id: column

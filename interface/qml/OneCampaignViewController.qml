@@ -69,7 +69,6 @@ Page {
                 view: page.about
                 heading: true
                 width: parent.width
-                horizontalAlignment: Text.AlignHCenter
                 font { pointSize: Theme.lead; weight: Font.Bold }
             }
             ReadingText {

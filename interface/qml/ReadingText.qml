@@ -9,7 +9,7 @@ Rectangle {
 
     visible: view.visible
     readonly property bool framed: view.borderWidth > 0
-    readonly property real head: framed ? Theme.wide / 2 + Theme.half : 0
+    readonly property real head: framed ? Theme.gap : 0
     implicitHeight: words.implicitHeight + head + Theme.gap
     color: framed ? Theme.card : Theme.none
     border { width: view.borderWidth; color: view.borderColor.hslLightness > 0 ? view.borderColor : Theme.black }
@@ -20,24 +20,5 @@ Rectangle {
         view: area.view
         anchors { fill: parent; margins: Theme.gap; topMargin: area.head }
         lineHeight: 1.35
-    }
-
-    // The seal of a letter, on the line of its frame.
-    Rectangle {
-        anchors.horizontalCenter: parent.horizontalCenter
-        y: -height / 2
-        visible: area.framed
-        width: Theme.wide
-        height: width
-        radius: width / 2
-        color: Theme.card
-        border { width: area.view.borderWidth; color: area.view.borderColor }
-        IconItem {
-            anchors.centerIn: parent
-            width: Theme.icon
-            height: width
-            icon: IconItem.Leaf
-            color: Theme.accent
-        }
     }
 }

@@ -2,7 +2,7 @@ import QtQuick
 import Leafund
 
 // A story of the news: its picture, which comes with the program, its title and its text.
-Rectangle {
+Paper {
     id: story
 
     required property ImageBridge picture
@@ -11,8 +11,6 @@ Rectangle {
     required property url source
 
     implicitHeight: column.implicitHeight
-    radius: Theme.cardRadius
-    color: Theme.card
 
     Column {
         id: column

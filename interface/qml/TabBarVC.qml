@@ -77,7 +77,7 @@ Page {
                 id: browse
                 view: page.browseTab
                 share: row.share
-                icon: IconItem.Search
+                icon: browse.view.selected ? IconItem.SearchFilled : IconItem.Search
                 tint: page.tabBar.tintColor
                 width: row.widthFor(browse)
                 height: parent.height
@@ -86,7 +86,7 @@ Page {
                 id: funded
                 view: page.fundedTab
                 share: row.share
-                icon: IconItem.Heart
+                icon: funded.view.selected ? IconItem.HeartFilled : IconItem.Heart
                 tint: page.tabBar.tintColor
                 width: row.widthFor(funded)
                 height: parent.height
@@ -95,7 +95,7 @@ Page {
                 id: mine
                 view: page.mineTab
                 share: row.share
-                icon: IconItem.Sprout
+                icon: mine.view.selected ? IconItem.SproutFilled : IconItem.Sprout
                 tint: page.tabBar.tintColor
                 width: row.widthFor(mine)
                 height: parent.height
@@ -104,7 +104,7 @@ Page {
                 id: news
                 view: page.newsTab
                 share: row.share
-                icon: IconItem.Paper
+                icon: news.view.selected ? IconItem.PaperFilled : IconItem.Paper
                 tint: page.tabBar.tintColor
                 width: row.widthFor(news)
                 height: parent.height

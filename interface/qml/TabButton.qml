@@ -43,12 +43,20 @@ Pressable {
         anchors.centerIn: parent
         width: parent.width
 
-        IconItem {
+        // The selected tab is told by shape as well: by the field behind its icon, which is filled.
+        Rectangle {
             anchors.horizontalCenter: parent.horizontalCenter
-            width: Theme.icon
-            height: Theme.icon
-            icon: tab.icon
-            color: tab.iconColor
+            width: 2 * height
+            height: Theme.icon + Theme.half
+            radius: height / 2
+            color: tab.view.selected ? Theme.accentPale : Theme.none
+            IconItem {
+                anchors.centerIn: parent
+                width: Theme.icon
+                height: Theme.icon
+                icon: tab.icon
+                color: tab.iconColor
+            }
         }
         Text {
             id: label
