@@ -4,6 +4,7 @@
 #include <array>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <utility>
 
 #include "platform/graphics/PictureHeader.h"
@@ -42,7 +43,12 @@ const char* readerName(Format format) {
 bool decoderAgrees(const std::string& body, const PictureHeader& header) {
   constexpr int believed = 2009;
   if (header.format == Format::GIF && std::max(header.width, header.height) > believed) return true;
-  auto bytes = QByteArray::fromRawData(body.data(), static_cast<qsizetype>(body.size()));
+  // For what a chunk of a PNG claims it makes room, so it is shown the head alone, and that pixels
+  // follow.
+  constexpr std::size_t pngHead = 33;
+  constexpr std::string_view noPixels("\0\0\0\0IDAT\x35\xAF\x06\x1E", 12);
+  const bool png = header.format == Format::PNG;
+  auto bytes = QByteArray::fromStdString(png ? body.substr(0, pngHead).append(noPixels) : body);
   QBuffer buffer(&bytes);
   QImageReader reader(&buffer, readerName(header.format));
   reader.setAutoDetectImageFormat(false);
