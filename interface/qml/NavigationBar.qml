@@ -31,7 +31,12 @@ Rectangle {
         Accessible.role: Accessible.Heading
         Accessible.name: text
 
-        FocusRing { target: title }
+        // Round the words, which may be much shorter than the bar.
+        FocusRing {
+            target: title
+            anchors.leftMargin: -Theme.unit
+            anchors.rightMargin: title.width - title.contentWidth - Theme.unit
+        }
     }
 
     Pressable {
