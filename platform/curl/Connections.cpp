@@ -5,6 +5,7 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 
 namespace leafund {
@@ -71,14 +72,14 @@ void Connections::hadAnswer(const std::string& host, curl_socket_t watched) {
 }
 
 bool Connections::isQuiet(int herePort, int therePort) {
-  for (const auto& [socket, host] : sockets_) {
-    if (portOf(socket, &getsockname) != herePort) continue;
-    if (portOf(socket, &getpeername) != therePort) continue;
+  return std::any_of(sockets_.begin(), sockets_.end(), [&](const auto& open) {
+    const auto& [socket, host] = open;
+    if (portOf(socket, &getsockname) != herePort) return false;
+    if (portOf(socket, &getpeername) != therePort) return false;
     const Heard heard = heardOn(socket);
     if (heard == Heard::Bytes) hosts_[host].manners = Manners::Loud;
     return heard == Heard::Nothing;
-  }
-  return false;
+  });
 }
 
 curl_socket_t Connections::open(const std::string& host, const curl_sockaddr& address) {
