@@ -69,15 +69,13 @@ FocusScope {
         sourceComponent: Component { Medallion { icon: list.emptyIcon } }
     }
 
-    Flickable {
+    ScrollArea {
         id: flickable
         objectName: "table"
         anchors.fill: parent
         contentHeight: list.root.contentHeight
         // Where there is no row that could have the focus.
         activeFocusOnTab: contentHeight === 0
-        boundsBehavior: Flickable.StopAtBounds
-        clip: true
 
         // The item owns the offset. What logic or layout placed anew is taken over once.
         // On its way it may be past an end, where sums are rounded, and goes back by itself; put back, it

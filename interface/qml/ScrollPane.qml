@@ -92,13 +92,11 @@ Item {
             scrollBy((event.key === Qt.Key_PageUp ? -1 : 1) * (height - Theme.step));
     }
 
-    Flickable {
+    ScrollArea {
         id: flickable
         anchors.fill: parent
         contentHeight: Math.max(height, column.height + 2 * Theme.space)
-        boundsBehavior: Flickable.StopAtBounds
         interactive: contentHeight > height
-        clip: true
         onContentHeightChanged: Qt.callLater(pane.keepInSight)
         // By less it is moved by itself: a place between pixels is rounded.
         onContentYChanged: if (Math.abs(contentY - pane.placed) >= 1) pane.told = null

@@ -1,3 +1,5 @@
+#include <QWheelEvent>
+
 #include "model/Catalogue.h"
 #include "tests/window/FingerFixture.h"
 
@@ -83,6 +85,20 @@ TEST_F(GestureTest, AFingerScrollsAtTheEdgeAsElsewhere) {
   touch({10, 500}, {20, 200});
   EXPECT_EQ(screen(), "NewCampaignVC");
   EXPECT_GT(flickable->property("contentY").toDouble(), 50);
+}
+
+// A list caught in a fling could move no further, had no hold of the finger, and was not told that it
+// was lifted.
+TEST_F(GestureTest, AListCaughtAtItsEndLetsGoOfAFingerThatIsLiftedElsewhere) {
+  signIn();
+  const auto& list = app.require("table");
+  QWheelEvent turn({200, 400}, app.window().mapToGlobal(QPointF(200, 400)), {}, {0, -120}, {}, {},
+                   Qt::NoScrollPhase, false);
+  QCoreApplication::sendEvent(&app.window(), &turn);
+  EXPECT_TRUE(list.property("moving").toBool());
+  touch({200, 400}, {200, 820});
+  EXPECT_FALSE(list.property("dragging").toBool());
+  EXPECT_TRUE(app.waitUntil([&] { return !list.property("moving").toBool(); }));
 }
 
 TEST_F(GestureTest, TheGestureEndsTheEditingAsEveryWayBackDoes) {
