@@ -1,7 +1,8 @@
 import QtQuick
 import Leafund
 
-// A table of campaigns. The toolkit says how long it is and which rows are shown where.
+// A table of campaigns. The toolkit says how long it is, in which column, and which rows are shown
+// where; it is scrolled beside the column as well.
 FocusScope {
     id: list
 
@@ -11,9 +12,8 @@ FocusScope {
     readonly property real peek: 48
     property int emptyIcon: IconItem.Leaf
 
-    x: root.x
     y: root.y
-    width: root.width
+    width: parent ? parent.width : 0
     height: root.height
 
     function scrollBy(distance) {
@@ -65,8 +65,15 @@ FocusScope {
     }
     Loader {
         anchors.centerIn: parent
+        width: list.root.width
         active: list.root.contentHeight === 0
-        sourceComponent: Component { Medallion { icon: list.emptyIcon } }
+        sourceComponent: Component {
+            EmptyList {
+                table: list.root
+                icon: list.emptyIcon
+                room: list.height
+            }
+        }
     }
 
     ScrollArea {
@@ -101,7 +108,8 @@ FocusScope {
 
         TableRows {
             id: rows
-            width: flickable.width
+            x: list.root.x
+            width: list.root.width
             height: flickable.contentHeight
             table: list.root
             onRowFocused: row => list.bringIntoSight(row)

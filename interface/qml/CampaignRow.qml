@@ -1,19 +1,21 @@
 import QtQuick
 import Leafund
 
-// A row of a campaign list: on its card a round picture, the title and the pitch.
+// A row of a campaign list: on its card a round picture, the title, the pitch, and a sign that it
+// opens.
 Pressable {
     id: row
 
     required property CellBridge view
-
-    readonly property real inset: Math.max(Theme.gap, (width - Theme.column) / 2)
 
     // A card does not lie in the middle of its row.
     readonly property real cardOffset: 2.5
     readonly property real cardTop: 10
     // What it leaves to title and pitch.
     readonly property real cardRoom: 129
+    // Of a line that the eye can follow, some 76 letters.
+    readonly property real widest: 520
+    readonly property int titleLines: 3
     readonly property int pitchLines: 4
 
     x: view.x
@@ -44,6 +46,10 @@ Pressable {
         font.pointSize: Theme.body
     }
     FontMetrics {
+        id: titleMetrics
+        font: title.font
+    }
+    FontMetrics {
         id: line
         font: pitch.font
     }
@@ -64,31 +70,43 @@ Pressable {
     Picture {
         id: picture
         view: row.view.picture
-        x: row.inset
+        x: Theme.gap
         anchors { verticalCenter: parent.verticalCenter; verticalCenterOffset: row.cardOffset }
         width: view.width
         height: view.height
         Accessible.ignored: true
     }
 
+    IconItem {
+        id: chevron
+        anchors { right: parent.right; rightMargin: Theme.unit }
+        anchors { verticalCenter: parent.verticalCenter; verticalCenterOffset: row.cardOffset }
+        width: Theme.icon
+        height: width
+        icon: IconItem.Forward
+        color: Theme.outline
+    }
+
     Column {
         anchors { left: picture.right; leftMargin: Theme.gap }
-        anchors { right: parent.right; rightMargin: row.inset }
+        anchors { right: chevron.left; rightMargin: Theme.half }
         anchors { verticalCenter: parent.verticalCenter; verticalCenterOffset: row.cardOffset }
         spacing: Theme.half
 
         StillText {
             id: title
-            width: parent.width
+            width: Math.min(parent.width, row.widest)
             text: row.view.title.text
-            maximumLineCount: 2
+            // And a line of the pitch.
+            readonly property real room: row.cardRoom - line.height - Theme.half
+            maximumLineCount: Math.max(1, Math.min(row.titleLines, Math.floor(room / titleMetrics.height)))
             color: Theme.ink
             font { pointSize: row.share * Theme.lead; weight: Font.Bold }
             Accessible.ignored: true
         }
         StillText {
             id: pitch
-            width: parent.width
+            width: Math.min(parent.width, row.widest)
             text: row.view.detail.text
             maximumLineCount: Math.max(1, Math.min(row.pitchLines, Math.floor(room / line.height)))
             readonly property real room: row.cardRoom - title.height - Theme.half

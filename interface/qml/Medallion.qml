@@ -14,7 +14,7 @@ Rectangle {
 
     IconItem {
         anchors.centerIn: parent
-        width: parent.width / 2
+        width: Math.min(parent.width, parent.height) / 2
         height: width
         icon: medallion.icon
         color: Theme.accent

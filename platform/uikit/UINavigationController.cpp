@@ -82,7 +82,7 @@ void UINavigationController::layOutShown() const {
 
 CGRect UINavigationController::rootFrame(const UIViewController& controller) const {
   const double bar = showsBar(controller) ? kBarHeight : 0;
-  return {0, bar, size_.width, std::max(0.0, size_.height - bar)};
+  return controller.rootFrameIn({0, bar, size_.width, std::max(0.0, size_.height - bar)});
 }
 
 }  // namespace leafund

@@ -91,7 +91,7 @@ void UITabContainer::layOut() {
     addSubview(content);
     sendSubviewToBack(content);
   }
-  content->setFrame({0, 0, root.width, barTop});
+  content->setFrame(shown_->rootFrameIn({0, 0, root.width, barTop}));
   shown_->layOut();
 }
 

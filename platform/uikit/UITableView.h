@@ -76,6 +76,14 @@ class UITableView : public UIScrollView {
   double rowHeight() const { return rowHeight_; }
   void setRowHeight(double height) { rowHeight_ = height; }
 
+  // What a host shows where there is no row, a heading and a sentence; it counts as no row.
+  struct EmptyWords {
+    std::string heading;
+    std::string sentence;
+  };
+  const EmptyWords& emptyWords() const { return emptyWords_; }
+  void setEmptyWords(EmptyWords words) { emptyWords_ = std::move(words); }
+
   double contentHeight() const { return contentHeight_; }
   // As far as the content reaches; what lies beyond is not scrolled to.
   double greatestOffset() const;
@@ -99,6 +107,7 @@ class UITableView : public UIScrollView {
   void recycle(const std::shared_ptr<UITableViewCell>& cell);
   void showRow(std::ptrdiff_t row);
 
+  EmptyWords emptyWords_;
   std::weak_ptr<UITableViewDataSource> dataSource_;
   std::weak_ptr<UITableViewDelegate> delegate_;
   std::map<std::string, std::function<std::shared_ptr<UITableViewCell>()>, std::less<>> prototypes_;

@@ -47,6 +47,9 @@ class UIViewController : public UIResponder {
   virtual void viewDidLayoutSubviews() {}
   virtual void didReceiveMemoryWarning() {}
 
+  // Where its root view lies in the room that its container has for it: all of it.
+  virtual CGRect rootFrameIn(CGRect room) const { return room; }
+
   virtual void prepareForSegueSender(UIStoryboardSegue& segue, const Sender& sender);
   // An identifier that does not leave this screen is fatal.
   virtual void performSegueWithIdentifierSender(std::string_view identifier, const Sender& sender);

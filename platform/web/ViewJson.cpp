@@ -57,6 +57,9 @@ void readTab(const UITabBarItem& tab, Json& json) {
 void readTable(const UITableView& table, Json& json) {
   json.number("height", table.contentHeight()).number("offset", table.contentOffset().y);
   json.integer("placements", static_cast<std::ptrdiff_t>(table.placements()));
+  json.number("x", table.frame().x).number("width", table.frame().width);
+  json.text("emptyHeading", table.emptyWords().heading);
+  json.text("emptySentence", table.emptyWords().sentence);
 }
 
 void readPicture(const UIImageView& picture, Json& json) {

@@ -117,7 +117,7 @@ function bind(id, element) {
 const tallest = 16_000_000;  // px; browsers lay out no more than 33 million
 
 function bindTable(element, id) {
-  const space = element.parentElement, box = space.parentElement;
+  const space = element.parentElement, box = space.parentElement, empty = box.nextElementSibling;
   let look = { height: 0, placements: -1 }, shift = 0, last = 0;
   const reach = () => Math.max(0, look.height - box.clientHeight);
   const travel = () => Math.max(0, Math.min(look.height, tallest) - box.clientHeight);
@@ -142,6 +142,11 @@ function bindTable(element, id) {
     look = next;
     element.ariaLabel = look.label;
     space.style.height = `${Math.min(look.height, tallest)}px`;
+    element.style.marginInlineStart = `${look.x}px`;
+    element.style.width = `${look.width}px`;
+    empty.hidden = look.height > 0;
+    empty.firstElementChild.textContent = look.emptyHeading;
+    empty.lastElementChild.textContent = look.emptySentence;
     if (placed) place(look.offset);
     let before = null;
     for (const [row, cell, top, height] of look.rows) {

@@ -157,9 +157,8 @@ bool StageApplication::hasAllPictures() {
 
 bool StageApplication::isAnimated() {
   for (const auto* object : window().findChildren<QObject*>()) {
-    if (object->inherits("QQuickAbstractAnimation") && object->property("running").toBool()) {
-      return true;
-    }
+    const bool moves = object->inherits("QQuickAbstractAnimation") || object->inherits("QQmlTimer");
+    if (moves && object->property("running").toBool()) return true;
   }
   return false;
 }

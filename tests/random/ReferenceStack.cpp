@@ -74,7 +74,8 @@ void ReferenceApp::layOutTop() {
   screen.height = std::max(0.0, height_ - screen.y);
   const auto tab = selectedTab();
   if (!tab) return;
-  tab->width = width_;
+  // A list is a column.
+  tab->width = tab->table ? std::min(720.0, std::max(0.0, width_ - 2 * 16)) : width_;
   tab->height = std::max(0.0, screen.height - kTabBarHeight);
   if (!tab->table) return;
   tab->table->width = tab->width;

@@ -103,12 +103,15 @@ WindowUser::Place WindowUser::placeAt(QPointF where) {
   }
   if (shown.table) {
     const double y = page->y() + top.y;
-    const QRectF list = QRectF(page->x(), y, shown.width, shown.table->height) &
-                        QRectF({0, 0}, app_.window().size());
+    // The rows are a column, and the list is scrolled beside them, too.
+    const double margin = std::floor((top.width - shown.width) / 2);
+    const QRectF list =
+        QRectF(page->x(), y, top.width, shown.table->height) & QRectF({0, 0}, app_.window().size());
     // Below its rows a list keeps a tap to itself, and none of its screens has a use for one.
     place.sure = place.sure && !list.contains(where);
     for (const auto& [row, object] : shown.table->shown) {
-      const QRectF area(page->x(), y + object->top - shown.table->offset, shown.width, kRowHeight);
+      const QRectF area(page->x() + margin, y + object->top - shown.table->offset, shown.width,
+                        kRowHeight);
       consider(area & list, rowWord(static_cast<long>(row)), "");
     }
   }

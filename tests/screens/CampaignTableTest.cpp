@@ -56,7 +56,16 @@ TEST_F(CampaignTableTest, EveryRowIs160HighAlthoughTheTableIsTold100) {
   open("browseTab");
   EXPECT_EQ(table->rowHeight(), 100.0);
   EXPECT_EQ(screen->tableViewHeightForRowAtIndexPath(*table, {3, 0}), 160.0);
-  EXPECT_EQ(cell(1)->frame(), (CGRect{0, 160, 390, 160}));
+  EXPECT_EQ(cell(1)->frame(), (CGRect{0, 160, 358, 160}));
+}
+
+TEST_F(CampaignTableTest, AListIsAColumnInTheMiddle) {
+  open("fundedTab");
+  EXPECT_EQ(table->frame(), (CGRect{16, 0, 358, 724}));
+  app.application->resize({1281, 844});
+  EXPECT_EQ(table->frame(), (CGRect{280, 0, 720, 724}));  // at a whole point
+  app.application->resize({20, 844});
+  EXPECT_EQ(table->frame(), (CGRect{10, 0, 0, 724}));
 }
 
 TEST_F(CampaignTableTest, WhicheverTableAsksTheScreensOwnIsToldTheHeight) {
@@ -89,7 +98,7 @@ TEST_F(CampaignTableTest, AShownRowHasAWhiteCardWithAFaintShadowBehindItsContent
   const auto& content = *cell(0)->contentView();
   EXPECT_EQ(content.layer().backgroundColor(), UIColor::clearColor().CGColor());
   const auto& card = *content.subviews().front();
-  EXPECT_EQ(card.frame(), (CGRect{0, 10, 390, 145}));
+  EXPECT_EQ(card.frame(), (CGRect{0, 10, 358, 145}));
   const CALayer& layer = card.layer();
   EXPECT_EQ(layer.backgroundColor(), (CGColor{1, 1, 1, 1}));
   EXPECT_EQ(layer.cornerRadius(), 2.0);
@@ -109,7 +118,7 @@ TEST_F(CampaignTableTest, ACellShownFiveTimesCarriesFiveCardsBehindItsContent) {
   const auto& subviews = shown->contentView()->subviews();
   ASSERT_EQ(subviews.size(), 5U + 3U);
   for (std::size_t card = 0; card < 5; ++card) {
-    EXPECT_EQ(subviews[card]->frame(), (CGRect{0, 10, 390, 145}));
+    EXPECT_EQ(subviews[card]->frame(), (CGRect{0, 10, 358, 145}));
   }
   EXPECT_EQ(subviews[5], shown->imageView());
 }
@@ -120,8 +129,8 @@ TEST_F(CampaignTableTest, ACardIsAsWideAsTheScreenWhenItsRowWasShown) {
   app.tap("newsTab");
   app.tap("fundedTab");
   const auto& subviews = cell(0)->contentView()->subviews();
-  EXPECT_EQ(subviews[0]->frame(), (CGRect{0, 10, 568, 145}));
-  EXPECT_EQ(subviews[1]->frame(), (CGRect{0, 10, 390, 145}));
+  EXPECT_EQ(subviews[0]->frame(), (CGRect{0, 10, 536, 145}));
+  EXPECT_EQ(subviews[1]->frame(), (CGRect{0, 10, 358, 145}));
 }
 
 TEST_F(CampaignTableTest, NoListScreenEverShowsABackButton) {

@@ -34,5 +34,30 @@ TEST_F(EmptyListTest, AListThatGetsItsFirstRowGivesTheFocusToIt) {
   EXPECT_FALSE(app.require("table").property("activeFocusOnTab").toBool());
 }
 
+TEST_F(EmptyListTest, AListWithoutRowsSaysSoAndWhatToDoAndIsQuietOnceItHasOne) {
+  otherCampaigns().clear();
+  signIn();
+  const auto words = [this](QAccessible::Role role) {
+    QStringList found;
+    std::vector<QQuickItem*> waiting{app.page()};
+    while (!waiting.empty()) {
+      auto* item = waiting.back();
+      waiting.pop_back();
+      if (!item->isVisible()) continue;
+      auto* access = QAccessible::queryAccessibleInterface(item);
+      if (access != nullptr && access->role() == role) found << access->text(QAccessible::Name);
+      for (auto* child : item->childItems()) waiting.push_back(child);
+    }
+    return found;
+  };
+  EXPECT_TRUE(words(QAccessible::Heading).contains("No open campaigns"));
+  EXPECT_TRUE(words(QAccessible::StaticText)
+                  .contains("You have funded every one. Start your own under Mine."));
+  otherCampaigns().push_back(campaignsIFunded()[0]);
+  click("newsTab");
+  click("browseTab");
+  EXPECT_FALSE(words(QAccessible::Heading).contains("No open campaigns"));
+}
+
 }  // namespace
 }  // namespace leafund

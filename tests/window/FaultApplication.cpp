@@ -106,8 +106,10 @@ QQuickItem& FaultApplication::item() {
   throw std::out_of_range("the place has no item");
 }
 
-// Of the item alone and not of the window, so that no slide need be waited for.
+// Of the item alone and not of the window, so that no slide need be waited for, and without the
+// sign that stands there until a picture comes.
 QColor FaultApplication::colour() {
+  for (auto* sign : item().childItems()) sign->setVisible(false);
   EXPECT_TRUE(window.waitUntil([&] { return PictureItem::areDrawn(window.window()); }));
   const auto grabbed = item().grabToImage();
   QImage image;

@@ -87,8 +87,8 @@ TEST_F(GestureTest, AFingerScrollsAtTheEdgeAsElsewhere) {
   EXPECT_GT(flickable->property("contentY").toDouble(), 50);
 }
 
-// A list caught in a fling could move no further, had no hold of the finger, and was not told that it
-// was lifted.
+// A list caught in a fling could move no further, had no hold of the finger, and was not told that
+// it was lifted.
 TEST_F(GestureTest, AListCaughtAtItsEndLetsGoOfAFingerThatIsLiftedElsewhere) {
   signIn();
   const auto& list = app.require("table");

@@ -33,6 +33,15 @@ class ShownPictureTest : public WindowTest {
   }
 };
 
+TEST_F(ShownPictureTest, ARowShowsADrawnSignUntilItsPictureComes) {
+  otherCampaigns()[0]->setPhoto(serve("/red.png", Qt::red));
+  otherCampaigns()[1]->setPhoto(app.server().serve("/never.png", answers::neverAnswers()));
+  signIn();
+  EXPECT_TRUE(comesToShow("abc-0", Qt::red));
+  const QColor sign(0x53, 0x86, 0x2f);
+  EXPECT_TRUE(comesToShow("abc-1", sign));
+}
+
 TEST_F(ShownPictureTest, ARowShowsANewPictureInThePlaceOfTheLast) {
   otherCampaigns()[0]->setPhoto(serve("/red.png", Qt::red));
   signIn();

@@ -17,6 +17,8 @@ CellBridge::CellBridge(const std::shared_ptr<UIView>& view, QObject* parent)
 void TableBridge::read(const UIView& view) {
   ViewBridge::read(view);
   const auto& table = static_cast<const UITableView&>(view);
+  emptyHeading_ = qtText(table.emptyWords().heading);
+  emptySentence_ = qtText(table.emptyWords().sentence);
   contentOffset_ = table.contentOffset().y;
   take(contentHeight_, table.contentHeight(), &TableBridge::contentHeightChanged);
   take(placement_, static_cast<int>(table.placements()), &TableBridge::placementChanged);

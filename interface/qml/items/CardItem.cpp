@@ -9,6 +9,8 @@ namespace leafund {
 namespace {
 
 constexpr double kShadowBlur = 3;  // points; the toolkit's layers have no other
+// How far the shadow reaches beyond the row at either side, in points.
+constexpr double kReach = 4;
 
 // A blurred shadow as rings of growing size that lie on one another, a pixel apart: their common
 // alpha falls from the shadow's opacity inside to nothing outside.
@@ -48,6 +50,8 @@ void CardItem::catchUp() {
   repaint();
 }
 
+QRectF CardItem::imageRect() const { return boundingRect().adjusted(-kReach, 0, kReach, 0); }
+
 // The cards of a list look alike: what was painted for one row serves the next, and their frames
 // read one image instead of as many as there are rows in sight.
 QImage CardItem::paint(QSize pixels, double scale) {
@@ -70,6 +74,7 @@ QImage CardItem::painted(QSize pixels, double scale) const {
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
   painter.scale(scale, scale);
+  painter.translate(kReach, 0);
   for (const auto& look : looks_)
     paintCard(painter, look, drawnAs(*look.layer.backgroundColor()), width());
   return image;

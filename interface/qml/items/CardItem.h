@@ -12,6 +12,7 @@ namespace leafund {
 // The cards that lie behind a row, with their shadows, on the ground of the list. Opaque, so that
 // nothing beneath it has to be drawn. A card keeps the width that the screen had when it was laid
 // down; in the window each spans the row, so that a list stays whole when its window is widened.
+// Their shadows lie beyond the row at both sides.
 class CardItem : public leafund::ViewImageItem {
   Q_OBJECT
   QML_ELEMENT
@@ -25,6 +26,7 @@ class CardItem : public leafund::ViewImageItem {
 
  protected:
   QImage paint(QSize pixels, double scale) override;
+  QRectF imageRect() const override;  // with the shadow at both sides
   void catchUp() override;
 
  private:

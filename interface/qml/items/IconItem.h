@@ -28,6 +28,7 @@ class IconItem : public leafund::ImageItem {
     Paper,
     PaperFilled,
     Back,
+    Forward,
     Flag,
     Alert,
     HillFar,

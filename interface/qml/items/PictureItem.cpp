@@ -66,8 +66,10 @@ void PictureItem::ask(const FramedPicture& picture) {
 }
 
 void PictureItem::draw(const FramedPicture& picture, QImage image) {
+  const bool hadPicture = hasPicture();
   drawn_ = picture;
   drawing_ = std::move(image);
+  if (hasPicture() != hadPicture) emit hasPictureChanged();
 }
 
 void PictureItem::itemChange(ItemChange change, const ItemChangeData& data) {

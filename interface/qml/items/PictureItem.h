@@ -17,6 +17,8 @@ class PictureItem : public leafund::ViewImageItem {
   Q_OBJECT
   QML_ELEMENT
   Q_PROPERTY(leafund::ImageBridge* view READ view WRITE setView NOTIFY viewChanged REQUIRED FINAL)
+  // Whether a picture is drawn, and not the ground alone.
+  Q_PROPERTY(bool hasPicture READ hasPicture NOTIFY hasPictureChanged FINAL)
 
  public:
   using ViewImageItem::ViewImageItem;
@@ -27,6 +29,11 @@ class PictureItem : public leafund::ViewImageItem {
   // Whether no picture in sight on the window waits to be painted: the next frame draws what the
   // views show.
   static bool areDrawn(const QQuickWindow& window);
+
+  bool hasPicture() const { return drawn_.image != nullptr; }
+
+ signals:
+  void hasPictureChanged();
 
  protected:
   QImage paint(QSize pixels, double scale) override;
