@@ -34,11 +34,11 @@ Column {
         view: funds.bar
         width: parent.width
     }
-    // Raised on the left, the goal behind its flag at the end of the bar, or below where they are
+    // Raised on the left, the goal behind its word at the end of the bar, or below where they are
     // too wide. A sum wider than the card goes on in the next line.
     Item {
         id: sums
-        readonly property bool stacked: raised.width + flag.width + goal.width + 2 * Theme.unit > width
+        readonly property bool stacked: raised.width + word.width + goal.width + 2 * Theme.unit > width
         width: parent.width
         height: stacked ? goal.y + goal.height : raised.height
         visible: funds.raised.visible || funds.goal.visible
@@ -50,21 +50,23 @@ Column {
             color: Theme.accentDeep
             font { pointSize: Theme.lead; weight: Font.Bold }
         }
-        IconItem {
-            id: flag
-            anchors { right: goal.left; rightMargin: Theme.half }
-            y: goal.y + (goal.height / Math.max(1, goal.lineCount) - height) / 2
-            width: Theme.gap
-            height: Theme.gap
-            icon: IconItem.Flag
-            color: Theme.accent
+        // A reader hears it with the sum.
+        Text {
+            id: word
+            anchors { right: goal.left; rightMargin: Theme.half; baseline: goal.baseline }
+            visible: goal.visible
+            text: funds.goal.accessibleName
+            textFormat: Text.PlainText
+            color: Theme.quiet
+            font.pointSize: Theme.body
+            Accessible.ignored: true
         }
         Words {
             id: goal
             view: funds.goal
             anchors.right: parent.right
             y: sums.stacked ? raised.height : (raised.height - height) / 2
-            width: Math.min(implicitWidth, parent.width - flag.width - Theme.half)
+            width: Math.min(implicitWidth, parent.width - word.width - Theme.half)
             wrapMode: Text.WrapAnywhere
             horizontalAlignment: Text.AlignRight
             font.weight: Font.DemiBold

@@ -23,6 +23,7 @@ Page {
 
     ScrollPane {
         root: page.root
+        anchors.bottomMargin: pin.height
 
         CampaignHead {
             picture: page.campaignImage
@@ -51,9 +52,11 @@ Page {
                 width: parent.width
             }
         }
-        Button {
-            view: page.fundButton
+        Item {
+            id: place
             width: parent.width
+            height: fund.height
+            visible: page.fundButton.visible && !pin.visible
         }
         Button {
             view: page.campaignUpdates
@@ -79,5 +82,32 @@ Page {
 
         Unseen { view: page.campaignPhoto }
         Unseen { view: page.campaignDescription }
+    }
+
+    // In a low window, as above a keyboard, the button stays in sight at the lower edge. In the lowest
+    // it would leave too little of the page.
+    Rectangle {
+        id: pin
+
+        readonly property bool low: page.height < Theme.lowWindow && page.height >= Theme.lowestWindow
+
+        anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
+        height: visible ? fund.height + 2 * Theme.unit : 0
+        visible: page.fundButton.visible && low
+        color: Theme.card
+
+        Rectangle {
+            width: parent.width
+            height: Theme.hairline
+            color: Theme.outline
+        }
+    }
+    Button {
+        id: fund
+        parent: pin.low ? pin : place
+        view: page.fundButton
+        x: (parent.width - width) / 2
+        y: pin.low ? Theme.unit : 0
+        width: pin.low ? Math.min(Theme.column, parent.width - 2 * Theme.gap) : parent.width
     }
 }

@@ -20,10 +20,12 @@ Page {
             Column {
                 x: Theme.gap
                 width: parent.width - 2 * x
-                topPadding: Theme.gap
+                topPadding: page.test.text ? Theme.gap : 0
                 Title {
                     view: page.test
                     width: parent.width
+                    height: text ? whole : 0
+                    readonly property real whole: implicitHeight
                 }
                 Words {
                     view: page.updateOneDate
@@ -36,6 +38,7 @@ Page {
             }
             Picture {
                 view: page.updateOneImage
+                round: false
                 width: parent.width
                 height: width * 0.75  // as the pictures are drawn: nothing of an infographic is cut off
             }

@@ -61,6 +61,29 @@ class InSightTest : public testing::TestWithParam<int> {
   }
 };
 
+TEST_P(InSightTest, InALowWindowTheButtonThatFundsStaysAtTheLowerEdgeAndWorksThere) {
+  signIn();
+  click("abc-0");
+  const auto bottom = [this] {
+    const auto& button = app.require("FundButton");
+    return button.mapRectToScene(button.boundingRect()).bottom();
+  };
+  for (const int height : {699, kShortHeight, 320}) {
+    resizeTo(height);
+    EXPECT_EQ(bottom(), height - 8);
+  }
+  const double fixed = bottom();
+  QTest::keyClick(&app.window(), Qt::Key_PageDown);
+  EXPECT_EQ(bottom(), fixed);
+  // Lower still it would leave too little of the page, and in a high window it follows the amount.
+  resizeTo(319);
+  EXPECT_GT(bottom(), 319);
+  resizeTo(kShortHeight);
+  type("dollarAmountField", "5");
+  click("FundButton");
+  EXPECT_EQ(app.shown()->className(), "ConfirmPageVC");
+}
+
 TEST_P(InSightTest, EveryInputOfEveryFormWhenTheWindowGetsShorter) {
   ASSERT_EQ(app.window().screen()->logicalDotsPerInch(), GetParam());
   expectInSightOfAShorterWindow({"userEmail", "password"});

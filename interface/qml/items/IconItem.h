@@ -29,7 +29,6 @@ class IconItem : public leafund::ImageItem {
     PaperFilled,
     Back,
     Forward,
-    Flag,
     Alert,
     HillFar,
     HillNear,
