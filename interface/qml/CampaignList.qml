@@ -44,17 +44,21 @@ FocusScope {
             flickable.forceActiveFocus(Qt.ActiveWindowFocusReason);
     }
 
-    function turnPage(direction) {
-        scrollBy(direction * (height - Theme.step));
+    function leap(distance) {
+        scrollBy(distance);
         settleFocus();
     }
+    readonly property real pageHeight: height - Theme.step
 
     Keys.onUpPressed: scrollBy(-Theme.step)
     Keys.onDownPressed: scrollBy(Theme.step)
     Keys.onPressed: event => {
-        event.accepted = event.key === Qt.Key_PageUp || event.key === Qt.Key_PageDown;
+        const all = root.contentHeight;
+        const ways = new Map([[Qt.Key_PageUp, -pageHeight], [Qt.Key_PageDown, pageHeight],
+                              [Qt.Key_Home, -all], [Qt.Key_End, all]]);
+        event.accepted = ways.has(event.key);
         if (event.accepted)
-            turnPage(event.key === Qt.Key_PageUp ? -1 : 1);
+            leap(ways.get(event.key));
     }
 
     // Where the rows end early the ground is not left bare.
@@ -103,8 +107,8 @@ FocusScope {
 
         Accessible.role: Accessible.List
         Accessible.name: list.root.accessibleName
-        Accessible.onNextPageAction: list.turnPage(1)
-        Accessible.onPreviousPageAction: list.turnPage(-1)
+        Accessible.onNextPageAction: list.leap(list.pageHeight)
+        Accessible.onPreviousPageAction: list.leap(-list.pageHeight)
 
         TableRows {
             id: rows

@@ -21,9 +21,16 @@ Rectangle {
     // Empty and unfocused: the caption stands where the text will.
     readonly property bool resting: !userIsIn && empty
 
+    // As much afloat as at rest, so that nothing moves when the caption does.
+    readonly property real captionRoom: caption.lineCount * captionLine.height
+    FontMetrics {
+        id: captionLine
+        font.pointSize: Theme.body
+    }
+
     visible: bridge.visible
     implicitHeight: Math.max(Theme.target,
-                             caption.height + input.height + 2 * Theme.unit + Theme.half)
+                             captionRoom + input.height + 2 * Theme.unit + Theme.half)
     radius: Theme.radius
     color: Theme.card
     border {
@@ -94,14 +101,26 @@ Rectangle {
         id: caption
         readonly property real drop: (Math.min(box.height, box.restHeight) - height) / 2
         anchors { left: parent.left; right: parent.right }
-        anchors { leftMargin: Theme.gap; rightMargin: Theme.gap }
+        anchors { leftMargin: Theme.gap; rightMargin: Theme.gap + (sign.visible ? sign.width : 0) }
         y: box.resting ? Math.max(Theme.unit, drop) : Theme.unit
         text: box.bridge.placeholder
         textFormat: Text.PlainText
         wrapMode: Text.Wrap
         color: Theme.quiet
-        font.pointSize: Theme.small
+        font.pointSize: box.resting ? Theme.body : Theme.small
         Accessible.ignored: true
+    }
+
+    // Of a message in the input; a label beside it has its own.
+    IconItem {
+        id: sign
+        anchors { right: parent.right; rightMargin: Theme.unit }
+        y: Theme.half
+        visible: box.wrong && !box.reason
+        width: Theme.icon
+        height: width
+        icon: IconItem.Alert
+        color: Theme.alert
     }
 
     // A message in the input is read out when it comes, wherever the user is.
@@ -119,6 +138,6 @@ Rectangle {
         anchors { left: parent.left; right: parent.right }
         anchors { top: parent.top; bottom: parent.bottom }
         anchors { leftMargin: Theme.gap; rightMargin: Theme.gap }
-        anchors { topMargin: Theme.unit + caption.height + Theme.half; bottomMargin: Theme.unit }
+        anchors { topMargin: Theme.unit + box.captionRoom + Theme.half; bottomMargin: Theme.unit }
     }
 }

@@ -45,10 +45,13 @@ Page {
         Item { width: parent.width; height: Theme.unit }
         TextEntry {
             view: page.userEmail
+            next: password
             width: parent.width
         }
         TextEntry {
+            id: password
             view: page.password
+            next: password
             width: parent.width
         }
         Button {

@@ -14,40 +14,51 @@ Page {
     required property TextViewBridge emailInvite
     required property ButtonBridge createButton
 
+    // Who, what, for how much, and with whom: groups by the space between them.
     ScrollPane {
         root: page.root
+        spacing: Theme.groups
+
         TextEntry {
             view: page.nameOfCreator
             width: parent.width
         }
-        TextEntry {
-            view: page.nameOfCampaign
+        Column {
             width: parent.width
-        }
-        TextArea {
-            view: page.shortDescription
-            width: parent.width
-        }
-        TextArea {
-            view: page.fullDescription
-            width: parent.width
+            spacing: Theme.gap
+            TextEntry {
+                view: page.nameOfCampaign
+                width: parent.width
+            }
+            TextArea {
+                view: page.shortDescription
+                width: parent.width
+            }
+            TextArea {
+                view: page.fullDescription
+                width: parent.width
+            }
         }
         Column {
             width: parent.width
-            spacing: Theme.unit
+            spacing: Theme.gap
+            Column {
+                width: parent.width
+                spacing: Theme.unit
+                TextEntry {
+                    view: page.desiredFunding
+                    reason: page.moneyErrorField
+                    width: parent.width
+                }
+                ErrorWords {
+                    view: page.moneyErrorField
+                    width: parent.width
+                }
+            }
             TextEntry {
-                view: page.desiredFunding
-                reason: page.moneyErrorField
+                view: page.imageURL
                 width: parent.width
             }
-            ErrorWords {
-                view: page.moneyErrorField
-                width: parent.width
-            }
-        }
-        TextEntry {
-            view: page.imageURL
-            width: parent.width
         }
         TextArea {
             view: page.emailInvite

@@ -32,14 +32,19 @@ Page {
         Item { width: parent.width; height: Theme.half }
         TextEntry {
             view: page.nameField
+            next: password
             width: parent.width
         }
         TextEntry {
+            id: password
             view: page.passwordField
+            next: again
             width: parent.width
         }
         TextEntry {
+            id: again
             view: page.passwordConfirmField
+            next: again
             width: parent.width
         }
         Button {

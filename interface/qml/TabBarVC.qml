@@ -80,6 +80,7 @@ Page {
                 icon: browse.view.selected ? IconItem.SearchFilled : IconItem.Search
                 tint: page.tabBar.tintColor
                 width: row.widthFor(browse)
+                KeyNavigation.right: funded
                 height: parent.height
             }
             TabButton {
@@ -89,6 +90,8 @@ Page {
                 icon: funded.view.selected ? IconItem.HeartFilled : IconItem.Heart
                 tint: page.tabBar.tintColor
                 width: row.widthFor(funded)
+                KeyNavigation.left: browse
+                KeyNavigation.right: mine
                 height: parent.height
             }
             TabButton {
@@ -98,6 +101,8 @@ Page {
                 icon: mine.view.selected ? IconItem.SproutFilled : IconItem.Sprout
                 tint: page.tabBar.tintColor
                 width: row.widthFor(mine)
+                KeyNavigation.left: funded
+                KeyNavigation.right: news
                 height: parent.height
             }
             TabButton {
@@ -107,6 +112,7 @@ Page {
                 icon: news.view.selected ? IconItem.PaperFilled : IconItem.Paper
                 tint: page.tabBar.tintColor
                 width: row.widthFor(news)
+                KeyNavigation.left: mine
                 height: parent.height
             }
         }

@@ -6,6 +6,9 @@ EntryBox {
     id: entry
 
     required property TextFieldBridge view
+    // Where Return leads: to an input, or to itself where it is the last of several. Null where the
+    // screen sees to it.
+    property EntryBox next: null
 
     bridge: view
     input: field
@@ -82,7 +85,13 @@ EntryBox {
                 takeOneLine();
             entry.view.edit(text);
         }
-        onAccepted: entry.view.pressReturn()
+        onAccepted: {
+            entry.view.pressReturn();
+            if (entry.next === entry)
+                entry.view.endEditing();
+            else if (entry.next)
+                entry.next.input.forceActiveFocus(Qt.TabFocusReason);
+        }
 
         Accessible.role: Accessible.EditableText
         Accessible.name: entry.view.accessibleName

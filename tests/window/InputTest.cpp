@@ -129,6 +129,27 @@ TEST_F(InputTest, ReturnLeavesAFieldOfTheFormAndMakesANewLineInATextView) {
   EXPECT_EQ(app.shown()->className(), "NewCampaignVC");
 }
 
+TEST_F(InputTest, ReturnLeadsFromInputToInputAndEndsInTheLast) {
+  const auto expectWalk = [this](const std::vector<std::string>& inputs) {
+    click(inputs.front());
+    for (const auto& name : inputs) {
+      EXPECT_TRUE(app.require(name).hasActiveFocus()) << name;
+      const auto editing = app.application->firstResponder();
+      ASSERT_NE(editing, nullptr) << name;
+      EXPECT_EQ(editing->name(), name);
+      app.press(Qt::Key_Return);
+      app.settle();
+    }
+    EXPECT_EQ(app.application->firstResponder(), nullptr);
+    EXPECT_FALSE(app.require(inputs.back()).hasActiveFocus());
+  };
+  expectWalk({"userEmail", "password"});
+  EXPECT_EQ(app.shown()->className(), "LandingPageVC");
+  click("signUpButton");
+  expectWalk({"nameField", "passwordField", "passwordConfirmField"});
+  EXPECT_EQ(app.shown()->className(), "SignUpVC");
+}
+
 TEST_F(InputTest, ReturnNeverSubmits) {
   type("userEmail", "a");
   type("password", "b");

@@ -61,5 +61,31 @@ TEST_F(RowFocusTest, AListThatIsScrolledInAnInactiveWindowKeepsTheFocusOnARowInS
   EXPECT_EQ(app.shown()->className(), "OneCampaignViewController") << name;
 }
 
+TEST_F(RowFocusTest, HomeAndEndLeadToTheEndsOfAList) {
+  signIn();
+  app.press(Qt::Key_End);
+  app.settle();
+  const auto& list = app.require("table");
+  const double last = list.property("contentHeight").toDouble() - list.height();
+  EXPECT_EQ(list.property("contentY").toDouble(), last);
+  app.press(Qt::Key_Home);
+  app.settle();
+  EXPECT_EQ(list.property("contentY").toDouble(), 0);
+}
+
+TEST_F(RowFocusTest, ArrowsLeadFromTabToTabAndChooseNone) {
+  signIn();
+  app.require("browseTab").forceActiveFocus(Qt::TabFocusReason);
+  for (const char* name : {"fundedTab", "mineTab", "newsTab"}) {
+    app.press(Qt::Key_Right);
+    EXPECT_TRUE(app.require(name).hasActiveFocus()) << name;
+  }
+  app.press(Qt::Key_Right);
+  app.press(Qt::Key_Left);
+  EXPECT_TRUE(app.require("mineTab").hasActiveFocus());
+  app.settle();
+  EXPECT_EQ(app.shown()->className(), "OtherCampaignsTableViewController");
+}
+
 }  // namespace
 }  // namespace leafund
