@@ -85,6 +85,8 @@ EntryBox {
                 takeOneLine();
             entry.view.edit(text);
         }
+        EnterKey.type: entry.next === entry ? Qt.EnterKeyDone
+                                            : entry.next ? Qt.EnterKeyNext : Qt.EnterKeyDefault
         onAccepted: {
             entry.view.pressReturn();
             if (entry.next === entry)

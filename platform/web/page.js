@@ -46,6 +46,11 @@ function writeText(element, look) {
   element.prepend(label);
 }
 
+function inputAfter(input) {
+  const all = [...input.closest(".screen").querySelectorAll("input")];
+  return all[all.indexOf(input) + 1];
+}
+
 const bindings = {
   LABEL(element, id) {
     const input = element.querySelector("input, textarea"), caption = element.querySelector("span");
@@ -57,8 +62,12 @@ const bindings = {
     input.addEventListener("blur", () => document.hasFocus() && tell("endEditing", id));
     input.addEventListener("input", () => tell("edit", id, ...given(encoder.encode(input.value))));
     if (input.tagName === "INPUT")
-      input.addEventListener("keydown", event =>
-        event.key === "Enter" && !event.isComposing && tell("pressReturn", id));
+      input.addEventListener("keydown", event => {
+        if (event.key !== "Enter" || event.isComposing) return;
+        tell("pressReturn", id);
+        if (input.enterKeyHint === "next") inputAfter(input).focus();
+        if (input.enterKeyHint === "done") input.blur();
+      });
     let announced = "";
     return look => {
       caption.textContent = look.placeholder;

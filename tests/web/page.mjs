@@ -116,6 +116,25 @@ const tests = {
     await shown(page, "OneCampaignViewController");
     expect(await page.evaluate(() => window.taps) === 1, "one click alone gets through");
   },
+  async returnLeadsFromInputToInputAndEndsInTheLast({ page, app }) {
+    const inFocus = () => page.evaluate(() => document.activeElement.closest("[data-view]")?.dataset.view ?? "none");
+    await app.type("userEmail", "wren@example.org");
+    await page.keyboard.press("Enter");
+    expect(await inFocus() === "password", `the next input, not ${await inFocus()}`);
+    await page.keyboard.press("Enter");
+    expect(await inFocus() === "none", `no input, not ${await inFocus()}`);
+    await shown(page, "LandingPageVC");
+  },
+  async aListIsAColumnInTheMiddle({ page, app }) {
+    await signIn(app);
+    await shown(page, "OtherCampaignsTableViewController");
+    for (const [width, left, right] of [[390, 16, 374], [1280, 280, 1000]]) {
+      await app.resize(width, 800);
+      const row = await page.$eval("section:not([hidden]) li:not([hidden])", each => each.getBoundingClientRect().toJSON());
+      expect(row.left === left && row.right === right, `at ${width} from ${left} to ${right}, not ${row.left} to ${row.right}`);
+    }
+    expect(await page.$eval(".empty", each => each.hidden), "it is not empty");
+  },
   async nothingIsStored({ page, app }) {
     await signIn(app);
     const kept = await page.evaluate(async () => [document.cookie, localStorage.length, sessionStorage.length,
