@@ -73,6 +73,16 @@ Page {
             anchors.horizontalCenter: parent.horizontalCenter
             height: parent.height
 
+            // With Alt they lead back, as everywhere.
+            Keys.onPressed: event => {
+                const step = { [Qt.Key_Left]: -1, [Qt.Key_Right]: 1 }[event.key];
+                const tabs = [browse, funded, mine, news];
+                const next = tabs[tabs.findIndex(tab => tab.activeFocus) + (step ?? NaN)];
+                event.accepted = next !== undefined && !(event.modifiers & Qt.AltModifier);
+                if (event.accepted)
+                    next.forceActiveFocus(Qt.TabFocusReason);
+            }
+
             TabButton {
                 id: browse
                 view: page.browseTab
@@ -80,7 +90,6 @@ Page {
                 icon: browse.view.selected ? IconItem.SearchFilled : IconItem.Search
                 tint: page.tabBar.tintColor
                 width: row.widthFor(browse)
-                KeyNavigation.right: funded
                 height: parent.height
             }
             TabButton {
@@ -90,8 +99,6 @@ Page {
                 icon: funded.view.selected ? IconItem.HeartFilled : IconItem.Heart
                 tint: page.tabBar.tintColor
                 width: row.widthFor(funded)
-                KeyNavigation.left: browse
-                KeyNavigation.right: mine
                 height: parent.height
             }
             TabButton {
@@ -101,8 +108,6 @@ Page {
                 icon: mine.view.selected ? IconItem.SproutFilled : IconItem.Sprout
                 tint: page.tabBar.tintColor
                 width: row.widthFor(mine)
-                KeyNavigation.left: funded
-                KeyNavigation.right: news
                 height: parent.height
             }
             TabButton {
@@ -112,7 +117,6 @@ Page {
                 icon: news.view.selected ? IconItem.PaperFilled : IconItem.Paper
                 tint: page.tabBar.tintColor
                 width: row.widthFor(news)
-                KeyNavigation.left: mine
                 height: parent.height
             }
         }

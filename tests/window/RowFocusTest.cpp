@@ -87,5 +87,13 @@ TEST_F(RowFocusTest, ArrowsLeadFromTabToTabAndChooseNone) {
   EXPECT_EQ(app.shown()->className(), "OtherCampaignsTableViewController");
 }
 
+// It leads back there as everywhere, or would if a way led back from the tabs.
+TEST_F(RowFocusTest, WithAltAnArrowLeadsToNoOtherTab) {
+  signIn();
+  app.require("newsTab").forceActiveFocus(Qt::TabFocusReason);
+  QTest::keyClick(&app.window(), Qt::Key_Left, Qt::AltModifier);
+  EXPECT_TRUE(app.require("newsTab").hasActiveFocus());
+}
+
 }  // namespace
 }  // namespace leafund
