@@ -47,11 +47,13 @@ class HeldMessages {
     held_.push_back({type, context.category, text});
   }
 
-  // Qt's last words are of plugins, whichever it tried; what one of them warned of says more.
+  // Qt's last words are of plugins, whichever it tried; what one of them warned of says more, but
+  // not what it needs to be loaded, which newer versions remind of always.
   static QString reasonOf(const QString& last) {
     if (!last.contains(QLatin1String("platform plugin"))) return last;
     const auto warning = std::find_if(held_.rbegin(), held_.rend(), [](const Message& each) {
-      return each.type == QtWarningMsg || each.type == QtCriticalMsg;
+      return (each.type == QtWarningMsg || each.type == QtCriticalMsg) &&
+             !each.text.contains(QLatin1String("is needed to load"));
     });
     return warning == held_.rend() ? last : warning->text;
   }

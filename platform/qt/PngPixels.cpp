@@ -9,6 +9,10 @@ namespace leafund {
 
 namespace {
 
+// Of the file to that of the light, as far as it is believed.
+constexpr double kLeastGamma = 16e-5;
+constexpr double kMostGamma = 6250;
+
 class PngDecoder {
  public:
   explicit PngDecoder(const std::stop_token& stop) : stop_(stop) {}
@@ -89,6 +93,8 @@ class PngDecoder {
     double gamma = 0;
     if (png_get_valid(png_, info_, PNG_INFO_sRGB) != 0) return {};
     if (png_get_gAMA(png_, info_, &gamma) == 0) return {};
+    // Some versions of the library leave out what no screen ever had, and all decoders do.
+    if (gamma < kLeastGamma || gamma > kMostGamma) return {};
     // Most write 1 / 2.2 and mean sRGB.
     const bool isAsSRgb = std::abs(gamma * 2.2 - 1) < PNG_GAMMA_THRESHOLD;
     ColourTransform::Primaries told;

@@ -20,7 +20,7 @@ QUrl SourceSkins::intercept(const QUrl& url, DataType) {
   // What is said relative to a skin in the folder stands beside the skins in the program.
   const bool beside =
       url.isLocalFile() && QFileInfo(url.toLocalFile()).absolutePath() == folder_.absolutePath();
-  if (!skin && beside) return QUrl(kModule + name);
+  if (beside && !folder_.exists(name)) return QUrl(kModule + name);
   return url;
 }
 

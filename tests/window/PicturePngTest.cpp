@@ -146,7 +146,10 @@ TEST(PicturePngTest, ItsGammaCountsUnlessItIsSRgb) {
   EXPECT_NEAR(lightOf(linear), 128, 1);  // 1.055 * (55 / 255) ^ (1 / 2.4) - 0.055, of 255
   EXPECT_EQ(lightOf(chunk("gAMA", big32(45'455))), 55);
   EXPECT_EQ(lightOf(chunk("sRGB", byte(0)) + linear), 55);
-  EXPECT_EQ(lightOf(chunk("gAMA", big32(0))), 55);
+  // None that a screen could have.
+  for (const unsigned gamma : {0U, 1U, 15U, 625'000'001U, 0x7fffffffU}) {
+    EXPECT_EQ(lightOf(chunk("gAMA", big32(gamma))), 55) << gamma;
+  }
 }
 
 }  // namespace
