@@ -96,11 +96,13 @@ class Walk:
         self.window.touch("key", "alt+Left")
 
     def by_drag(self):
+        self.window.still_middle("Back")  # in the middle of a slide the page's edge is elsewhere
         # At a hand's pace: in less than a frame no drag is seen.
         ways = [("mousemove", x, 300, "sleep", 0.02) for x in range(6, 240, 18)]
         self.window.touch(*ways[0], "mousedown", 1, *itertools.chain(*ways[1:]), "mouseup", 1)
 
     def by_finger(self):
+        self.window.still_middle("Back")
         self.draw((6, 300), (240, 310))
 
     def tap_twice(self):
@@ -136,7 +138,7 @@ class Walk:
         """Opens a campaign and types an amount."""
         rows = self.rows_at_rest()
         name = max(rows, key=lambda each: self.seen(rows[each])[1] - self.seen(rows[each])[0])
-        self.window.touch("mousemove", 200, self.seen_middle(rows[name]), "click", 1)
+        self.window.touch("mousemove", self.window.width // 2, self.seen_middle(rows[name]), "click", 1)
         self.window.type_into("Amount in dollars", "1")
 
     def fund(self, options=()):
