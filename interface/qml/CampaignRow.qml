@@ -11,6 +11,7 @@ Pressable {
     // A card does not lie in the middle of its row.
     readonly property real cardOffset: 2.5
     readonly property real cardTop: 10
+    readonly property real cardBottom: cardTop - 2 * cardOffset
     // What it leaves to title and pitch.
     readonly property real cardRoom: 129
     // Of a line that the eye can follow, some 76 letters.
@@ -23,7 +24,9 @@ Pressable {
     width: view.width
     height: view.height
     visible: view.visible
-    ringOutset: -Theme.half
+    // Round the card.
+    ringOutsetTop: Theme.half - cardTop
+    ringOutsetBottom: Theme.half - cardBottom
     steady: true
 
     onPressed: view.tap()
@@ -62,7 +65,7 @@ Pressable {
     }
 
     Rectangle {
-        anchors { fill: parent; topMargin: row.cardTop; bottomMargin: row.cardTop - 2 * row.cardOffset }
+        anchors { fill: parent; topMargin: row.cardTop; bottomMargin: row.cardBottom }
         visible: row.held
         color: Theme.veil
     }

@@ -5,9 +5,11 @@ import Leafund
 Rectangle {
     property alias target: watch.target
     property real outset: Theme.half
+    property real outsetTop: outset
+    property real outsetBottom: outset
 
     anchors.fill: parent
-    anchors.margins: -outset
+    anchors { margins: -outset; topMargin: -outsetTop; bottomMargin: -outsetBottom }
     visible: watch.ring
     color: Theme.none
     border { width: Theme.ringWidth; color: Theme.accentDeep }

@@ -11,6 +11,8 @@ Item {
     // In a list a finger that is drawn along wants to scroll, even where the list has ended.
     property bool steady: false
     property alias ringOutset: ring.outset
+    property alias ringOutsetTop: ring.outsetTop
+    property alias ringOutsetBottom: ring.outsetBottom
 
     activeFocusOnTab: true
 

@@ -75,9 +75,10 @@ Page {
 
             // With Alt they lead back, as everywhere.
             Keys.onPressed: event => {
-                const step = { [Qt.Key_Left]: -1, [Qt.Key_Right]: 1 }[event.key];
                 const tabs = [browse, funded, mine, news];
-                const next = tabs[tabs.findIndex(tab => tab.activeFocus) + (step ?? NaN)];
+                const at = tabs.findIndex(tab => tab.activeFocus);
+                const next = event.key === Qt.Key_Right ? tabs[at + 1]
+                           : event.key === Qt.Key_Left ? tabs[at - 1] : undefined;
                 event.accepted = next !== undefined && !(event.modifiers & Qt.AltModifier);
                 if (event.accepted)
                     next.forceActiveFocus(Qt.TabFocusReason);

@@ -154,8 +154,8 @@ function bindTable(element, id) {
     element.style.marginInlineStart = `${look.x}px`;
     element.style.width = `${look.width}px`;
     empty.hidden = look.height > 0;
-    empty.firstElementChild.textContent = look.emptyHeading;
-    empty.lastElementChild.textContent = look.emptySentence;
+    empty.firstElementChild.textContent = look.emptyHeading ?? "";
+    empty.lastElementChild.textContent = look.emptySentence ?? "";
     if (placed) place(look.offset);
     let before = null;
     for (const [row, cell, top, height] of look.rows) {

@@ -17,8 +17,6 @@ CellBridge::CellBridge(const std::shared_ptr<UIView>& view, QObject* parent)
 void TableBridge::read(const UIView& view) {
   ViewBridge::read(view);
   const auto& table = static_cast<const UITableView&>(view);
-  emptyHeading_ = qtText(table.emptyWords().heading);
-  emptySentence_ = qtText(table.emptyWords().sentence);
   contentOffset_ = table.contentOffset().y;
   take(contentHeight_, table.contentHeight(), &TableBridge::contentHeightChanged);
   take(placement_, static_cast<int>(table.placements()), &TableBridge::placementChanged);
@@ -26,6 +24,16 @@ void TableBridge::read(const UIView& view) {
   while (cells_.size() < cells.size()) {
     cells_.push_back(static_cast<CellBridge*>(makeBridge(cells[cells_.size()], this)));
   }
+}
+
+QString TableBridge::emptyHeading() const {
+  const auto table = viewAs<UITableView>();
+  return table ? qtText(table->emptyWords().heading) : QString();
+}
+
+QString TableBridge::emptySentence() const {
+  const auto table = viewAs<UITableView>();
+  return table ? qtText(table->emptyWords().sentence) : QString();
 }
 
 void TableBridge::scroll(double y) {

@@ -29,7 +29,7 @@ class TableBridge : public leafund::ViewBridge {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("the host makes one for each view")
-  // Shown where there is no row.
+  // Shown where there is no row; read when they are.
   Q_PROPERTY(QString emptyHeading READ emptyHeading CONSTANT FINAL)
   Q_PROPERTY(QString emptySentence READ emptySentence CONSTANT FINAL)
   Q_PROPERTY(double contentHeight READ contentHeight NOTIFY contentHeightChanged FINAL)
@@ -40,8 +40,8 @@ class TableBridge : public leafund::ViewBridge {
  public:
   using ViewBridge::ViewBridge;
 
-  QString emptyHeading() const { return emptyHeading_; }
-  QString emptySentence() const { return emptySentence_; }
+  QString emptyHeading() const;
+  QString emptySentence() const;
   double contentHeight() const { return contentHeight_; }
   int placement() const { return placement_; }
   double contentOffset() const { return contentOffset_; }
@@ -59,8 +59,6 @@ class TableBridge : public leafund::ViewBridge {
   void read(const UIView& view) override;
 
  private:
-  QString emptyHeading_;
-  QString emptySentence_;
   double contentHeight_ = 0;
   int placement_ = 0;
   double contentOffset_ = 0;
