@@ -16,4 +16,20 @@ Flickable {
         width: 2 * far
         height: 2 * far
     }
+
+    // Where its end is near the wheel's scroll creeps there for a second; a click then would stop it,
+    // unseen, and press nothing.
+    readonly property real unseen: 10  // points a second
+    property bool seenToMove: false
+    onMovingChanged: seenToMove = false
+    onVerticalVelocityChanged: {
+        const seen = Math.abs(verticalVelocity) >= unseen;
+        if (seenToMove && !seen)
+            Qt.callLater(endUnseen);
+        seenToMove = seen;
+    }
+    function endUnseen() {
+        if (moving && !dragging && !seenToMove && contentY > 0 && contentY < contentHeight - height)
+            cancelFlick();
+    }
 }

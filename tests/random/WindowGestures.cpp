@@ -16,6 +16,7 @@ void WindowUser::scroll(const Action& action, Chance& how) {
   const bool down = action.offset > before;
   const QPointF middle(app_.window().width() / 2.0, reference_.top().y + list->height / 2);
   const bool slides = app_.page() == nullptr || app_.page()->x() != 0;
+  const bool flies = contentMoves();  // and one notch against a fling does not turn it round
   const auto by = how.below(5);
   if (by == 0) {
     const auto key = how.percent(50) ? (down ? Qt::Key_PageDown : Qt::Key_PageUp)
@@ -30,7 +31,7 @@ void WindowUser::scroll(const Action& action, Chance& how) {
       hand_.frames(static_cast<int>(how.between(0, 3)), how);
     }
     const bool room = down ? before < list->greatestOffset() - 1 : before > 1;
-    if (!room || slides || how.percent(60)) return;
+    if (!room || slides || flies || how.percent(60)) return;
     hand_.rest(how);
     const double moved = reference_.shown().table->offset - before;
     if (moved == 0 || (moved > 0) != down) complain("the wheel moved no list");
