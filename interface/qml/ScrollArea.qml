@@ -19,17 +19,14 @@ Flickable {
 
     // Where its end is near the wheel's scroll creeps there for a second; a click then would stop it,
     // unseen, and press nothing.
-    readonly property real unseen: 10  // points a second
-    property bool seenToMove: false
-    onMovingChanged: seenToMove = false
-    onVerticalVelocityChanged: {
-        const seen = Math.abs(verticalVelocity) >= unseen;
-        if (seenToMove && !seen)
-            Qt.callLater(endUnseen);
-        seenToMove = seen;
-    }
-    function endUnseen() {
-        if (moving && !dragging && !seenToMove && contentY > 0 && contentY < contentHeight - height)
+    readonly property real slow: 10  // points a second
+    readonly property int few: 5
+    property int slowSteps: 0  // in a row
+    onMovingChanged: slowSteps = 0
+    onContentYChanged: {
+        slowSteps = Math.abs(verticalVelocity) < slow ? slowSteps + 1 : 0;
+        const within = contentY > 0 && contentY < contentHeight - height;
+        if (slowSteps > few && moving && !dragging && within)
             cancelFlick();
     }
 }

@@ -30,7 +30,7 @@ class FlingTest : public WindowTest {
   }
   // Until nobody sees it move any more.
   void seemToRest() {
-    constexpr int kLooked = 8;  // frames, too short for an impatient hand
+    constexpr int kLooked = 12;  // frames, too short for an impatient hand
     for (int still = 0; still < kLooked;) {
       const double before = offset();
       frame();
