@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <typeinfo>
 
+#include "platform/display/SceneViews.h"
 #include "platform/graphics/DrawingContext.h"
 #include "platform/uikit/UIButton.h"
 #include "platform/uikit/UIImageView.h"
@@ -166,6 +167,18 @@ void describeContent(const UIView& root, const UIView* tabRoot, Sheet& sheet) {
 }
 
 }  // namespace
+
+SceneWords wordsOf(const UIViewController& screen) {
+  SceneWords words;
+  words.title = screen.navigationItem().title();
+  for (const auto& view : namedViews(screen)) {
+    const auto facts = factsOf(*view);
+    words.views[view->name()] = {.text = std::string(facts.text),
+                                 .placeholder = std::string(facts.placeholder),
+                                 .spoken = std::string(facts.spoken)};
+  }
+  return words;
+}
 
 void AppUnderTest::describe(Sheet& sheet) {
   const auto& navigation = *application_->navigation();

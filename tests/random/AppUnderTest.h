@@ -58,4 +58,7 @@ class AppUnderTest {
   std::string emailAnswer_;
 };
 
+// The words of a screen whose logic has not run.
+SceneWords wordsOf(const UIViewController& screen);
+
 }  // namespace leafund::random

@@ -2,6 +2,7 @@
 
 #include "model/PictureHost.h"
 #include "model/SeedCampaigns.h"
+#include "shell/Storyboard.h"
 #include "tests/support/AmountTexts.h"
 
 namespace leafund::random {
@@ -78,6 +79,9 @@ std::string Comparison::listDifference(const char* name, const PledgeList& expec
 
 FreeWording wordingOfTheApplication() {
   FreeWording wording;
+  for (const auto& scene : mainStoryboard().scenes()) {
+    wording.scenes[scene.name] = wordsOf(*mainStoryboard().draft(scene.name));
+  }
   for (const auto& list :
        {seedOtherCampaigns(), seedCampaignsIFunded(), seedMyUnfundedCampaigns("")}) {
     for (const auto& campaign : list) {

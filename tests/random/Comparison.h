@@ -26,7 +26,8 @@ class Comparison {
   std::unordered_map<const Pledge*, const CampaignClass*> twins_;
 };
 
-// The wordings and addresses of the application's own demonstration data.
+// The words of the application's own scenes, and the wordings and addresses of its demonstration
+// data.
 FreeWording wordingOfTheApplication();
 
 }  // namespace leafund::random

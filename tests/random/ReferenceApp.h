@@ -12,9 +12,11 @@
 
 namespace leafund::random {
 
-// What is free in the demonstration data: wordings, and where the pictures are. The reference is
-// told it and has an opinion on all the rest.
+// What the application is free to choose: the words of its scenes, the wording of the demonstration
+// data, and where the pictures are. The reference is told these and judges all the rest, the words
+// that logic writes included.
 struct FreeWording {
+  std::map<std::string, SceneWords> scenes;                 // by class name
   std::map<std::string, std::string> descriptions, photos;  // by title
   std::string updateTexts[2], updatePhotos[2];
   std::string placeholderPhoto;

@@ -2,47 +2,35 @@
 
 #include "tests/random/ReferenceScreen.h"
 
-// What every scene holds, in reading order, with every word.
+// What every scene holds, in reading order. Its words are the application's own.
 namespace leafund::random {
 
 namespace {
 
 enum Keyboard { kPlain, kEmail, kDecimal, kAddress };
 
-View label(std::string name, std::string text = {}) {
-  return {.kind = ViewKind::Label, .name = std::move(name), .text = std::move(text)};
+View label(std::string name) { return {.kind = ViewKind::Label, .name = std::move(name)}; }
+
+View button(std::string name) { return {.kind = ViewKind::Button, .name = std::move(name)}; }
+
+View field(std::string name, Keyboard keyboard = kPlain) {
+  return {.kind = ViewKind::Field, .name = std::move(name), .keyboard = keyboard};
 }
 
-View sum(std::string name, std::string meaning) {
-  return {.kind = ViewKind::Label, .name = std::move(name), .spoken = std::move(meaning)};
-}
-
-View button(std::string name, std::string title) {
-  return {.kind = ViewKind::Button, .name = std::move(name), .text = std::move(title)};
-}
-
-View field(std::string name, const std::string& placeholder, Keyboard keyboard = kPlain) {
-  return {.kind = ViewKind::Field,
-          .name = std::move(name),
-          .placeholder = placeholder,
-          .spoken = placeholder,
-          .keyboard = keyboard};
-}
-
-View secret(std::string name, const std::string& placeholder) {
-  View view = field(std::move(name), placeholder);
+View secret(std::string name) {
+  View view = field(std::move(name));
   view.secure = true;
   return view;
 }
 
-View formField(std::string name, const std::string& placeholder, Keyboard keyboard = kPlain) {
-  View view = field(std::move(name), placeholder, keyboard);
+View formField(std::string name, Keyboard keyboard = kPlain) {
+  View view = field(std::move(name), keyboard);
   view.returnEndsEditing = true;
   return view;
 }
 
-View area(std::string name, const std::string& placeholder, Keyboard keyboard = kPlain) {
-  View view = field(std::move(name), placeholder, keyboard);
+View area(std::string name, Keyboard keyboard = kPlain) {
+  View view = field(std::move(name), keyboard);
   view.kind = ViewKind::Area;
   return view;
 }
@@ -51,20 +39,13 @@ View readingText(std::string name) {
   return {.kind = ViewKind::Area, .name = std::move(name), .editable = false};
 }
 
-View picture(std::string name, std::string description) {
-  return {.kind = ViewKind::Picture,
-          .name = std::move(name),
-          .spoken = std::move(description),
-          .fillsByCutting = true};
+View picture(std::string name) {
+  return {.kind = ViewKind::Picture, .name = std::move(name), .fillsByCutting = true};
 }
 
-View illustration(std::string name, std::string description) {
-  return {.kind = ViewKind::Picture, .name = std::move(name), .spoken = std::move(description)};
-}
+View illustration(std::string name) { return {.kind = ViewKind::Picture, .name = std::move(name)}; }
 
-View tab(std::string name, std::string title) {
-  return {.kind = ViewKind::Tab, .name = std::move(name), .text = std::move(title)};
-}
+View tab(std::string name) { return {.kind = ViewKind::Tab, .name = std::move(name)}; }
 
 View hidden(View view) {
   view.hidden = true;
@@ -72,146 +53,121 @@ View hidden(View view) {
 }
 
 std::vector<View> landing() {
-  return {label("brand", "Leafund"),
-          label("tagline", "Small pledges, green changes."),
-          field("userEmail", "E-mail", kEmail),
-          secret("password", "Password"),
-          button("signInButton", "Sign in"),
-          label("newHere", "New to Leafund?"),
-          button("signUpButton", "Create an account")};
+  return {label("brand"),         label("tagline"), field("userEmail", kEmail), secret("password"),
+          button("signInButton"), label("newHere"), button("signUpButton")};
 }
 
 std::vector<View> signUp() {
-  return {label("welcome", "Welcome! Under which name shall others see your campaigns?"),
-          field("nameField", "Your name"), secret("passwordField", "Password"),
-          secret("passwordConfirmField", "Password again"), button("signUpButton", "Sign up")};
+  return {label("welcome"), field("nameField"), secret("passwordField"),
+          secret("passwordConfirmField"), button("signUpButton")};
 }
 
 std::vector<View> home() {
   return {{.kind = ViewKind::Tabs, .name = "tabs"},
-          {.kind = ViewKind::TabBar, .name = "tabBar", .spoken = "Sections"},
-          tab("browseTab", "Browse"),
-          tab("fundedTab", "Funded"),
-          tab("mineTab", "Mine"),
-          tab("newsTab", "News"),
-          hidden(button("newButton", "New"))};
+          {.kind = ViewKind::TabBar, .name = "tabBar"},
+          tab("browseTab"),
+          tab("fundedTab"),
+          tab("mineTab"),
+          tab("newsTab"),
+          hidden(button("newButton"))};
 }
 
 std::vector<View> news() {
   return {
-      illustration("rideStoryPicture", "A bicycle on a path towards the town"),
-      label("rideStoryTitle", "Five miles, twice a day"),
-      label("rideStoryText",
-            "Tamsin is swapping her car for a bicycle for a whole year, in aid of UNICEF. Every "
-            "pledge is another morning on two wheels."),
-      illustration("compostStoryPicture", "Fruit peelings on their way into a compost pail"),
-      label("compostStoryTitle", "The first peel is in"),
-      label("compostStoryText",
-            "Lucan's compost heap is under way. Open his campaign among those you funded to read "
-            "how the first day went."),
-      illustration("pledgeStoryPicture", "A house with solar panels under the sun"),
-      label("pledgeStoryTitle", "How a pledge works"),
-      label("pledgeStoryText",
-            "Pick a campaign, choose an amount and confirm. The campaign moves to your Funded tab "
-            "at once, and its creator takes it from there."),
+      illustration("rideStoryPicture"),    label("rideStoryTitle"),    label("rideStoryText"),
+      illustration("compostStoryPicture"), label("compostStoryTitle"), label("compostStoryText"),
+      illustration("pledgeStoryPicture"),  label("pledgeStoryTitle"),  label("pledgeStoryText"),
   };
 }
 
 std::vector<View> campaign() {
-  return {picture("campaignImage", "Picture of the campaign"),
+  return {picture("campaignImage"),
           label("campaignTitle"),
-          label("byCreator", "by"),
+          label("byCreator"),
           label("campaignCreator"),
-          label("labelAboveSlider", "Raised so far"),
-          {.kind = ViewKind::Progress, .name = "slider", .spoken = "Share of the goal raised"},
-          sum("currentFund", "Raised"),
-          sum("desiredFund", "Goal"),
-          field("dollarAmountField", "Amount in dollars", kDecimal),
-          label("errorLabel", "Error: Please Enter an Amount, for Example 25 or 12.50"),
-          button("FundButton", "Fund this campaign"),
-          button("campaignUpdates", "Read the update"),
-          label("about", "About this campaign"),
+          label("labelAboveSlider"),
+          {.kind = ViewKind::Progress, .name = "slider"},
+          label("currentFund"),
+          label("desiredFund"),
+          field("dollarAmountField", kDecimal),
+          label("errorLabel"),
+          button("FundButton"),
+          button("campaignUpdates"),
+          label("about"),
           readingText("campaignText"),
           hidden({.kind = ViewKind::Picture, .name = "campaignPhoto"}),
           hidden({.kind = ViewKind::Scroll, .name = "campaignDescription"})};
 }
 
 std::vector<View> confirm() {
-  return {label("amount"),
-          label("campaignName"),
-          label("question", "Do you want to fund this campaign?"),
-          label("outcome", "Your pledge counts at once, and you find the campaign under Funded."),
-          button("yesButton", "Yes"),
-          button("noButton", "No")};
+  return {label("amount"),  label("campaignName"), label("question"),
+          label("outcome"), button("yesButton"),   button("noButton")};
 }
+
+std::vector<View> thanks() { return {label("thankYouLabel"), button("homeButton")}; }
 
 std::vector<View> update() {
   return {
       label("test"),
       label("updateOneDate"),
-      picture("updateOneImage", "Picture of the update"),
+      picture("updateOneImage"),
       readingText("updateOneText"),
   };
 }
 
 std::vector<View> newCampaign() {
-  return {formField("nameOfCreator", "Your name"),
-          formField("nameOfCampaign", "Campaign name"),
-          area("shortDescription", "Your pitch in one sentence"),
-          area("fullDescription", "What you pledge, and for whom"),
-          formField("desiredFunding", "Goal in dollars", kDecimal),
-          label("moneyErrorField", "Error: Please Enter an Amount, for Example 250"),
-          formField("imageURL", "Web address of a picture", kAddress),
-          area("emailInvite", "E-mail addresses of friends to invite", kEmail),
-          button("createButton", "Create campaign")};
+  return {formField("nameOfCreator"),
+          formField("nameOfCampaign"),
+          area("shortDescription"),
+          area("fullDescription"),
+          formField("desiredFunding", kDecimal),
+          label("moneyErrorField"),
+          formField("imageURL", kAddress),
+          area("emailInvite", kEmail),
+          button("createButton")};
+}
+
+std::vector<View> viewsOf(Scene scene) {
+  switch (scene) {
+    case Scene::Landing:
+      return landing();
+    case Scene::SignUp:
+      return signUp();
+    case Scene::Home:
+      return home();
+    case Scene::News:
+      return news();
+    case Scene::Campaign:
+      return campaign();
+    case Scene::Confirm:
+      return confirm();
+    case Scene::Thanks:
+      return thanks();
+    case Scene::Update:
+      return update();
+    case Scene::NewCampaign:
+      return newCampaign();
+    case Scene::Browse:
+    case Scene::Funded:
+    case Scene::Mine:
+      break;
+  }
+  return {};
 }
 
 }  // namespace
 
-ScreenRef layOut(Scene scene) {
+ScreenRef layOut(Scene scene, const SceneWords& words) {
   auto screen = std::make_shared<Screen>();
   screen->scene = scene;
-  const auto is = [&](const char* title, std::vector<View> views) {
-    screen->title = title;
-    screen->views = std::move(views);
-  };
-  switch (scene) {
-    case Scene::Landing:
-      is("", landing());
-      break;
-    case Scene::SignUp:
-      is("Create an account", signUp());
-      break;
-    case Scene::Home:
-      is("", home());
-      break;
-    case Scene::Browse:
-      is("Browse", {});
-      break;
-    case Scene::Funded:
-      is("Funded by you", {});
-      break;
-    case Scene::Mine:
-      is("Your campaigns", {});
-      break;
-    case Scene::News:
-      is("News", news());
-      break;
-    case Scene::Campaign:
-      is("Campaign", campaign());
-      break;
-    case Scene::Confirm:
-      is("Confirm your pledge", confirm());
-      break;
-    case Scene::Thanks:
-      is("", {label("thankYouLabel", "Thank you for your pledge!"), button("homeButton", "Home")});
-      break;
-    case Scene::Update:
-      is("Update", update());
-      break;
-    case Scene::NewCampaign:
-      is("New campaign", newCampaign());
-      break;
+  screen->title = words.title;
+  screen->views = viewsOf(scene);
+  for (auto& view : screen->views) {
+    if (const auto said = words.views.find(view.name); said != words.views.end()) {
+      view.text = said->second.text;
+      view.placeholder = said->second.placeholder;
+      view.spoken = said->second.spoken;
+    }
   }
   if (scene == Scene::Browse || scene == Scene::Funded || scene == Scene::Mine) {
     screen->table.emplace();

@@ -125,6 +125,6 @@ struct Screen {
 using ScreenRef = std::shared_ptr<Screen>;
 
 // A screen as its scene lays it out, before anything is loaded into it.
-ScreenRef layOut(Scene scene);
+ScreenRef layOut(Scene scene, const SceneWords& words);
 
 }  // namespace leafund::random

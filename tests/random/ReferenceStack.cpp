@@ -13,7 +13,7 @@ bool isList(const Screen& screen) { return screen.table.has_value(); }
 }  // namespace
 
 ScreenRef ReferenceApp::make(Scene scene) {
-  auto screen = layOut(scene);
+  auto screen = layOut(scene, wording_.scenes.at(className(scene)));
   std::erase_if(everMade_, [](const auto& each) { return each.expired(); });
   everMade_.push_back(screen);
   return screen;

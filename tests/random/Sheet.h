@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <map>
 #include <string>
 #include <string_view>
 
@@ -54,6 +55,15 @@ struct ScreenFacts {
   bool barShown = false, backPossible = false, hidesBack = false;
   bool tabOnScreen = false;  // of a tab's screen: it stands among the views that are shown
   double y = 0, width = 0, height = 0;
+};
+
+// The words of a scene before logic writes any: the bar's, and those of each named view.
+struct ViewWords {
+  std::string text, placeholder, spoken;
+};
+struct SceneWords {
+  std::string title;
+  std::map<std::string, ViewWords> views;
 };
 
 // What can be seen of the whole application, as lines of text. The reference and the application
