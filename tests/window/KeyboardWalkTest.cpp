@@ -31,7 +31,7 @@ TEST_F(KeyboardWalkTest, TheWholePledgeRoadIsGoneByKeysAlone) {
   EXPECT_EQ(focusedName(), "FundButton");
   key(Qt::Key_Return);
   pressAt("yesButton");
-  EXPECT_EQ(shownWords("thankYouLabel"), "Thank you for your pledge!");
+  EXPECT_EQ(app.shown()->className(), "ThankYouVC");
   pressAt("homeButton");
   EXPECT_EQ(focusedName(), "abc-0");
   pressAt("fundedTab");
