@@ -9,13 +9,15 @@ import sys
 import time
 
 from bus import Role, check, go
+from captions import caption
 from finger import Fingers
 from window import ROWS, TABS, Window, run
 
 STEPS = 6  # of the wheel or of a key, from the top to the end of the list and once beyond
 SIZES = ("390 844", "600 800", "1280 800", "844 390")
 INTERVALS = (60, 100, 250, 350)  # milliseconds between the clicks of a double click
-QUESTION = "Do you want to fund this campaign?"
+BROWSE = caption("OtherCampaignsTableViewController.title")
+QUESTION = caption("ConfirmPageVC.question")
 
 
 class Walk:
@@ -37,24 +39,24 @@ class Walk:
         )
 
     def sign_in(self):
-        self.window.type_into("E-mail", "robin@example.org")
-        self.window.type_into("Password", "green changes")
-        self.window.click("Sign in")
-        self.window.expect("Browse", {Role.HEADING})
+        self.window.type_into(caption("LandingPageVC.userEmail"), "robin@example.org")
+        self.window.type_into(caption("LandingPageVC.password"), "green changes")
+        self.window.click(caption("LandingPageVC.signInButton"))
+        self.window.expect(BROWSE, {Role.HEADING})
 
     def come_back_after_the_wheel(self):
         middle = (self.window.width // 2, self.window.height // 2)
         self.sweep(lambda: self.window.touch("mousemove", *middle, "click", 5))
 
     def come_back_after_keys(self):
-        self.window.click("Funded", TABS)
-        self.window.click("Browse", TABS)
+        self.window.click(caption("TabBarVC.fundedTab"), TABS)
+        self.window.click(caption("TabBarVC.browseTab"), TABS)
         self.window.touch("key", "Tab", "Home")
         self.sweep(lambda: self.window.touch("key", "Down"))
 
     def come_back_after_fingers(self):
-        self.window.click("Funded", TABS)
-        self.window.click("Browse", TABS)
+        self.window.click(caption("TabBarVC.fundedTab"), TABS)
+        self.window.click(caption("TabBarVC.browseTab"), TABS)
         middle = self.window.width // 2
         self.sweep(lambda: self.draw((middle, 500), (middle, 340)), self.tap)
 
@@ -81,7 +83,7 @@ class Walk:
         way_back = next(self.ways_back)
         way_back()
         self.window.wait(
-            f"the list after “{name}”, {way_back.__name__}", lambda: self.window.sees("Browse", {Role.HEADING})
+            f"the list after “{name}”, {way_back.__name__}", lambda: self.window.sees(BROWSE, {Role.HEADING})
         )
         after = self.rows_at_rest()
         check(after == before, f"the list where it was before “{name}”, {way_back.__name__}: {before}, not {after}")
@@ -109,13 +111,13 @@ class Walk:
         for size in SIZES:
             self.window.resize(self.id, size)
             self.ask()
-            place = self.window.still_middle("Fund this campaign")
+            place = self.window.still_middle(caption("OneCampaignViewController.FundButton"))
             self.tap(place)
             time.sleep(0.08)
             self.tap(place)
             time.sleep(0.6)  # more than a slide
             check(self.window.sees(QUESTION), f"no pledge without “Yes” of a finger, at {size}")
-            self.window.click("No")
+            self.window.click(caption("ConfirmPageVC.noButton"))
             self.window.click("Back")
 
     def click_twice(self):
@@ -125,25 +127,25 @@ class Walk:
                 self.fund(("--repeat", 2, "--delay", interval))
                 time.sleep(0.6)  # more than a slide
                 check(self.window.sees(QUESTION), f"no pledge without “Yes”, at {size} and {interval} ms")
-                self.window.click("No")
+                self.window.click(caption("ConfirmPageVC.noButton"))
                 self.window.click("Back")
         for size in SIZES:
             self.window.resize(self.id, size)
             self.fund()
-            self.window.click("Yes")
-            self.window.expect("Thank you for your pledge!")
-            self.window.click("Home")
+            self.window.click(caption("ConfirmPageVC.yesButton"))
+            self.window.expect(caption("ThankYouVC.thankYouLabel"))
+            self.window.click(caption("ThankYouVC.homeButton"))
 
     def ask(self):
         """Opens a campaign and types an amount."""
         rows = self.rows_at_rest()
         name = max(rows, key=lambda each: self.seen(rows[each])[1] - self.seen(rows[each])[0])
         self.window.touch("mousemove", self.window.width // 2, self.seen_middle(rows[name]), "click", 1)
-        self.window.type_into("Amount in dollars", "1")
+        self.window.type_into(caption("OneCampaignViewController.dollarAmountField"), "1")
 
     def fund(self, options=()):
         self.ask()
-        self.window.click("Fund this campaign", options=options)
+        self.window.click(caption("OneCampaignViewController.FundButton"), options=options)
         self.window.expect(QUESTION)
 
     def rows_at_rest(self):

@@ -1,13 +1,14 @@
 #!/usr/bin/python3 -B
 """pledge_walk.py PROCESS FOLDER: walks through the app that runs as PROCESS on $DISPLAY.
 
-Every control is found by the words a user reads, so a change of layout breaks nothing here, and a
-change of words does.
+Every control is found by the words a user reads, which are taken from the scenes: neither a change of
+layout nor one of words breaks anything here.
 """
 
 import sys
 
 from bus import FIELDS, check, go
+from captions import caption
 from window import TABS, Window
 
 PLEDGED = "Vegetarian for PETA"
@@ -35,43 +36,43 @@ class Walk:
 
     def sign_in(self):
         window = self.window
-        window.expect("Small pledges, green changes.")
+        window.expect(caption("LandingPageVC.tagline"))
         self.save("landing")
-        window.click("Create an account")
-        window.expect("Sign up")
+        window.click(caption("LandingPageVC.signUpButton"))
+        window.expect(caption("SignUpVC.signUpButton"))
         self.save("sign-up")
-        self.go_back_to("Sign in")
-        window.type_into("E-mail", "robin@example.org")
-        window.type_into("Password", "green changes")
+        self.go_back_to(caption("LandingPageVC.signInButton"))
+        window.type_into(caption("LandingPageVC.userEmail"), "robin@example.org")
+        window.type_into(caption("LandingPageVC.password"), "green changes")
         self.save("landing-filled")
-        window.click("Sign in")
+        window.click(caption("LandingPageVC.signInButton"))
 
     def pledge(self):
         window = self.window
         window.expect_picture("Biking to Work!")
         self.save("browse")
         window.click(PLEDGED)
-        window.expect("Fund this campaign")
+        window.expect(caption("OneCampaignViewController.FundButton"))
         self.save("campaign")
-        window.type_into("Amount in dollars", "81")
-        window.click("Fund this campaign")
+        window.type_into(caption("OneCampaignViewController.dollarAmountField"), "81")
+        window.click(caption("OneCampaignViewController.FundButton"))
         window.expect("Error: Donation Exceeds Maximum")
         self.save("pledge-refused")
-        window.type_into("Amount in dollars", "80")
-        window.click("Fund this campaign")
-        window.expect("Do you want to fund this campaign?")
+        window.type_into(caption("OneCampaignViewController.dollarAmountField"), "80")
+        window.click(caption("OneCampaignViewController.FundButton"))
+        window.expect(caption("ConfirmPageVC.question"))
         self.save("confirm")
-        window.click("Yes")
-        window.expect("Thank you for your pledge!")
+        window.click(caption("ConfirmPageVC.yesButton"))
+        window.expect(caption("ThankYouVC.thankYouLabel"))
         self.save("thank-you")
-        window.click("Home")
+        window.click(caption("ThankYouVC.homeButton"))
 
     def find_pledge_under_funded(self):
         window = self.window
         window.expect("Biking to Work!")
         window.expect_gone(PLEDGED)
         self.save("browse-after-pledge")
-        window.click("Funded", TABS)
+        window.click(caption("TabBarVC.fundedTab"), TABS)
         window.expect(PLEDGED)
         check(PLEDGED in window.rows()[0], "the new pledge is the first row")
         window.expect_picture(FUNDED_BEFORE)
@@ -82,24 +83,24 @@ class Walk:
         window.click(FUNDED_BEFORE)
         window.expect("Funded!")
         self.save("funded-campaign")
-        window.click("Read the update")
+        window.click(caption("OneCampaignViewController.campaignUpdates"))
         window.expect("December 1")
         self.save("update")
-        self.go_back_to("Read the update")
+        self.go_back_to(caption("OneCampaignViewController.campaignUpdates"))
         self.go_back_to(FUNDED_BEFORE)
 
     def look_around(self):
         window = self.window
-        window.click("Mine", TABS)
+        window.click(caption("TabBarVC.mineTab"), TABS)
         window.expect_picture("Eco-Friendly Stove!")
         self.save("mine")
-        window.click("New")
-        window.expect("Create campaign")
-        window.expect("Your name", FIELDS)
+        window.click(caption("TabBarVC.newButton"))
+        window.expect(caption("NewCampaignVC.createButton"))
+        window.expect(caption("NewCampaignVC.nameOfCreator"), FIELDS)
         self.save("new-campaign")
         self.go_back_to("Eco-Friendly Stove!")
-        window.click("News", TABS)
-        window.expect("Five miles, twice a day")
+        window.click(caption("TabBarVC.newsTab"), TABS)
+        window.expect(caption("NewsFeedVC.rideStoryTitle"))
         self.save("news")
 
     def go_back_to(self, name):

@@ -8,6 +8,7 @@ import sys
 import time
 
 from bus import FIELDS, Role, check, go
+from captions import caption
 from window import TABS, Window
 
 CAMPAIGN = "Vegetarian for PETA"
@@ -52,53 +53,53 @@ class Walk:
         check(not self.woken, f"no wake-up on {', '.join(self.woken)}")
 
     def landing(self):
-        self.window.expect("Small pledges, green changes.")
+        self.window.expect(caption("LandingPageVC.tagline"))
         self.rest("the landing page")
 
     def sign_up(self):
-        self.window.click("Create an account")
-        self.window.expect("Sign up")
+        self.window.click(caption("LandingPageVC.signUpButton"))
+        self.window.expect(caption("SignUpVC.signUpButton"))
         self.rest("sign-up")
         self.window.click("Back")
 
     def lists(self):
-        self.window.type_into("E-mail", "robin@example.org")
-        self.window.type_into("Password", "green changes")
-        self.window.click("Sign in")
-        self.window.expect("Browse", {Role.HEADING})
-        self.rest("Browse")
-        for tab in ("Funded", "Mine", "News"):
-            self.window.click(tab, TABS)
+        self.window.type_into(caption("LandingPageVC.userEmail"), "robin@example.org")
+        self.window.type_into(caption("LandingPageVC.password"), "green changes")
+        self.window.click(caption("LandingPageVC.signInButton"))
+        self.window.expect(caption("OtherCampaignsTableViewController.title"), {Role.HEADING})
+        self.rest("browse")
+        for tab in ("funded", "mine", "news"):
+            self.window.click(caption(f"TabBarVC.{tab}Tab"), TABS)
             self.rest(tab)
 
     def pledge(self):
-        self.window.click("Browse", TABS)
+        self.window.click(caption("TabBarVC.browseTab"), TABS)
         self.window.click(CAMPAIGN)
-        self.window.expect("Fund this campaign")
+        self.window.expect(caption("OneCampaignViewController.FundButton"))
         self.rest("the campaign")
-        self.window.type_into("Amount in dollars", "80")
-        self.window.click("Fund this campaign")
-        self.window.expect("Do you want to fund this campaign?")
+        self.window.type_into(caption("OneCampaignViewController.dollarAmountField"), "80")
+        self.window.click(caption("OneCampaignViewController.FundButton"))
+        self.window.expect(caption("ConfirmPageVC.question"))
         self.rest("the question")
-        self.window.click("Yes")
-        self.window.expect("Thank you for your pledge!")
+        self.window.click(caption("ConfirmPageVC.yesButton"))
+        self.window.expect(caption("ThankYouVC.thankYouLabel"))
         self.rest("the thanks")
-        self.window.click("Home")
+        self.window.click(caption("ThankYouVC.homeButton"))
 
     def update(self):
-        self.window.click("Funded", TABS)
+        self.window.click(caption("TabBarVC.fundedTab"), TABS)
         self.window.click("Compost for Christ!")
-        self.window.click("Read the update")
+        self.window.click(caption("OneCampaignViewController.campaignUpdates"))
         self.window.expect("December 1")
         self.rest("the update")
         self.window.click("Back")
-        self.window.expect("Read the update")
+        self.window.expect(caption("OneCampaignViewController.campaignUpdates"))
         self.window.click("Back")
 
     def new_campaign(self):
-        self.window.click("Mine", TABS)
-        self.window.click("New")
-        self.window.expect("Your name", FIELDS)
+        self.window.click(caption("TabBarVC.mineTab"), TABS)
+        self.window.click(caption("TabBarVC.newButton"))
+        self.window.expect(caption("NewCampaignVC.nameOfCreator"), FIELDS)
         self.rest("the new campaign")
 
 

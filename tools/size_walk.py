@@ -8,6 +8,7 @@ import os
 import sys
 
 from bus import Atspi, Role, go
+from captions import caption
 from reader import Reader
 from window import TABS, Window, run
 
@@ -24,9 +25,9 @@ class Clicks(Window):
         return b"Icon (64 x 64)" in run("xprop", "-name", "Leafund", "_NET_WM_ICON")
 
     def sign_in(self):
-        self.type_into("E-mail", "robin@example.org")
-        self.type_into("Password", "green changes")
-        self.click("Sign in")
+        self.type_into(caption("LandingPageVC.userEmail"), "robin@example.org")
+        self.type_into(caption("LandingPageVC.password"), "green changes")
+        self.click(caption("LandingPageVC.signInButton"))
 
     def tab(self, name):
         self.click(name, TABS)
@@ -49,9 +50,9 @@ class Actions(Reader):
         return super().expect(name, role, state)
 
     def sign_in(self):
-        self.press("Sign in")
+        self.press(caption("LandingPageVC.signInButton"))
         self.expect_heard("Error: Please Enter a Password")
-        self.press("Sign in")  # which takes the messages for what was typed
+        self.press(caption("LandingPageVC.signInButton"))  # which takes the messages for what was typed
 
     def tab(self, name):
         self.press(name, Role.PAGE_TAB)
@@ -74,26 +75,26 @@ class Walk:
 
     def go_through_the_screens(self):
         app = self.app
-        app.click("Create an account")
-        app.expect("Sign up")
+        app.click(caption("LandingPageVC.signUpButton"))
+        app.expect(caption("SignUpVC.signUpButton"))
         app.click("Back")
         app.sign_in()
         app.row(CAMPAIGN)
-        app.expect("Fund this campaign")
-        app.click("Fund this campaign")
-        app.expect("Error: Please Enter an Amount, for Example 25 or 12.50")
+        app.expect(caption("OneCampaignViewController.FundButton"))
+        app.click(caption("OneCampaignViewController.FundButton"))
+        app.expect(caption("OneCampaignViewController.errorLabel"))
         app.click("Back")
-        app.tab("Funded")
+        app.tab(caption("TabBarVC.fundedTab"))
         app.row("Compost for Christ!")
-        app.click("Read the update")
+        app.click(caption("OneCampaignViewController.campaignUpdates"))
         app.expect("December 1")
         app.click("Back")
-        app.expect("Read the update")
+        app.expect(caption("OneCampaignViewController.campaignUpdates"))
         app.click("Back")
-        app.tab("Mine")
-        app.click("New")
-        app.click("Create campaign")
-        app.expect("Error: Please Enter an Amount, for Example 250")
+        app.tab(caption("TabBarVC.mineTab"))
+        app.click(caption("TabBarVC.newButton"))
+        app.click(caption("NewCampaignVC.createButton"))
+        app.expect(caption("NewCampaignVC.moneyErrorField"))
         self.fill_the_screen()
 
     def bear_the_icon(self):

@@ -7,6 +7,7 @@ between a tenth of the visits and the last one.
 import sys
 
 from bus import Role, check, go
+from captions import caption
 from window import Window
 
 CAMPAIGN = "Vegetarian for PETA"
@@ -27,10 +28,10 @@ class Walk:
         return (self.sign_in, self.visit)
 
     def sign_in(self):
-        self.window.type_into("E-mail", "robin@example.org")
-        self.window.type_into("Password", "green changes")
-        self.window.click("Sign in")
-        self.window.expect("Browse", {Role.HEADING})
+        self.window.type_into(caption("LandingPageVC.userEmail"), "robin@example.org")
+        self.window.type_into(caption("LandingPageVC.password"), "green changes")
+        self.window.click(caption("LandingPageVC.signInButton"))
+        self.window.expect(caption("OtherCampaignsTableViewController.title"), {Role.HEADING})
 
     def visit(self):
         x, y = self.window.place_of(CAMPAIGN)
@@ -39,7 +40,7 @@ class Walk:
             self.window.touch("mousemove", x, y, "sleep", 0.5, "click", 1)
             self.window.expect(CAMPAIGN, {Role.HEADING})
             self.window.touch("key", "Escape")
-            self.window.expect("Browse", {Role.HEADING})
+            self.window.expect(caption("OtherCampaignsTableViewController.title"), {Role.HEADING})
             if number == max(1, self.times // 10):
                 before = resident(self.window.process)
         after = resident(self.window.process)
