@@ -12,7 +12,7 @@ Rectangle {
     readonly property real head: framed ? Theme.gap : 0
     implicitHeight: words.implicitHeight + head + Theme.gap
     color: framed ? Theme.card : Theme.none
-    border { width: view.borderWidth; color: view.borderColor.hslLightness > 0 ? view.borderColor : Theme.black }
+    border { width: view.borderWidth; color: view.drawnAs(view.borderColor, Theme.black, Theme.white) }
     radius: view.cornerRadius
 
     Words {

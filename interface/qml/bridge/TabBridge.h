@@ -28,7 +28,6 @@ class TabBridge : public leafund::TextBridge {
   void read(const UIView& view) override {
     TextBridge::read(view);
     const auto& tab = static_cast<const UITabBarItem&>(view);
-    takeText(qtText(tab.title()));
     take(selected_, tab.selected(), &TabBridge::selectedChanged);
     if (const auto& color = tab.selectedTitleColor())
       selectedTitleColor_ = qtColor(color->CGColor());

@@ -1,8 +1,6 @@
 #pragma once
 
 #include "interface/qml/bridge/ViewBridge.h"
-#include "platform/uikit/UIButton.h"
-#include "platform/uikit/UILabel.h"
 
 namespace leafund {
 
@@ -31,7 +29,7 @@ class TextBridge : public leafund::ViewBridge {
   void textChanged();
 
  protected:
-  void takeText(const QString& text) { take(text_, text, &TextBridge::textChanged); }
+  void read(const UIView& view) override;
   // The window shows it already.
   void keepText(const QString& text) { text_ = text; }
 
@@ -46,12 +44,6 @@ class LabelBridge : public leafund::TextBridge {
 
  public:
   using TextBridge::TextBridge;
-
- protected:
-  void read(const UIView& view) override {
-    TextBridge::read(view);
-    takeText(wordsToRead(static_cast<const UILabel&>(view).text()));
-  }
 };
 
 class ButtonBridge : public leafund::TextBridge {
@@ -61,12 +53,6 @@ class ButtonBridge : public leafund::TextBridge {
 
  public:
   using TextBridge::TextBridge;
-
- protected:
-  void read(const UIView& view) override {
-    TextBridge::read(view);
-    takeText(qtText(static_cast<const UIButton&>(view).title()));
-  }
 };
 
 }  // namespace leafund

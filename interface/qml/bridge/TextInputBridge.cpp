@@ -42,7 +42,6 @@ TextInputBridge::TextInputBridge(const std::shared_ptr<UIView>& view, QObject* p
 void TextInputBridge::read(const UIView& view) {
   TextBridge::read(view);
   const auto& input = static_cast<const UITextInput&>(view);
-  takeText(input.editable() ? qtText(input.text()) : wordsToRead(input.text()));
   take(textColor_, qtColor(input.textColor().CGColor()), &TextInputBridge::textColorChanged);
   take(editing_, input.editing(), &TextInputBridge::editingChanged);
   take(showsMessage_, input.showsMessage(), &TextInputBridge::showsMessageChanged);

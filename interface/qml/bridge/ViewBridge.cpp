@@ -42,6 +42,11 @@ void ViewBridge::read(const UIView& view) {
   take(visible_, !view.hidden(), &ViewBridge::visibleChanged);
 }
 
+QColor ViewBridge::drawnAs(const QColor& set, const QColor& black, const QColor& white) {
+  if (set == QColor(Qt::black)) return black;
+  return set == QColor(Qt::white) ? white : set;
+}
+
 void ViewBridge::tap() {
   if (auto* application = UIApplication::current()) application->tap(view());
 }

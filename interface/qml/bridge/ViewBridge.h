@@ -2,6 +2,7 @@
 
 #include <QtQmlIntegration/qqmlintegration.h>
 
+#include <QColor>
 #include <QObject>
 #include <QRectF>
 #include <QString>
@@ -52,6 +53,8 @@ class ViewBridge : public QObject, public Skin {
   std::shared_ptr<UIView> view() const { return view_.lock(); }
 
   Q_INVOKABLE void tap();
+  // A colour that the toolkit set, as the theme draws it: black and white are the theme's own.
+  Q_INVOKABLE static QColor drawnAs(const QColor& set, const QColor& black, const QColor& white);
 
  signals:
   void visibleChanged();

@@ -7,9 +7,7 @@ ViewImageItem::ViewImageItem(QQuickItem* parent) : ImageItem(parent) {
 }
 
 QColor ViewImageItem::drawnAs(const CGColor& set) const {
-  const QColor color = qtColor(set);
-  if (color == QColor(Qt::black)) return black_;
-  return color == QColor(Qt::white) ? white_ : color;
+  return ViewBridge::drawnAs(qtColor(set), black_, white_);
 }
 
 void ViewImageItem::follow(ViewBridge* view) {
