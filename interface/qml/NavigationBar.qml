@@ -13,7 +13,6 @@ Rectangle {
     // Here a reader is put when the screen comes, before the first control, to which Tab leads on.
     Text {
         id: title
-        readonly property bool heading: true
         readonly property bool takesFocus: bar.view.title !== ""
 
         objectName: "barTitle"

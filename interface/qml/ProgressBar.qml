@@ -8,11 +8,6 @@ Item {
     required property ProgressBridge view
     property real shown: view.progressFrom
 
-    // What assistive technology reads, by these names.
-    readonly property real value: Math.round(view.progress * 100)
-    readonly property real minimumValue: 0
-    readonly property real maximumValue: 100
-
     objectName: view.name
     visible: view.visible
     implicitHeight: Theme.gap - Theme.half

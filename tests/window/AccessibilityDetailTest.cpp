@@ -1,3 +1,6 @@
+#include <QQmlComponent>
+#include <QQmlEngine>
+
 #include "interface/qml/bridge/TextBridge.h"
 #include "model/Catalogue.h"
 #include "tests/window/AccessibilityFixture.h"
@@ -72,6 +75,23 @@ TEST_F(AccessibilityDetailTest, AProgressBarIsNotOfferedToBeMoved) {
   EXPECT_EQ(bar->actionInterface(), nullptr);
   EXPECT_EQ(bar->role(), QAccessible::ProgressBar);
   EXPECT_NE(bar->valueInterface(), nullptr);
+}
+
+TEST_F(AccessibilityDetailTest, WhatAnItemIsFollowsFromItsTypeAndNotFromAPropertysName) {
+  QQmlEngine engine;
+  QQmlComponent component(&engine);
+  component.setData(R"(
+    import QtQuick
+    Item {
+      property bool heading: true
+      property real maximumValue: 3
+      Accessible.role: Accessible.Button
+      Accessible.name: "Own"
+    })",
+                    {});
+  const std::unique_ptr<QObject> item(component.create());
+  ASSERT_NE(item, nullptr) << component.errorString().toStdString();
+  EXPECT_EQ(QAccessible::queryAccessibleInterface(item.get())->role(), QAccessible::Button);
 }
 
 TEST_F(AccessibilityDetailTest, TheTabListHasAName) {

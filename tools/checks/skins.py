@@ -68,7 +68,7 @@ def colours(project):
 # stand apart; and bounds that are not of the screen.
 NUMBER = re.compile(r"(?<![\w.#])(0x[0-9a-fA-F]+|\d+(?:\.\d+)?)(?![\w.])")
 SHARE = re.compile(r"0(\.\d+)?|[12](\.0)?")
-NO_TOKEN = re.compile(r"\b(rotation|lineHeight|maximumLength|maximumValue)\s*:")
+NO_TOKEN = re.compile(r"\b(rotation|lineHeight|maximumLength)\s*:")
 NAMED = re.compile(r"readonly property (real|int) \w+: [\d.]+$")
 # Where the parts of a drawing stand, in units of the drawing.
 PLACE = re.compile(r"\{ x: -?[\d.]+, y: -?[\d.]+, size: [^}]*\}")

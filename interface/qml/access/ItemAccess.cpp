@@ -12,14 +12,20 @@ namespace leafund {
 
 namespace {
 
+// What the item declares its view to be. The view itself may come later than this is asked.
+QMetaType viewTypeOf(const QQuickItem& item) {
+  const auto& type = *item.metaObject();
+  return type.property(type.indexOfProperty("view")).metaType();
+}
+
 QAccessibleInterface* accessFor(const QString&, QObject* object) {
   auto* item = qobject_cast<QQuickItem*>(object);
   if (item == nullptr) return nullptr;
   if (item->inherits("QQuickTextInput") || item->inherits("QQuickTextEdit")) {
     return new InputAccess(item);
   }
-  if (item->metaObject()->indexOfProperty("maximumValue") >= 0) return new ProgressAccess(item);
-  if (item->metaObject()->indexOfProperty("heading") >= 0) return new WordsAccess(item);
+  if (item->inherits("QQuickText")) return new WordsAccess(item);
+  if (viewTypeOf(*item) == QMetaType::fromType<ProgressBridge*>()) return new ProgressAccess(item);
   return nullptr;
 }
 
@@ -58,12 +64,13 @@ bool ItemAccess::inSight() const {
 }
 
 QString ItemAccess::text(QAccessible::Text kind) const {
-  const auto written = [this](const char* property) {
-    return QQmlProperty::read(item(), property, qmlContext(item())).toString();
-  };
-  if (kind == QAccessible::Name) return written("Accessible.name");
-  if (kind == QAccessible::Description) return written("Accessible.description");
+  if (kind == QAccessible::Name) return written("Accessible.name").toString();
+  if (kind == QAccessible::Description) return written("Accessible.description").toString();
   return {};
+}
+
+QVariant ItemAccess::written(const char* property) const {
+  return QQmlProperty::read(item(), property, qmlContext(item()));
 }
 
 QAccessible::State ItemAccess::state() const {

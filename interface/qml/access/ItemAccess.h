@@ -34,6 +34,8 @@ class ItemAccess : public QAccessibleObject, public QAccessibleActionInterface {
   virtual QRectF area() const { return item()->boundingRect(); }
   virtual bool focusable() const { return item()->activeFocusOnTab(); }
   QRect onScreen(const QRectF& area) const;
+  // One of the item's `Accessible` lines, such as "Accessible.name".
+  QVariant written(const char* property) const;
 
  private:
   bool inSight() const;

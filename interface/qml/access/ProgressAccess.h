@@ -1,13 +1,15 @@
 #pragma once
 
+#include <cmath>
 #include <utility>
 
 #include "interface/qml/access/ItemAccess.h"
+#include "interface/qml/bridge/ProgressBridge.h"
 
 namespace leafund {
 
 // A progress bar: how far it is, as a value between two others. Qt Quick tells of values only for
-// what a user can move. The item has the properties value, minimumValue and maximumValue.
+// what a user can move. In per cent.
 class ProgressAccess final : public ItemAccess, public QAccessibleValueInterface {
  public:
   using ItemAccess::ItemAccess;
@@ -30,9 +32,12 @@ class ProgressAccess final : public ItemAccess, public QAccessibleValueInterface
     return movable ? nullptr : static_cast<QAccessibleValueInterface*>(this);
   }
 
-  QVariant currentValue() const override { return item()->property("value"); }
-  QVariant minimumValue() const override { return item()->property("minimumValue"); }
-  QVariant maximumValue() const override { return item()->property("maximumValue"); }
+  QVariant currentValue() const override {
+    const auto* view = item()->property("view").value<ProgressBridge*>();
+    return std::round((view ? view->progress() : 0) * 100);
+  }
+  QVariant minimumValue() const override { return 0; }
+  QVariant maximumValue() const override { return 100; }
   QVariant minimumStepSize() const override { return 0; }
   void setCurrentValue(const QVariant&) override {}  // it shows, and is not to be moved
 

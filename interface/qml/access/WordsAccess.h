@@ -4,14 +4,14 @@
 
 namespace leafund {
 
-// Words to read. Qt Quick would have all of them take the focus, as if they were controls. The item
-// has the properties heading, and takesFocus where a reader is put when the screen comes.
+// Words to read. Qt Quick would have all of them take the focus, as if they were controls; only
+// those do that a reader is put on when the screen comes, which have the property takesFocus.
 class WordsAccess final : public ItemAccess {
  public:
   using ItemAccess::ItemAccess;
 
   QAccessible::Role role() const override {
-    return item()->property("heading").toBool() ? QAccessible::Heading : QAccessible::StaticText;
+    return written("Accessible.role").value<QAccessible::Role>();
   }
   void setText(QAccessible::Text, const QString&) override {}
 
