@@ -15,6 +15,15 @@ Rectangle {
     border { width: view.borderWidth; color: view.drawnAs(view.borderColor, Theme.black, Theme.white) }
     radius: view.cornerRadius
 
+    Connections {
+        target: area.view
+        function onScrolledToTop() {
+            for (let each = area.parent; each; each = each.parent)
+                if (each.goBackTo)
+                    return each.goBackTo(area);
+        }
+    }
+
     Words {
         id: words
         view: area.view

@@ -54,6 +54,13 @@ Item {
         flickable.contentY = placed;
     }
 
+    // Back to the top of what the user has scrolled past; a page that is just opened stays.
+    function goBackTo(item: Item) {
+        const top = column.y + item.mapToItem(column, 0, 0).y;
+        if (top < flickable.contentY)
+            flickable.contentY = Math.max(0, top - Theme.wide);
+    }
+
     function scrollBy(distance) {
         const lowest = Math.max(0, flickable.contentHeight - flickable.height);
         flickable.contentY = Math.max(0, Math.min(lowest, flickable.contentY + distance));

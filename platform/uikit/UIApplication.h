@@ -19,11 +19,10 @@ namespace leafund {
 class UINavigationController;
 class UITableView;
 
-// The application's one window: its root is the stack of screens.
+// The application's one window: it keeps the stack of screens alive.
 class UIWindow {
  public:
   explicit UIWindow(std::shared_ptr<UINavigationController> root) : root_(std::move(root)) {}
-  const std::shared_ptr<UINavigationController>& rootViewController() const { return root_; }
 
  private:
   std::shared_ptr<UINavigationController> root_;

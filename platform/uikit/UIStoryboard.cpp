@@ -67,7 +67,7 @@ void UIStoryboard::perform(const SegueDescription& description,
   const bool pushes = description.kind == SegueKind::Push;
   auto destination = pushes ? instantiateViewControllerWithIdentifier(description.destination)
                             : navigation->nearestBelow(*source, description.destination);
-  UIStoryboardSegue segue(description.identifier, source, destination);
+  UIStoryboardSegue segue(description.identifier, destination);
   source->prepareForSegueSender(segue, sender);
   if (pushes) {
     navigation->pushViewController(std::move(destination));

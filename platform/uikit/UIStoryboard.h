@@ -33,21 +33,16 @@ struct SegueDescription {
 // A transition under way, as the source's prepareForSegueSender meets it.
 class UIStoryboardSegue {
  public:
-  UIStoryboardSegue(std::string identifier, std::shared_ptr<UIViewController> source,
-                    std::shared_ptr<UIViewController> destination)
-      : identifier_(std::move(identifier)),
-        source_(std::move(source)),
-        destination_(std::move(destination)) {}
+  UIStoryboardSegue(std::string identifier, std::shared_ptr<UIViewController> destination)
+      : identifier_(std::move(identifier)), destination_(std::move(destination)) {}
 
   const std::string& identifier() const { return identifier_; }
-  const std::shared_ptr<UIViewController>& sourceViewController() const { return source_; }
   const std::shared_ptr<UIViewController>& destinationViewController() const {
     return destination_;
   }
 
  private:
   std::string identifier_;
-  std::shared_ptr<UIViewController> source_;
   std::shared_ptr<UIViewController> destination_;
 };
 

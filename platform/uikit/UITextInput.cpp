@@ -37,7 +37,8 @@ void UITextInput::resignFirstResponder() {
 }
 
 void UITextView::scrollRangeToVisible(NSRange range) {
-  scrolledToTop_ = range.location == 0;
+  if (range.location != 0) return;
+  ++scrollsToTop_;
   changed();
 }
 

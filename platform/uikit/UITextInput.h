@@ -82,14 +82,15 @@ class UITextView : public UITextInput {
   ViewKind kind() const override { return ViewKind::TextView; }
   bool editable() const override { return editable_; }
   void setEditable(bool editable) { editable_ = editable; }
-  // Scrolls so that the range is seen. Only the top is ever asked for, where every text begins on
-  // the window anyhow, so the view remembers no more than that it was asked.
+  // A range at the beginning takes a reader back to the top of the text who has scrolled past it.
+  // No other range is ever asked for, and none moves anything.
   void scrollRangeToVisible(NSRange range);
-  bool scrolledToTop() const { return scrolledToTop_; }
+  // Only ever grows. A host shows the top when it has changed.
+  unsigned scrollsToTop() const { return scrollsToTop_; }
 
  private:
   bool editable_ = true;
-  bool scrolledToTop_ = false;
+  unsigned scrollsToTop_ = 0;
 };
 
 }  // namespace leafund

@@ -225,12 +225,14 @@ TEST_F(UITextInputTest, AnInputThatGoesWhileItIsEditedIsNoLongerTheOneBeingEdite
   EXPECT_EQ(user().firstResponder(), nullptr);
 }
 
-TEST_F(UITextInputTest, ScrollingToTheFirstCharacterShowsTheTop) {
-  EXPECT_FALSE(reading->scrolledToTop());
+TEST_F(UITextInputTest, ScrollingToTheFirstCharacterAsksTheHostForTheTopEachTime) {
+  EXPECT_EQ(reading->scrollsToTop(), 0U);
   reading->scrollRangeToVisible({0, 1});
-  EXPECT_TRUE(reading->scrolledToTop());
+  EXPECT_EQ(reading->scrollsToTop(), 1U);
   reading->scrollRangeToVisible({100, 1});
-  EXPECT_FALSE(reading->scrolledToTop());
+  EXPECT_EQ(reading->scrollsToTop(), 1U);
+  reading->scrollRangeToVisible({0, 0});
+  EXPECT_EQ(reading->scrollsToTop(), 2U);
 }
 
 }  // namespace

@@ -44,7 +44,7 @@ TEST_F(CampaignTableDeathTest, AMissingTableOrRootViewIsFatal) {
   EXPECT_DEATH(screen->viewWillAppear(false), "the table view is absent");
   EXPECT_DEATH(screen->tableViewCellForRowAtIndexPath(*table, {0, 0}), "the table view is absent");
   const auto update = makeScreen<UpdatePageVC>("UpdatePageVC");
-  UIStoryboardSegue segue("campaignSegue", screen, update);
+  UIStoryboardSegue segue("campaignSegue", update);
   EXPECT_DEATH(screen->prepareForSegueSender(segue, shown), "the table view is absent");
   EXPECT_DEATH(screen->tableViewWillDisplayCellForRowAtIndexPath(*table, shown, {0, 0}),
                "the root view is absent");
@@ -53,7 +53,7 @@ TEST_F(CampaignTableDeathTest, AMissingTableOrRootViewIsFatal) {
 TEST_F(CampaignTableDeathTest, ASegueWhoseSenderIsNoRowOfTheTableIsFatalWhateverTheDestination) {
   open("browseTab");
   const auto update = makeScreen<UpdatePageVC>("UpdatePageVC");
-  UIStoryboardSegue segue("campaignSegue", screen, update);
+  UIStoryboardSegue segue("campaignSegue", update);
   EXPECT_DEATH(screen->prepareForSegueSender(segue, nullptr), "the segue's sender is not a row");
   EXPECT_DEATH(screen->prepareForSegueSender(segue, screen), "the segue's sender is not a row");
   const auto foreign = std::make_shared<UITableViewCell>(UITableViewCellStyle::Subtitle, "abc");

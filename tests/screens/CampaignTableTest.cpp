@@ -174,7 +174,7 @@ TEST_F(CampaignTableTest, EachListPassesItsOwnName) {
 TEST_F(CampaignTableTest, TheSeguesIdentifierIsNotLookedAt) {
   open("browseTab");
   const auto detail = makeScreen<OneCampaignViewController>("OneCampaignViewController");
-  UIStoryboardSegue segue("anything", screen, detail);
+  UIStoryboardSegue segue("anything", detail);
   screen->prepareForSegueSender(segue, cell(3));
   EXPECT_EQ(detail->campaignNum, 3);
 }
@@ -182,7 +182,7 @@ TEST_F(CampaignTableTest, TheSeguesIdentifierIsNotLookedAt) {
 TEST_F(CampaignTableTest, AnotherDestinationReceivesNothing) {
   open("browseTab");
   const auto update = makeScreen<UpdatePageVC>("UpdatePageVC");
-  UIStoryboardSegue segue("campaignSegue", screen, update);
+  UIStoryboardSegue segue("campaignSegue", update);
   screen->prepareForSegueSender(segue, cell(3));
   EXPECT_EQ(update->campaignNum, std::nullopt);
   EXPECT_EQ(update->campaignSendingYou, std::nullopt);

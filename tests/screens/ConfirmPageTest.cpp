@@ -165,7 +165,7 @@ TEST_F(ConfirmPageTest, LoadingWritesThePositionAndHidesTheBackButton) {
 TEST_F(ConfirmPageTest, TheThankYouScreenLearnsWhoSentItWhateverTheIdentifier) {
   for (const auto* identifier : {"yesSegue", "noSegue"}) {
     const auto thanks = makeScreen<ThankYouVC>("ThankYouVC");
-    UIStoryboardSegue segue(identifier, page.screen, thanks);
+    UIStoryboardSegue segue(identifier, thanks);
     page->prepareForSegueSender(segue, page.screen);
     EXPECT_EQ(thanks->pageFrom, "ConfirmPageVC");
   }
@@ -173,7 +173,7 @@ TEST_F(ConfirmPageTest, TheThankYouScreenLearnsWhoSentItWhateverTheIdentifier) {
 
 TEST_F(ConfirmPageTest, AnotherDestinationReceivesNothing) {
   const auto other = makeScreen<ConfirmPageVC>("ConfirmPageVC");
-  UIStoryboardSegue segue("noSegue", page.screen, other);
+  UIStoryboardSegue segue("noSegue", other);
   page->prepareForSegueSender(segue, page.screen);
   EXPECT_EQ(other->campaignNum, std::nullopt);
   EXPECT_EQ(other->dollarsDonated, std::nullopt);

@@ -188,14 +188,14 @@ TEST_F(NewCampaignTest, NothingIsEverUnmarked) {
 
 TEST_F(NewCampaignTest, TheThankYouScreenLearnsWhoSentItWhateverTheIdentifier) {
   const auto thanks = makeScreen<ThankYouVC>("ThankYouVC");
-  UIStoryboardSegue segue("anything", form.screen, thanks);
+  UIStoryboardSegue segue("anything", thanks);
   form->prepareForSegueSender(segue, nullptr);
   EXPECT_EQ(thanks->pageFrom, "NewCampaignVC");
 }
 
 TEST_F(NewCampaignTest, AnotherDestinationReceivesNothing) {
   const auto confirm = makeScreen<ConfirmPageVC>("ConfirmPageVC");
-  UIStoryboardSegue segue("campaignCreatedSegue", form.screen, confirm);
+  UIStoryboardSegue segue("campaignCreatedSegue", confirm);
   form->prepareForSegueSender(segue, nullptr);
   EXPECT_EQ(confirm->campaignNum, std::nullopt);
 }

@@ -74,7 +74,7 @@ TEST_F(OneCampaignTest, FramesThePictureRoundAndTheTextWithALine) {
   const CALayer& text = std::as_const(*detail->campaignText.get()).layer();
   EXPECT_EQ(text.borderWidth(), 1.0);
   EXPECT_EQ(text.borderColor(), UIColor::blackColor().CGColor());
-  EXPECT_TRUE(detail->campaignText->scrolledToTop());
+  EXPECT_EQ(detail->campaignText->scrollsToTop(), 1U);
 }
 
 TEST_F(OneCampaignTest, AGoalOfZeroWithNothingRaisedCountsAsFunded) {
@@ -177,7 +177,7 @@ TEST_F(OneCampaignTest, TheUpdatePageLearnsPositionAndListAlsoWhenAbsent) {
   detail->campaignNum = 1;
   detail->campaignSendingYou = "campaignsIFunded";
   const auto update = makeScreen<UpdatePageVC>("UpdatePageVC");
-  UIStoryboardSegue segue("any", detail.screen, update);
+  UIStoryboardSegue segue("any", update);
   detail->prepareForSegueSender(segue, nullptr);
   EXPECT_EQ(update->campaignNum, 1);
   EXPECT_EQ(update->campaignSendingYou, "campaignsIFunded");
@@ -192,7 +192,7 @@ TEST_F(OneCampaignTest, TheConfirmationLearnsAmountAndPosition) {
   detail->campaignNum = 4;
   detail->dollarsDonated = 12.5F;
   const auto confirm = makeScreen<ConfirmPageVC>("ConfirmPageVC");
-  UIStoryboardSegue segue("any", detail.screen, confirm);
+  UIStoryboardSegue segue("any", confirm);
   detail->prepareForSegueSender(segue, nullptr);
   EXPECT_EQ(confirm->campaignNum, 4);
   EXPECT_EQ(confirm->dollarsDonated, 12.5F);
@@ -200,7 +200,7 @@ TEST_F(OneCampaignTest, TheConfirmationLearnsAmountAndPosition) {
 
 TEST_F(OneCampaignTest, AnyOtherDestinationLearnsNothing) {
   const auto thanks = makeScreen<ThankYouVC>("ThankYouVC");
-  UIStoryboardSegue segue("campaignFundedSegue", detail.screen, thanks);
+  UIStoryboardSegue segue("campaignFundedSegue", thanks);
   detail->prepareForSegueSender(segue, nullptr);
   EXPECT_EQ(thanks->pageFrom, std::nullopt);
 }

@@ -71,12 +71,9 @@ def operations(text):
 
 # Toolkit operations that the application never calls, and why they are there all the same.
 KEPT = {
-    "actionsForControlEvent": "says what a control is wired to, which nothing else shows before it is used",
+    "actionsForControlEvent": "names the action that a control is wired to, which its effect does not",
     "releaseView": "a screen whose view went and came again is a case that every screen must survive",
-    "rootViewController": "what a window is made of can be seen",
     "rowHeight": "a table remembers what it is told, and is laid out by its delegate all the same",
-    "scrolledToTop": "what a text view was asked to show can be seen",
-    "sourceViewController": "a segue tells both its ends",
     "unconnectedOutlets": "an outlet without a view ends the process only when it is used",
 }
 

@@ -79,6 +79,8 @@ void TextFieldBridge::pressReturn() {
 void TextViewBridge::read(const UIView& view) {
   TextInputBridge::read(view);
   take(layer_, view.layer(), &TextViewBridge::layerChanged);
+  take(scrollsToTop_, static_cast<const UITextView&>(view).scrollsToTop(),
+       &TextViewBridge::scrolledToTop);
 }
 
 QColor TextViewBridge::borderColor() const {

@@ -96,12 +96,15 @@ class TextViewBridge : public leafund::TextInputBridge {
 
  signals:
   void layerChanged();
+  // Logic asks for the top of the text.
+  void scrolledToTop();
 
  protected:
   void read(const UIView& view) override;
 
  private:
   CALayer layer_;
+  unsigned scrollsToTop_ = 0;
 };
 
 }  // namespace leafund
