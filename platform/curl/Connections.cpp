@@ -22,8 +22,8 @@ int portOf(curl_socket_t socket, decltype(&getsockname) nameOf) {
 
 enum class Heard { Nothing, Bytes, End };
 
-// Last words before the end are none too many: a host may say why it closes a connection that was
-// idle, and TLS always does.
+// Bytes before a close are not surplus bytes: a host may say why it closes an idle connection, and
+// TLS always does.
 Heard heardOn(curl_socket_t socket) {
   char byte = 0;
   const auto count = recv(socket, &byte, 1, MSG_PEEK | MSG_DONTWAIT);

@@ -54,8 +54,8 @@ CurlHandle::CurlHandle(const CurlLibrary& curl, Connections& connections, std::s
   set(CURLOPT_HTTP_VERSION, long{CURL_HTTP_VERSION_1_1});
   set(CURLOPT_PROTOCOLS_STR, "http,https");
   set(CURLOPT_SSLVERSION, long{CURL_SSLVERSION_TLSv1_2});  // or newer, whatever the system allows
-  // Nothing around the application decides whom it asks, and no picture host on the loopback is
-  // beyond reach because the system has a proxy, whose refusal would be taken for a picture.
+  // No proxy of the environment: a picture host on the loopback address must stay reachable, and
+  // the proxy's error page would be taken for a picture.
   set(CURLOPT_PROXY, "");
   set(CURLOPT_USERAGENT, "Leafund");
   // Sent as a header: CURLOPT_ACCEPT_ENCODING would also decompress.

@@ -24,14 +24,14 @@ class CurlHandle {
   CurlHandle& operator=(const CurlHandle&) = delete;
   ~CurlHandle();
 
-  // What libcurl knows it by.
+  // libcurl's easy handle; null for want of memory.
   CURL* get() const { return handle_; }
 
-  // Forgets the last answer and turns to that address.
+  // Drops the last answer; the next transfer goes to that address.
   void aim(const WebAddress& address, Connections::Use use);
   Connections::Use use() const { return use_; }
 
-  // When the last piece of the answer came, or the handle was aimed.
+  // When data last arrived, or when the handle was aimed.
   Clock::time_point lastSign() const { return lastSign_; }
 
   // Zero when no answer has begun.
@@ -40,8 +40,8 @@ class CurlHandle {
   bool usedAKeptConnection() const { return usesAKeptConnection_; }
   // That the answer came by; CURL_SOCKET_BAD when it is closed.
   curl_socket_t socket() const;
-  // Whether libcurl closed the connection although the answer had an end of its own and did not say
-  // that it was the last: bytes came behind it in the same packet.
+  // Whether libcurl closed a connection that the answer left open: surplus bytes followed the
+  // answer in the same packet.
   bool hadBytesBehind() const;
 
   // Of an answer that arrived whole.

@@ -59,7 +59,7 @@ std::string CurlSession::openNetwork() {
   if (!curl_->failure().empty()) return curl_->failure();
   CURLM* const multi = curl_->multiInit();
   if (multi == nullptr) return "no memory";
-  // Without descriptors of its own it could not be woken for what is added later, nor for the end.
+  // Without descriptors the thread could not be woken, neither for new fetches nor to end.
   if (curl_->multiWakeup(multi) != CURLM_OK) {
     curl_->multiCleanup(multi);
     return "no descriptors";

@@ -33,7 +33,7 @@ CurlTransfer::~CurlTransfer() {
 void CurlTransfer::start(std::string url, CompletionHandler completion) {
   if (!session_) {
     session_ = std::make_unique<CurlSession>(limits_, library_);
-    // And not std::thread, which throws.
+    // std::thread would throw where no thread can be had.
     const int failure = pthread_create(&thread_, nullptr, &runSession, session_.get());
     if (failure != 0) {
       session_.reset();

@@ -6,7 +6,7 @@ namespace leafund {
 
 namespace {
 
-// What is laid into a row besides is of a class of its own, or has no ground.
+// Whatever else lies in a row is of a derived class or has no background colour.
 bool isCard(const UIView& view) {
   return view.kind() == ViewKind::Plain && view.layer().backgroundColor().has_value();
 }

@@ -16,16 +16,15 @@ struct DecodedPicture {
   ColourTransform toSRgb;
 };
 
-// What is decoded is bounded by counts and not by time, so that a body looks the same on every
-// machine. All that is made of one picture takes at most so many bytes; what would take more is
-// null.
+// Decoding is bounded by counts and not by time, so that a body looks the same on every machine.
+// All memory for one picture, in bytes; a picture that needs more is null.
 inline constexpr long long kMostPictureBytes = 256'000'000;
-// All rows of a PNG, unpacked; one that has more is null.
+// All rows of a PNG, uncompressed, in bytes; one that has more is null.
 inline constexpr std::size_t kMostPngBytes = 350'000'000;
-// Of a lossy WebP so many bytes are looked at, which take as long as the most of a JPEG.
+// The bytes of a lossy WebP that are decoded, which take as long as the largest JPEG.
 inline constexpr std::size_t kMostWebPBytes = 32'000'000;
-// Each scan of a JPEG counts its pixels, and each byte counts as some; behind so many of them the
-// rest is left out.
+// In pixels: each scan of a JPEG counts its own, and each byte counts as some. The rest is left
+// out.
 inline constexpr long long kMostJpegWork = 600'000'000;
 
 // At a size that is no smaller than `enough`, in pixels, unless the picture is, and not much

@@ -23,7 +23,7 @@ const QString kInterface = QStringLiteral("org.freedesktop.portal.Settings");
 const QString kAppearance = QStringLiteral("org.freedesktop.appearance");
 const QString kDesktop = QStringLiteral("org.gnome.desktop.interface");
 
-// To look for a bus where there is none would start one, which takes a seventh of the start.
+// Connecting where there is no session bus would launch one, which takes a seventh of the start.
 bool busIsThere() {
   const auto runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");
   return qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS") ||

@@ -47,8 +47,8 @@ class HeldMessages {
     held_.push_back({type, context.category, text});
   }
 
-  // Qt's last words are of plugins, whichever it tried; what one of them warned of says more, but
-  // not what it needs to be loaded, which newer versions remind of always.
+  // Qt's fatal message only lists platform plugins. A plugin's own warning says what went wrong;
+  // newer versions also print a general hint at a missing package, which is skipped.
   static QString reasonOf(const QString& last) {
     if (!last.contains(QLatin1String("platform plugin"))) return last;
     const auto warning = std::find_if(held_.rbegin(), held_.rend(), [](const Message& each) {

@@ -24,7 +24,7 @@ class FocusWatch : public QObject {
 
   // The pointer's press is part of an earlier one, which was meant for another screen.
   Q_INVOKABLE bool pressContinues() const;
-  // Whatever comes next is a new entering: the editing was ended while the window was put aside.
+  // The editing ended while the window was inactive, so the next input counts as entering again.
   Q_INVOKABLE void leave() { inside_ = false; }
 
   bool eventFilter(QObject* object, QEvent* event) override;

@@ -6,7 +6,7 @@
 
 namespace leafund {
 
-// What is used of giflib, loaded when the first GIF is drawn. Each as the library names it.
+// The functions of giflib that we call, by its own names. Loaded when the first GIF is drawn.
 class GifLibrary : public LoadedLibrary {
  public:
   static const GifLibrary& get() {

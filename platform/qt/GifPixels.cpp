@@ -16,7 +16,7 @@ struct Source {
   const std::stop_token& stop;
 };
 
-// Ends early when nobody waits any more, as a body that was cut short does.
+// Once a stop is requested, the body seems to end there, like one that was cut short.
 int readBody(GifFileType* gif, GifByteType* to, int count) {
   auto& source = *static_cast<Source*>(gif->UserData);
   if (source.stop.stop_requested()) return 0;

@@ -9,7 +9,8 @@
 
 namespace leafund {
 
-// What is used of libjpeg-turbo, loaded when the first JPEG is drawn. Each as the library names it.
+// The functions of libjpeg-turbo that we call, by its own names. Loaded when the first JPEG is
+// drawn.
 class JpegLibrary : public LoadedLibrary {
  public:
   static const JpegLibrary& get() {

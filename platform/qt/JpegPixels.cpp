@@ -100,7 +100,7 @@ class JpegDecoder {
   }
 
  private:
-  // Whether the step came to its end. It may be left anywhere, so it owns nothing.
+  // Whether the step finished. An error leaves it by longjmp, so it must own nothing.
   template <typename Step>
   bool tried(Step step) {
     if (setjmp(errors_.back) != 0) return false;
@@ -184,13 +184,13 @@ class JpegDecoder {
       if (state == JPEG_ROW_COMPLETED || state == JPEG_SCAN_COMPLETED) work_ += workOfABlockRow;
       countBytes();
     }
-    // A scan that is shown while it comes would be read to its end.
+    // Not the scan that is still arriving: libjpeg would read it to its end.
     const bool isWhole = state == JPEG_REACHED_EOI;
     const int scan = picture_.input_scan_number;
     jpeg_.startOutput(&picture_, isWhole || scan <= 1 ? scan : scan - 1);
   }
 
-  // Those that were read since it was last asked. Once the source is used up there are no more.
+  // Counts the bytes read since the last call; none once the source is used up.
   void countBytes() {
     const std::size_t left = source_.isUsedUp ? 0 : source_.manager.bytes_in_buffer;
     const auto read = static_cast<long long>(std::exchange(bytesLeft_, left) - left);

@@ -95,7 +95,7 @@ QImage middle(const QImage& picture, QSizeF whole, QSize pixels) {
   return result;
 }
 
-// A damaged picture is passed over without a word, and Qt would warn of it.
+// Qt would warn of a damaged picture on standard error.
 void silenceQt() {
   static std::once_flag silenced;
   std::call_once(silenced, [] {

@@ -9,7 +9,7 @@ namespace leafund {
 
 namespace {
 
-// Of the file to that of the light, as far as it is believed.
+// The range of gAMA values that are believed.
 constexpr double kLeastGamma = 16e-5;
 constexpr double kMostGamma = 6250;
 
@@ -20,7 +20,7 @@ class PngDecoder {
   DecodedPicture decode(std::string_view body) {
     png_ = png_create_read_struct(PNG_LIBPNG_VER_STRING, nullptr, nullptr, nullptr);
     if (png_ != nullptr) info_ = png_create_info_struct(png_);
-    // Whatever goes wrong, what has come by then stays.
+    // On an error, the rows decoded so far stay.
     if (info_ != nullptr && setjmp(png_jmpbuf(png_)) == 0) read(body);
     png_destroy_read_struct(&png_, &info_, nullptr);
     return std::move(decoded_);
@@ -32,7 +32,7 @@ class PngDecoder {
   }
 
   void read(std::string_view body) {
-    // A damaged picture is passed over without a word.
+    // No messages on standard error about a damaged picture.
     png_set_error_fn(
         png_, nullptr, [](png_structp png, png_const_charp) { png_longjmp(png, 1); },
         [](png_structp, png_const_charp) {});

@@ -18,11 +18,11 @@ namespace leafund {
 
 namespace {
 
-// How far apart two touches of a finger that means one place may lie, in points: half of the least
-// that a control is high. What Qt counts as a double tap is less than fingers scatter.
+// How far apart the two touches of a double tap may lie, in points: half the minimum height of a
+// control. Qt's own limit is smaller than fingers scatter.
 constexpr int kFingertip = 24;
 
-// For comparison alone.
+// Only to be compared, never dereferenced.
 const void* topScreen() {
   const auto* application = UIApplication::current();
   if (application == nullptr || application->navigation() == nullptr) return nullptr;

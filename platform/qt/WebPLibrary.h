@@ -6,7 +6,7 @@
 
 namespace leafund {
 
-// What is used of libwebp, loaded when the first WebP is drawn. Each as the library names it.
+// The functions of libwebp that we call, by its own names. Loaded when the first WebP is drawn.
 class WebPLibrary : public LoadedLibrary {
  public:
   static const WebPLibrary& get() {

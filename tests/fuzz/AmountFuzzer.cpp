@@ -39,8 +39,8 @@ bool sameValue(float one, float other) {
   return one == other;
 }
 
-// Beyond the range of a float the second opinion only knows that it is beyond; the wider type tells
-// on which side.
+// Outside the range of a float the reference only knows that it is outside; the wider type tells on
+// which side.
 bool isBeyondRange(float magnitude, const std::string& digits) {
   const bool large = strtold_l(digits.c_str(), nullptr, cLocale()) > 1;
   return large ? std::isinf(magnitude) : magnitude <= std::numeric_limits<float>::min();

@@ -3,7 +3,7 @@
 #include <string_view>
 
 // One function a fuzzer. Each does with its input what the application does with bytes that come
-// from outside, asks a second opinion, and ends the process through promised() when a promise of
+// from outside, asks a reference, and ends the process through promised() when a promise of
 // the application is broken. FuzzEntry.cpp gives them inputs without end; CorporaTest.cpp gives
 // them the inputs that are kept.
 namespace leafund::fuzz {

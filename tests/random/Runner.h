@@ -53,7 +53,7 @@ struct Order {
 // Runs sequences until there were that many actions, or one diverged, which is then answered.
 std::optional<Plan> runSequences(const Order& order, const FreeWording& wording, Totals& totals);
 
-// Has what the forked processes would each make anew made once beforehand; not the catalogue.
+// Fills, before forking, the caches that each process would fill again; not the catalogue.
 void warmUp();
 
 // The command: runs or replays what the arguments say. Answers 0 when application and reference

@@ -100,7 +100,7 @@ def skin_loaders(project):
     ]
 
 
-def second_opinion(project):
+def reference_model(project):
     """What the application is compared with must not be made of its own code."""
     return [
         f"{path}:{number} includes {target[1:]}"
@@ -116,6 +116,6 @@ CHECKS = (
     ("every source has a room", "move it, or add its room to tools/checks/arrows.py", homeless),
     ("includes from the top", 'write #include "room/File.h"', relative),
     ("libraries at home", "reach the library through its room's own header", libraries),
-    ("second opinion on its own", "the reference knows the standard library alone", second_opinion),
+    ("reference model on its own", "it may include the standard library alone", reference_model),
     ("one loader of skins", "only main may know interface/qml", skin_loaders),
 )
