@@ -94,6 +94,7 @@ runWindow
 runMany
 runCounts
 runTool "guide: a first change" '^OK ' '^FAIL ' tools/follow "A first change"
+runTool "guide: a new screen" '^OK ' '^FAIL ' tools/follow "A new screen"
 installMissing package
 runTool packages '^OK ' '^FAIL ' tools/check-packages
 startTool fuzz tools/fuzz all 60  # one processor's work, while the suites wait for windows and servers

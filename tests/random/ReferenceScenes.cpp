@@ -53,8 +53,10 @@ View hidden(View view) {
 }
 
 std::vector<View> landing() {
-  return {label("brand"),         label("tagline"), field("userEmail", kEmail), secret("password"),
-          button("signInButton"), label("newHere"), button("signUpButton")};
+  return {label("brand"), label("tagline"), field("userEmail", kEmail), secret("password"),
+          button("signInButton"),
+          // Other ways on.
+          label("newHere"), button("signUpButton")};
 }
 
 std::vector<View> signUp() {

@@ -108,14 +108,6 @@ void Table::place(std::size_t row, const RowRef& object) {
   shown[row] = object;
 }
 
-const char* className(Scene scene) {
-  static constexpr const char* kNames[] = {
-      "LandingPageVC",  "SignUpVC",    "TabBarVC",     "OtherCampaignsTableViewController",
-      "FundCampaignVC", "MyProfileVC", "NewsFeedVC",   "OneCampaignViewController",
-      "ConfirmPageVC",  "ThankYouVC",  "UpdatePageVC", "NewCampaignVC"};
-  return kNames[static_cast<int>(scene)];
-}
-
 View* Screen::find(const std::string& name) {
   const auto found =
       std::find_if(views.begin(), views.end(), [&](const View& view) { return view.name == name; });

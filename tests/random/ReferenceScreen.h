@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <deque>
+#include <iterator>
 #include <map>
 #include <memory>
 #include <optional>
@@ -94,11 +95,16 @@ enum class Scene {
   Confirm,
   Thanks,
   Update,
-  NewCampaign
+  NewCampaign,
 };
-constexpr int kScenes = static_cast<int>(Scene::NewCampaign) + 1;
+// Their classes, in the same order.
+constexpr const char* kClassNames[] = {
+    "LandingPageVC",  "SignUpVC",    "TabBarVC",     "OtherCampaignsTableViewController",
+    "FundCampaignVC", "MyProfileVC", "NewsFeedVC",   "OneCampaignViewController",
+    "ConfirmPageVC",  "ThankYouVC",  "UpdatePageVC", "NewCampaignVC"};
+constexpr int kScenes = static_cast<int>(std::size(kClassNames));
 constexpr Scene kTabs[] = {Scene::Browse, Scene::Funded, Scene::Mine, Scene::News};
-const char* className(Scene scene);
+constexpr const char* className(Scene scene) { return kClassNames[static_cast<int>(scene)]; }
 
 struct Screen {
   Scene scene = Scene::Landing;

@@ -139,7 +139,6 @@ TEST(NavigationMapTest, EveryTransitionJoinsTwoScenesAndEverySceneIsReached) {
     EXPECT_TRUE(scenes.contains(segue.destination)) << segue.identifier;
     reached.insert(segue.destination);
   }
-  EXPECT_EQ(scenes.size(), 12U);
   EXPECT_EQ(reached, scenes);
 }
 
