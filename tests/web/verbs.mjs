@@ -6,6 +6,18 @@ export const rest = page => page.evaluate(async () => {
   await Promise.all(document.getAnimations().map(each => each.finished.catch(() => {})));
 });
 
+// Until a screen is to be seen and rests.
+export async function shown(page, scene) {
+  await page.waitForFunction(name => [...document.querySelectorAll(`[data-scene="${name}"]`)].some(each => each.checkVisibility()),
+    { timeout: 10_000 }, scene);
+  await rest(page);
+}
+
+// As far as the browser lets it go: without waiting for a page to load.
+export async function pressBack(page) {
+  await Promise.race([page.goBack({ waitUntil: "domcontentloaded", timeout: 1_500 }).catch(() => {}), new Promise(done => setTimeout(done, 800))]);
+}
+
 export function verbsFor(page, picturesAt) {
   const screen = "#screens > .screen:not([hidden])";
   const seenAt = name => page.$$eval(`${screen} [data-view="${name}"]`, found => found.some(each => each.checkVisibility()));
@@ -32,7 +44,7 @@ export function verbsFor(page, picturesAt) {
     await page.touchscreen.tap(centre.x, centre.y);
     await rest(page);
   };
-  return {
+  const verbs = {
     tap: name => tap(fieldOf(name)),
     tapRow: number => tap(row(number)),
     type: async (name, text) => {
@@ -73,5 +85,11 @@ export function verbsFor(page, picturesAt) {
     picture: name => shownIn(fieldOf(name)),
     rowPicture: number => shownIn(`${row(number)} img`),
     pictureAddress: name => `${picturesAt}/${name}`,
+    signIn: async () => {
+      await verbs.type("userEmail", "wren@example.org");
+      await verbs.type("password", "secret");
+      await verbs.tap("signInButton");
+    },
   };
+  return verbs;
 }

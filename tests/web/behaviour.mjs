@@ -1,0 +1,96 @@
+// What only the page does.
+import fs from "node:fs";
+import { serve } from "./server.mjs";
+import { expect } from "./testing.mjs";
+import { pressBack, shown } from "./verbs.mjs";
+
+export const tests = {
+  async everyViewHasItsOneElement({ page, app, errors }) {
+    await app.tap("signUpButton");
+    await pressBack(page);
+    await app.signIn();
+    for (const tab of ["fundedTab", "mineTab", "newsTab"]) await app.tap(tab);
+    await app.tap("mineTab");
+    await app.tap("newButton");
+    await shown(page, "NewCampaignVC");
+    expect(errors.length === 0, `no errors but ${errors.join("; ")}`);
+    const unbound = await page.evaluate(() => [...document.querySelectorAll(".screen [data-view] > span:first-child")]
+      .filter(each => each.closest("label") && !each.textContent).length);
+    expect(unbound === 0, "every input has its caption");
+  },
+  async aRowsBodyThatIsNoPictureStopsTheApplication({ page, app, errors, pictures }) {
+    pictures.lay("/vegetarian-for-peta.jpg", "<!doctype html>", "text/html");
+    await app.signIn();
+    await page.waitForFunction(() => document.getElementById("stopped").open, { timeout: 5_000 });
+    pictures.lay("/vegetarian-for-peta.jpg", fs.readFileSync(`${pictures.folder}/vegetarian-for-peta.jpg`), "image/jpeg");
+    const line = await page.$eval("#stopped p", each => each.textContent);
+    expect(line.startsWith("Leafund stopped: "), `it says why, not: ${line}`);
+    expect(errors.includes(line), "the line is on the console");
+    await page.tap("#stopped button");
+    await shown(page, "LandingPageVC");
+    await page.waitForFunction(() => !document.getElementById("stopped").open);
+  },
+  async theSecondTapOfADoubleTapBelongsToTheFirst({ page, app }) {
+    await app.signIn();
+    await page.evaluate(() => { window.taps = 0; addEventListener("click", () => ++window.taps, true); });
+    const row = await page.$(".screen:not([hidden]) li:not([hidden])");
+    const { x, y } = await row.boundingBox();
+    await page.mouse.click(x + 60, y + 150, { count: 2 });
+    await shown(page, "OneCampaignViewController");
+    expect(await page.evaluate(() => window.taps) === 1, "one click alone gets through");
+  },
+  async returnLeadsFromInputToInputAndEndsInTheLast({ page, app }) {
+    const inFocus = () => page.evaluate(() => document.activeElement.closest("[data-view]")?.dataset.view ?? "none");
+    await app.type("userEmail", "wren@example.org");
+    await page.keyboard.press("Enter");
+    expect(await inFocus() === "password", `the next input, not ${await inFocus()}`);
+    await page.keyboard.press("Enter");
+    expect(await inFocus() === "none", `no input, not ${await inFocus()}`);
+    await shown(page, "LandingPageVC");
+  },
+  async aListIsAColumnInTheMiddle({ page, app }) {
+    await app.signIn();
+    await shown(page, "OtherCampaignsTableViewController");
+    for (const [width, left, right] of [[390, 16, 374], [1280, 280, 1000]]) {
+      await app.resize(width, 800);
+      const row = await page.$eval(".screen:not([hidden]) li:not([hidden])", each => each.getBoundingClientRect().toJSON());
+      expect(row.left === left && row.right === right, `at ${width} from ${left} to ${right}, not ${row.left} to ${row.right}`);
+    }
+    expect(await page.$eval(".empty", each => each.hidden), "it is not empty");
+  },
+  async nothingIsStored({ page, app }) {
+    await app.signIn();
+    const kept = await page.evaluate(async () => [document.cookie, localStorage.length, sessionStorage.length,
+      (await indexedDB.databases()).length].join());
+    expect(kept === ",0,0,0", `cookie, local, session, databases: ${kept}`);
+  },
+  async afterOneVisitItStartsWithoutANetwork({ page, app, errors, site }) {
+    const passing = await serve({ "/": site });
+    await page.goto(`${passing.address}/`);
+    await page.evaluate(() => navigator.serviceWorker.ready.then(worker => worker.active.state === "activated" ||
+      new Promise(done => worker.active.addEventListener("statechange", done))));
+    const kept = await page.evaluate(async () => {
+      const [name] = await caches.keys();
+      return (await (await caches.open(name)).keys()).map(each => new URL(each.url).pathname);
+    });
+    expect(kept.includes("/leafund.wasm") && !kept.some(each => each.endsWith(".jpg")), `what is kept: ${kept}`);
+    passing.close();
+    await page.reload();
+    await shown(page, "LandingPageVC");
+    errors.length = 0;
+    await app.signIn();
+    await shown(page, "OtherCampaignsTableViewController");
+    expect((await app.rows()).startsWith("Vegetarian for PETA"), "the list is there");
+  },
+  async scriptsFromElsewhereAreRefused({ page }) {
+    const refused = await page.evaluate(() => new Promise(done => {
+      addEventListener("securitypolicyviolation", event => done(event.effectiveDirective), { once: true });
+      const script = document.createElement("script");
+      script.textContent = "window.strange = true";
+      document.head.append(script);
+      setTimeout(done, 1_000);
+    }));
+    expect(refused?.startsWith("script-src"), "the policy holds");
+    expect(!(await page.evaluate(() => window.strange)), "it has not run");
+  },
+};
