@@ -37,15 +37,20 @@ runWeb() {
   await node tests/web/walk.mjs "$pictureHost/" "$webBuild/tour"
 }
 
-# The suites of the page, a test in a page of its own.
-testWeb() {
+# Builds the page with its tests, in $folder.
+buildPageTests() {
   installMissing web
-  enter web
   installDriver
   local port
   port=$(ownPort "$webBuild")
   buildTree web "$folder" all -DLEAFUND_PICTURE_HOST="http://127.0.0.1:$port" -DLEAFUND_TESTS=ON
   export LEAFUND_PICTURE_PORT=$port
+}
+
+# The suites of the page, a test in a page of its own.
+testWeb() {
+  enter web
+  buildPageTests
   total=4
   local suite
   for suite in contract journeys; do

@@ -76,7 +76,7 @@ const bindings = {
       if (input.value !== look.text) input.value = look.text;
       input.ariaInvalid = String(!!look.wrong);
       const message = look.message ? look.text : "";
-      if (message && message !== announced) by("said").textContent = `${look.placeholder}: ${message}`;
+      if (message && message !== announced) by("said").append(`${look.placeholder}: ${message}. `);
       announced = message;
       if (!look.editing && document.activeElement === input) input.blur();
     };
@@ -89,6 +89,14 @@ const bindings = {
       if (element.role !== "tab") return;
       element.ariaSelected = String(!!look.selected);
       element.style.color = look.selected ? look.color : "";
+    };
+  },
+  P(element) {
+    // The reason that stands below an input describes it.
+    const input = element.role === "alert" && element.previousElementSibling.querySelector("input");
+    return look => {
+      writeText(element, look);
+      if (input) input.ariaDescription = look.hidden ? "" : look.text;
     };
   },
   NAV: element => look => {
@@ -281,7 +289,7 @@ wakeUp.port1.onmessage = () => tell("drain");
 const imports = {
   scene(id, place, at, size) {
     const { name, views: numbers } = jsonAt(at, size), template = by(name);
-    const element = document.createElement("section");
+    const element = document.createElement("div");
     element.className = "screen";
     element.dataset.scene = name;
     element.append(by(template.dataset.like ?? name).content.cloneNode(true));
@@ -315,6 +323,7 @@ const imports = {
     document.title = look.title ? `${look.title} – Leafund` : "Leafund";
     const before = shown;
     shown = { element, depth: look.depth };
+    if (before?.element !== element) by("said").textContent = "";
     if (before && before.element !== element) enter(element, look.depth >= before.depth);
     keepGuard();
   },

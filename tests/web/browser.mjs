@@ -1,4 +1,4 @@
-// A browser that nobody sees, with an empty profile. puppeteer-core is looked for in the folder that
+// A browser that nobody sees, with an empty profile. Packages of npm are looked for in the folder that
 // LEAFUND_WEB_DRIVER names.
 import { createRequire } from "node:module";
 import fs from "node:fs";
@@ -6,8 +6,8 @@ import os from "node:os";
 import path from "node:path";
 import { pathToFileURL } from "node:url";
 
-const driver = createRequire(path.resolve(process.env.LEAFUND_WEB_DRIVER, "package.json")).resolve("puppeteer-core");
-const { default: puppeteer } = await import(pathToFileURL(driver));
+export const driverFile = name => createRequire(path.resolve(process.env.LEAFUND_WEB_DRIVER, "package.json")).resolve(name);
+const { default: puppeteer } = await import(pathToFileURL(driverFile("puppeteer-core")));
 
 export const phone = { width: 390, height: 844, hasTouch: true, isMobile: true };
 
