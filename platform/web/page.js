@@ -245,23 +245,25 @@ async function download(id, address, idleSeconds, mostBytes) {
   else tell("failed", id);
 }
 
-// --- The ways back. While a screen lies above the first, an entry more stands in the history, so
-// that the browser's Back comes here. At the first screen Back leaves the page.
+// --- The ways back. For each screen above the first an entry more stands in the history, made when the
+// user went there: browsers skip entries that come without a touch or a key, and would leave the page at
+// the second Back in a row. At the first screen Back leaves the page.
 
-let guarded = history.state === "guard", passOver = 0;
+let level = history.state ?? 0, returning = false;
 
-function keepGuard() {
-  const wanted = shown.depth > 1;
-  if (wanted && !guarded) history.pushState("guard", "");
-  if (!wanted && guarded) { ++passOver; history.back(); }
-  guarded = wanted;
+function keepLevel() {
+  const wanted = shown.depth - 1;
+  if (returning) return;
+  while (level < wanted) history.pushState(++level, "");
+  if (level > wanted) { returning = true; history.go(wanted - level); }
 }
 
 addEventListener("popstate", () => {
-  if (passOver) return void --passOver;
-  guarded = history.state === "guard";
-  tell("goBack");
-  if (program) keepGuard();
+  const goesBack = !returning && (history.state ?? 0) < level;
+  level = history.state ?? 0;
+  returning = false;
+  if (goesBack) tell("goBack");
+  if (program) keepLevel();
 });
 
 // What was typed into the screen shown would be lost.
@@ -325,7 +327,7 @@ const imports = {
     shown = { element, depth: look.depth };
     if (before?.element !== element) by("said").textContent = "";
     if (before && before.element !== element) enter(element, look.depth >= before.depth);
-    keepGuard();
+    keepLevel();
   },
   cell(table, id, at, size) {
     const item = by("row").content.firstElementChild.cloneNode(true);

@@ -1,5 +1,6 @@
 // A browser that nobody sees, with an empty profile. Packages of npm are looked for in the folder that
 // LEAFUND_WEB_DRIVER names.
+import { execFileSync, spawn } from "node:child_process";
 import { createRequire } from "node:module";
 import fs from "node:fs";
 import os from "node:os";
@@ -11,10 +12,20 @@ const { default: puppeteer } = await import(pathToFileURL(driverFile("puppeteer-
 
 export const phone = { width: 390, height: 844, hasTouch: true, isMobile: true };
 
-export async function openBrowser() {
+// A screen of X that nobody sees, for what only a browser with a window does: its keys and buttons.
+export async function openScreen() {
+  const server = spawn("Xvfb", ["-displayfd", "3", "-screen", "0", "1400x1000x24", "-nolisten", "tcp"],
+    { stdio: ["ignore", "ignore", "ignore", "pipe"] });
+  const number = await new Promise((done, fail) => { server.stdio[3].once("data", done); server.once("error", fail); });
+  const env = { ...process.env, DISPLAY: `:${String(number).trim()}` };
+  return { env, press: keys => execFileSync("xdotool", ["key", keys], { env }), close: () => server.kill() };
+}
+
+// On that screen, or with no window at all.
+export async function openBrowser(screen) {
   const profile = fs.mkdtempSync(path.join(os.tmpdir(), "leafund-browser-"));
   const browser = await puppeteer.launch({
-    executablePath: "/usr/bin/chromium", headless: true, userDataDir: profile, protocolTimeout: 60_000,
+    executablePath: "/usr/bin/chromium", headless: !screen, userDataDir: profile, protocolTimeout: 60_000, env: screen?.env ?? process.env,
     args: ["--no-sandbox", "--disable-gpu", "--disable-quic", "--no-first-run", "--disable-background-networking",
       "--disable-component-update", "--disable-sync"],
   });

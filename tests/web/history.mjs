@@ -1,6 +1,6 @@
-// The browser's Back, and leaving.
+// The entries of the history, and leaving.
 import { expect } from "./testing.mjs";
-import { pressBack, shown } from "./verbs.mjs";
+import { shown } from "./verbs.mjs";
 
 // The history as the browser has it, which is not what a script may ask.
 async function history(page) {
@@ -11,32 +11,6 @@ async function history(page) {
 }
 
 export const tests = {
-  async backLeadsToTheScreenBelow({ page, app }) {
-    await app.signIn();
-    await app.tapRow(0);
-    await shown(page, "OneCampaignViewController");
-    await pressBack(page);
-    await shown(page, "OtherCampaignsTableViewController");
-  },
-  async backStaysWhereTheWayBackIsHidden({ page, app }) {
-    await app.signIn();
-    await app.tapRow(0);
-    await app.type("dollarAmountField", "5");
-    await app.tap("FundButton");
-    await shown(page, "ConfirmPageVC");
-    await pressBack(page);
-    await shown(page, "ConfirmPageVC");
-    await app.tap("noButton");
-    await shown(page, "OneCampaignViewController");
-  },
-  async backAtTheFirstScreenLeavesThePage({ page, app }) {
-    await app.tap("signUpButton");
-    await shown(page, "SignUpVC");
-    await pressBack(page);
-    await shown(page, "LandingPageVC");
-    await pressBack(page);
-    expect((await history(page)).address === "about:blank", "the page before is shown");
-  },
   async theButtonBackLeavesNoEntryBehind({ page, app }) {
     const before = await history(page);
     await app.tap("signUpButton");
@@ -53,5 +27,28 @@ export const tests = {
     await page.reload();
     expect(await asked === "beforeunload", "it asks");
     expect(await app.text("userEmail") === "", "every start begins anew");
+  },
+  async forwardLeadsNowhere({ page, app }) {
+    await app.tap("signUpButton");
+    await app.back();
+    await shown(page, "LandingPageVC");
+    await page.evaluate(() => history.forward());
+    await new Promise(done => setTimeout(done, 500));
+    await shown(page, "LandingPageVC");
+    expect(await page.evaluate(() => history.state) === null, "nothing is left to go back from");
+  },
+  async aScreenFurtherUpInTheHistoryIsLeftOneByOne({ page, app }) {
+    await app.signIn();
+    await app.tap("fundedTab");
+    await app.tapRow(0);
+    await app.tap("campaignUpdates");
+    await shown(page, "UpdatePageVC");
+    await page.evaluate(() => history.go(-2));
+    await shown(page, "OneCampaignViewController");
+    expect(await page.evaluate(() => history.state) === 2, "two entries stand below it");
+  },
+  async pullingDownDoesNotReload({ page }) {
+    const behaviour = await page.evaluate(() => getComputedStyle(document.documentElement).overscrollBehaviorY);
+    expect(behaviour === "none", `what is pulled over the edge does nothing, not ${behaviour}`);
   },
 };

@@ -2,44 +2,46 @@
 // line a test.
 import path from "node:path";
 import { fileURLToPath } from "node:url";
-import { openBrowser } from "./browser.mjs";
+import { openBrowser, openScreen } from "./browser.mjs";
 import { serve } from "./server.mjs";
 import { shown, verbsFor } from "./verbs.mjs";
 
 const [build, word = ""] = process.argv.slice(2);
-const rooms = ["behaviour", "history", "access"];
+const rooms = ["behaviour", "history", "back", "access"];
 const site = path.join(build, "site");
 const folder = path.join(path.dirname(fileURLToPath(import.meta.url)), "../../pictures");
 const pictures = { folder, ...await serve({ "/": folder }, Number(process.env.LEAFUND_PICTURE_PORT ?? 0)) };
 const server = await serve({ "/": site });
-const browser = await openBrowser();
 
 // In a page of its own.
-async function run(test) {
+async function run(browser, test, screen) {
   const opened = await browser.newPage();
   try {
     await opened.page.goto(`${server.address}/`);
     await shown(opened.page, "LandingPageVC");
-    await test({ ...opened, site, pictures, app: verbsFor(opened.page, pictures.address) });
+    await test({ ...opened, site, pictures, screen, app: verbsFor(opened.page, pictures.address) });
   } finally {
     await opened.close();
   }
 }
 
 for (const room of rooms) {
-  const { tests } = await import(`./${room}.mjs`);
-  for (const [name, test] of Object.entries(tests)) {
-    const whole = `${room}.${name}`;
-    if (!whole.includes(word)) continue;
+  const { tests, onScreen } = await import(`./${room}.mjs`);
+  const asked = Object.entries(tests).filter(([name]) => `${room}.${name}`.includes(word));
+  if (asked.length === 0) continue;
+  const screen = onScreen && await openScreen();
+  const browser = await openBrowser(screen);
+  for (const [name, test] of asked) {
     try {
-      await run(test);
-      console.log(`OK   ${whole}`);
+      await run(browser, test, screen);
+      console.log(`OK   ${room}.${name}`);
     } catch (error) {
       process.exitCode = 1;
-      console.log(`FAIL ${whole}\n     ${error.message}`);
+      console.log(`FAIL ${room}.${name}\n     ${error.message}`);
     }
   }
+  await browser.close();
+  if (screen) screen.close();
 }
-await browser.close();
 server.close();
 pictures.close();

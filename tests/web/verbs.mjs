@@ -66,7 +66,7 @@ export function verbsFor(page, picturesAt) {
     },
     // The browser's own; without the guard it would leave the application.
     back: async () => {
-      if (await page.evaluate(() => history.state === "guard")) {
+      if (await page.evaluate(() => history.state > 0)) {
         await page.evaluate(() => new Promise(done => { addEventListener("popstate", done, { once: true }); history.back(); }));
       }
       await rest(page);
