@@ -7,7 +7,7 @@ import { serve } from "./server.mjs";
 import { shown, verbsFor } from "./verbs.mjs";
 
 const [build, word = ""] = process.argv.slice(2);
-const rooms = ["behaviour", "history", "back", "access"];
+const rooms = ["behaviour", "history", "back", "list", "access"];
 const site = path.join(build, "site");
 const folder = path.join(path.dirname(fileURLToPath(import.meta.url)), "../../pictures");
 const pictures = { folder, ...await serve({ "/": folder }, Number(process.env.LEAFUND_PICTURE_PORT ?? 0)) };
@@ -19,7 +19,7 @@ async function run(browser, test, screen) {
   try {
     await opened.page.goto(`${server.address}/`);
     await shown(opened.page, "LandingPageVC");
-    await test({ ...opened, site, pictures, screen, app: verbsFor(opened.page, pictures.address) });
+    await test({ ...opened, newPage: browser.newPage, build, site, pictures, screen, app: verbsFor(opened.page, pictures.address) });
   } finally {
     await opened.close();
   }
