@@ -8,6 +8,9 @@ set(demoSummary "demonstration of Leafund with its pictures")
 set(demoDescription
 "The pictures of the demonstration campaigns, and a launcher that serves them to
 the app on the loopback address for as long as it is open.")
+set(webSummary "Leafund as a page for any browser")
+set(webDescription
+"The files of the page, for a web server to serve.")
 
 # A version that is still in the making is dated by today, or by SOURCE_DATE_EPOCH.
 string(TIMESTAMP today "%Y-%m-%d" UTC)
@@ -20,15 +23,17 @@ foreach(release IN LISTS releases)
   list(APPEND releaseLines "    ${line}")
 endforeach()
 list(JOIN releaseLines "\n" releaseLines)
-set(metainfo ${CMAKE_CURRENT_BINARY_DIR}/${appId}.metainfo.xml)
-configure_file(${appId}.metainfo.xml.in ${metainfo} @ONLY)
-if(NOT LEAFUND_SCREENSHOTS)
-  file(READ ${metainfo} text)
-  string(REGEX REPLACE "  <!-- Made by tools/tour.*</screenshots>\n\n" "" text "${text}")
-  file(WRITE ${metainfo} "${text}")
+if(LEAFUND_QT)
+  set(metainfo ${CMAKE_CURRENT_BINARY_DIR}/${appId}.metainfo.xml)
+  configure_file(${appId}.metainfo.xml.in ${metainfo} @ONLY)
+  if(NOT LEAFUND_SCREENSHOTS)
+    file(READ ${metainfo} text)
+    string(REGEX REPLACE "  <!-- Made by tools/tour.*</screenshots>\n\n" "" text "${text}")
+    file(WRITE ${metainfo} "${text}")
+  endif()
+  install(FILES ${metainfo}
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo COMPONENT app)
 endif()
-install(FILES ${metainfo}
-  DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo COMPONENT app)
 
 # Installs a file packed as the packages' rules ask for it: as small as it goes, and without a time.
 function(install_packed file name folder component)
@@ -38,18 +43,23 @@ function(install_packed file name folder component)
   install(FILES ${packed} DESTINATION ${folder} COMPONENT ${component})
 endfunction()
 
-# The manual page, the changelog and the copyright of a command that is a package of that name.
-function(document command component)
-  configure_file(man/${command}.1.in ${command}.1 @ONLY)
+# The changelog and the copyright of a package.
+function(record package component)
   set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS debian-changelog)
-  install_packed(${CMAKE_CURRENT_BINARY_DIR}/${command}.1 ${command}.1 ${CMAKE_INSTALL_MANDIR}/man1
-    ${component})
-  set(changelog ${CMAKE_CURRENT_BINARY_DIR}/${command}.changelog)
+  set(changelog ${CMAKE_CURRENT_BINARY_DIR}/${package}.changelog)
   execute_process(
     COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/debian-changelog
-      ${command} ${LEAFUND_REVISION} ${LEAFUND_CONTACT} ${today}
+      ${package} ${LEAFUND_REVISION} ${LEAFUND_CONTACT} ${today}
     INPUT_FILE ${PROJECT_SOURCE_DIR}/CHANGELOG.md OUTPUT_FILE ${changelog} COMMAND_ERROR_IS_FATAL ANY)
-  set(documents ${CMAKE_INSTALL_DATADIR}/doc/${command})
+  set(documents ${CMAKE_INSTALL_DATADIR}/doc/${package})
   install_packed(${changelog} changelog.Debian ${documents} ${component})
   install(FILES copyright DESTINATION ${documents} COMPONENT ${component})
+endfunction()
+
+# Those, and the manual page, of a command that is a package of that name.
+function(document command component)
+  configure_file(man/${command}.1.in ${command}.1 @ONLY)
+  install_packed(${CMAKE_CURRENT_BINARY_DIR}/${command}.1 ${command}.1 ${CMAKE_INSTALL_MANDIR}/man1
+    ${component})
+  record(${command} ${component})
 endfunction()
