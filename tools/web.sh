@@ -51,11 +51,12 @@ buildPageTests() {
 testWeb() {
   enter web
   buildPageTests
-  total=4
+  total=5
   local suite
   for suite in contract journeys; do
     runTool "$suite web" '^OK ' '^FAIL ' node tests/web/run.mjs "$folder" "$suite"
   done
+  LEAFUND_BROWSER=firefox runTool "journeys firefox" '^OK ' '^FAIL ' node tests/web/run.mjs "$folder" journeys
   runTool "page" '^OK ' '^FAIL ' node tests/web/page.mjs "$folder"
   runTool "size of the page" '^OK ' '^FAIL ' tools/page-size "$folder/site"
 }

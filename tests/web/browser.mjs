@@ -10,7 +10,20 @@ import { pathToFileURL } from "node:url";
 export const driverFile = name => createRequire(path.resolve(process.env.LEAFUND_WEB_DRIVER, "package.json")).resolve(name);
 const { default: puppeteer } = await import(pathToFileURL(driverFile("puppeteer-core")));
 
-export const phone = { width: 390, height: 844, hasTouch: true, isMobile: true };
+// Which of the two is driven, LEAFUND_BROWSER says.
+export const inFirefox = process.env.LEAFUND_BROWSER === "firefox";
+// Firefox has a touch screen without being told, and no phone's way of fitting pages to one.
+export const phone = { width: 390, height: 844, ...(inFirefox ? {} : { hasTouch: true, isMobile: true }) };
+
+const chromium = {
+  executablePath: "/usr/bin/chromium",
+  args: ["--no-sandbox", "--disable-gpu", "--disable-quic", "--no-first-run", "--disable-background-networking",
+    "--disable-component-update", "--disable-sync"],
+};
+const firefox = {
+  browser: "firefox", executablePath: "/usr/bin/firefox-esr",
+  extraPrefsFirefox: { "javascript.options.wasm_js_promise_integration": true },  // only the tests wait in the program
+};
 
 // A screen of X that nobody sees, for what only a browser with a window does: its keys and buttons.
 export async function openScreen() {
@@ -25,13 +38,12 @@ export async function openScreen() {
 export async function openBrowser(screen) {
   const profile = fs.mkdtempSync(path.join(os.tmpdir(), "leafund-browser-"));
   const browser = await puppeteer.launch({
-    executablePath: "/usr/bin/chromium", headless: !screen, userDataDir: profile, protocolTimeout: 60_000, env: screen?.env ?? process.env,
-    args: ["--no-sandbox", "--disable-gpu", "--disable-quic", "--no-first-run", "--disable-background-networking",
-      "--disable-component-update", "--disable-sync"],
+    ...(inFirefox ? firefox : chromium),
+    headless: !screen, userDataDir: profile, protocolTimeout: 60_000, env: screen?.env ?? process.env,
   });
   const close = async () => {
     await browser.close();
-    fs.rmSync(profile, { recursive: true, force: true, maxRetries: 5 });
+    fs.rmSync(profile, { recursive: true, force: true, maxRetries: 20 });
   };
   // A page of a fresh context, and what it says: lines on the console, and errors.
   const newPage = async (viewport = phone) => {

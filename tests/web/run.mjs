@@ -1,4 +1,5 @@
-// run.mjs BUILD SUITE: runs each test of a suite in a page of its own, and prints a line a test.
+// run.mjs BUILD SUITE [WORD]: runs each test of a suite, or those with that word in their name, in a page of its
+// own, and prints a line a test.
 import fs from "node:fs";
 import path from "node:path";
 import { fileURLToPath } from "node:url";
@@ -6,7 +7,7 @@ import { openBrowser } from "./browser.mjs";
 import { serve } from "./server.mjs";
 import { verbsFor } from "./verbs.mjs";
 
-const [build, suite] = process.argv.slice(2);
+const [build, suite, word = ""] = process.argv.slice(2);
 const here = path.dirname(fileURLToPath(import.meta.url)), top = path.join(here, "../..");
 // The address of the pictures is compiled in.
 const pictures = await serve({ "/": path.join(top, "pictures") }, Number(process.env.LEAFUND_PICTURE_PORT ?? 0));
@@ -22,7 +23,7 @@ async function run(test) {
     const verbs = verbsFor(page, pictures.address);
     await page.exposeFunction("drive", async (verb, ...rest) => (await verbs[verb](...rest)) ?? "");
     await page.goto(`${server.address}/suite.html?suite=${suite}${test ? `&test=${test}` : ""}`);
-    const result = await page.waitForFunction(() => window.result !== undefined, { timeout: 40_000 });
+    const result = await page.waitForFunction(() => window.result !== undefined, { timeout: 120_000 });
     await result.dispose();
     return { good: (await page.evaluate(() => window.result)) === 0, said, errors };
   } catch (error) {
@@ -41,7 +42,7 @@ for (const line of listed.said) {
   else if (/^ {2}\S/.test(line)) names.push(group + line.trim());
 }
 let failed = names.length === 0;
-for (const name of names) {
+for (const name of names.filter(each => each.includes(word))) {
   const { good, said, errors } = await run(name);
   console.log(`${good ? "OK  " : "FAIL"} ${suite}.${name}`);
   if (good) continue;
