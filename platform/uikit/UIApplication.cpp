@@ -45,7 +45,7 @@ void UIApplication::launch(const std::optional<LaunchOptions>& options) {
   delegate_->setWindow(std::make_shared<UIWindow>(navigation));
   delegate_->applicationDidFinishLaunchingWithOptions(*this, options);
   navigation_ = std::move(navigation);
-  navigation_->setSize(size_);
+  navigation_->setSize(size_, railWidth_);
   // Ahead of what was raised before the launch: nothing from outside meets a stack without a
   // screen.
   pending_.push_front({[this] {
@@ -206,10 +206,11 @@ void UIApplication::scroll(const std::shared_ptr<UITableView>& table, double off
   add({follow, table.get()});
 }
 
-void UIApplication::resize(CGSize size) {
+void UIApplication::resize(CGSize size, double railWidth) {
   size_ = size;
+  railWidth_ = railWidth;
   if (!navigation_) return;  // the first size comes before launch
-  add({[this, size] { navigation_->setSize(size); }, this});
+  add({[this, size, railWidth] { navigation_->setSize(size, railWidth); }, this});
 }
 
 void UIApplication::goBack() {

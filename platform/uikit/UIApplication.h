@@ -80,7 +80,9 @@ class UIApplication : public UIResponder {
   // more is dropped.
   void scroll(const std::shared_ptr<UITableView>& table, double offset,
               std::optional<unsigned> placements = std::nullopt);
-  void resize(CGSize size);
+  // `railWidth` is how much of the width the host gives tabs at the side; 0 where they stand in a
+  // bar at the foot.
+  void resize(CGSize size, double railWidth = 0);
   void goBack();
 
   // What the system tells the application, each one turn.
@@ -124,6 +126,7 @@ class UIApplication : public UIResponder {
   std::shared_ptr<UINavigationController> navigation_;
   std::weak_ptr<UITextInput> firstResponder_;
   CGSize size_;
+  double railWidth_ = 0;
   std::deque<Waiting> pending_;
   std::vector<std::weak_ptr<UIResponder>> needLayout_;
   std::vector<std::weak_ptr<UIResponder>> changed_;

@@ -61,8 +61,9 @@ bool UINavigationController::showsBar(const UIViewController& controller) const 
   return !barTitle(controller).empty() || canGoBack(controller);
 }
 
-void UINavigationController::setSize(CGSize size) {
+void UINavigationController::setSize(CGSize size, double railWidth) {
   size_ = size;
+  railWidth_ = railWidth;
   if (!stack_.empty()) layOutShown();
 }
 

@@ -37,9 +37,11 @@ class UINavigationController : public std::enable_shared_from_this<UINavigationC
   const std::string& barTitle(const UIViewController& controller) const;
   bool showsBar(const UIViewController& controller) const;
 
-  // The window's size in points; the shown screen's root view follows at once, the others when they
-  // appear.
-  void setSize(CGSize size);
+  // The window's size in points, and how much of its width tabs take that stand in a rail at its
+  // side; 0 where they stand in a bar at its foot. The shown screen's root view follows at once,
+  // the others when they appear.
+  void setSize(CGSize size, double railWidth = 0);
+  double railWidth() const { return railWidth_; }
   // Frames the shown screen's views: by the size, and by whether the screen has a bar.
   void layOutShown() const;
   // Where the root view of a screen lies while the screen is shown.
@@ -50,6 +52,7 @@ class UINavigationController : public std::enable_shared_from_this<UINavigationC
 
   std::vector<std::shared_ptr<UIViewController>> stack_;
   CGSize size_;
+  double railWidth_ = 0;
 };
 
 }  // namespace leafund

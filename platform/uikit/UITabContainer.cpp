@@ -84,14 +84,21 @@ void UITabContainer::select(std::size_t index) {
 void UITabContainer::layOut() {
   const auto root = owner_.view()->frame();
   setFrame({0, 0, root.width, root.height});
-  const double barTop = std::max(0.0, root.height - UITabBar::kHeight);
-  tabBar_->setFrame({0, barTop, root.width, UITabBar::kHeight});
+  const auto navigation = owner_.navigationController();
+  const double rail = navigation ? std::min(navigation->railWidth(), root.width) : 0;
+  CGRect room{rail, 0, root.width - rail, root.height};
+  if (rail > 0) {
+    tabBar_->setFrame({0, -root.y, rail, root.height + root.y});
+  } else {
+    room.height = std::max(0.0, root.height - UITabBar::kHeight);
+    tabBar_->setFrame({0, room.height, root.width, UITabBar::kHeight});
+  }
   const auto content = shown_->view();
   if (content->superview() != this) {
     addSubview(content);
     sendSubviewToBack(content);
   }
-  content->setFrame(shown_->rootFrameIn({0, 0, root.width, barTop}));
+  content->setFrame(shown_->rootFrameIn(room));
   shown_->layOut();
 }
 

@@ -60,7 +60,7 @@ class UITabBarAppearance {
 class UITabBar : public UIView {
  public:
   ViewKind kind() const override { return ViewKind::TabBar; }
-  static constexpr double kHeight = 64;  // points
+  static constexpr double kHeight = 64;  // points, where it is no rail
   static UITabBarAppearance& appearance();
 
   UITabBar();
@@ -71,8 +71,9 @@ class UITabBar : public UIView {
   std::optional<UIColor> tintColor_;
 };
 
-// The tabs of a screen: the bar, and above it the selected tab's screen. That screen is made when
-// its tab is first selected, and kept by the screen that holds the tabs.
+// The tabs of a screen and the selected tab's screen: above the bar, or beside it where the stack
+// says that it stands as a rail at the window's side, from the window's top to its foot. That
+// screen is made when its tab is first selected, and kept by the screen that holds the tabs.
 class UITabContainer : public UIView {
  public:
   explicit UITabContainer(UIViewController& owner);

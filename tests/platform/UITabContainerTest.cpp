@@ -101,6 +101,24 @@ TEST_F(UITabContainerTest, TheScreenFillsTheRoomAboveTheBarBeforeItAppears) {
   EXPECT_THAT(shown()->framesAtAppearance, ElementsAre(CGRect{0, 0, 390, room - 64}));
 }
 
+TEST_F(UITabContainerTest, ARailStandsAtTheSideFromTopToFootAndLeavesTheRest) {
+  app.application->resize({844, 390}, 80);
+  EXPECT_EQ(app.view("tabs")->frame(), (CGRect{0, 0, 844, 334}));
+  EXPECT_EQ(tabBar()->frame(), (CGRect{0, -56, 80, 390}));
+  EXPECT_EQ(shown()->viewIfLoaded()->frame(), (CGRect{80, 0, 764, 334}));
+  app.tap("twoTab");
+  EXPECT_THAT(shown()->framesAtAppearance, ElementsAre(CGRect{80, 0, 764, 334}));
+  app.application->resize({390, 844});
+  EXPECT_EQ(tabBar()->frame(), (CGRect{0, 844 - 56 - 64, 390, 64}));
+  EXPECT_EQ(shown()->viewIfLoaded()->frame(), (CGRect{0, 0, 390, 844 - 56 - 64}));
+}
+
+TEST_F(UITabContainerTest, ARailWiderThanTheWindowLeavesItsScreenNoWidth) {
+  app.application->resize({60, 390}, 80);
+  EXPECT_EQ(tabBar()->frame(), (CGRect{0, -56, 60, 390}));
+  EXPECT_EQ(shown()->viewIfLoaded()->frame(), (CGRect{60, 0, 0, 334}));
+}
+
 TEST_F(UITabContainerTest, ATabThatWasNotShownDuringAResizeHasTheNewSizeWhenItAppears) {
   app.tap("twoTab");
   app.application->resize({320, 568});

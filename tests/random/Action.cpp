@@ -60,6 +60,7 @@ std::string readable(const Action& action) {
       break;
     case ActionKind::Resize:
       line << " to " << action.width << " x " << action.height;
+      if (action.railWidth > 0) line << " with a rail of " << action.railWidth;
       break;
     case ActionKind::Answer:
     case ActionKind::AnswerLater:

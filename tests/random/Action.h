@@ -43,6 +43,7 @@ struct Action {
   long number = 0;        // a row, a transfer's position, which junk, or which news of the system
   Ending ending = Ending::Picture;
   double width = 0, height = 0;  // of the window in points, or of the picture in pixels
+  double railWidth = 0;          // of tabs at the window's side
   double offset = 0;             // points
   std::uint64_t how = 0;         // drawn: how the user of a window goes about it
 

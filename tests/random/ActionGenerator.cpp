@@ -205,6 +205,8 @@ Action ActionGenerator::resize() {
     action.width = static_cast<double>(chance_.between(0, 1600)) / 2;
     action.height = static_cast<double>(chance_.between(0, 3000)) / 2;
   }
+  static constexpr double kRails[] = {80, 96, 144};
+  if (chance_.percent(30)) action.railWidth = chance_.oneOf(kRails);
   return action;
 }
 

@@ -98,7 +98,7 @@ void AppUnderTest::perform(const Action& action) {
     case ActionKind::Scroll:
       return application_->scroll(table(), action.offset);
     case ActionKind::Resize:
-      return application_->resize({action.width, action.height});
+      return application_->resize({action.width, action.height}, action.railWidth);
     case ActionKind::GoBack:
       return application_->goBack();
     case ActionKind::Answer:

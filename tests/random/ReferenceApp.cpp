@@ -61,6 +61,7 @@ void ReferenceApp::perform(const Action& action) {
     case ActionKind::Resize:
       width_ = action.width;
       height_ = action.height;
+      railWidth_ = action.railWidth;
       layOutTop();
       break;
     case ActionKind::GoBack:

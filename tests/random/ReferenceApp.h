@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <deque>
 #include <map>
 #include <memory>
@@ -59,6 +60,8 @@ class ReferenceApp {
   const Screen& top() const { return *stack_.back(); }
   // The topmost screen or, where it holds tabs, the selected one.
   const Screen& shown() const;
+  // How much of the width tabs at the side take.
+  double railWidth() const { return std::min(railWidth_, width_); }
   std::size_t depth() const { return stack_.size(); }
   const PledgeList& others() const { return others_; }
   const PledgeList& funded() const { return funded_; }
@@ -153,6 +156,7 @@ class ReferenceApp {
   const FreeWording& wording_;
   Twist twist_;
   double width_, height_;
+  double railWidth_ = 0;
   std::vector<ScreenRef> stack_;
   mutable std::vector<std::weak_ptr<Screen>> everMade_;
   PledgeList others_, funded_;

@@ -74,9 +74,10 @@ void ReferenceApp::layOutTop() {
   screen.height = std::max(0.0, height_ - screen.y);
   const auto tab = selectedTab();
   if (!tab) return;
-  // A list is a column.
-  tab->width = tab->table ? std::min(720.0, std::max(0.0, width_ - 2 * 16)) : width_;
-  tab->height = std::max(0.0, screen.height - kTabBarHeight);
+  // Tabs stand below it or at its side. A list is a column.
+  const double room = width_ - railWidth();
+  tab->width = tab->table ? std::min(720.0, std::max(0.0, room - 2 * 16)) : room;
+  tab->height = std::max(0.0, screen.height - (railWidth() > 0 ? 0 : kTabBarHeight));
   if (!tab->table) return;
   tab->table->width = tab->width;
   tab->table->height = tab->height;

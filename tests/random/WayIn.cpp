@@ -39,7 +39,8 @@ LEAFUND_WRAP(pressReturn,
 LEAFUND_WRAP(scroll,
              "ZN7leafund13UIApplication6scrollERKSt10shared_ptrINS_11UITableViewEEdSt8optionalIjE",
              UIApplication*, const Table&, double, std::optional<unsigned>);
-LEAFUND_WRAP(resize, "ZN7leafund13UIApplication6resizeENS_6CGSizeE", UIApplication*, CGSize);
+LEAFUND_WRAP(resize, "ZN7leafund13UIApplication6resizeENS_6CGSizeEd", UIApplication*, CGSize,
+             double);
 LEAFUND_WRAP(goBack, "ZN7leafund13UIApplication6goBackEv", UIApplication*);
 
 namespace {
@@ -108,9 +109,9 @@ void scrollWrapped(UIApplication* application, const Table& table, double offset
   scrollItself(application, table, offset, placements);
 }
 
-void resizeWrapped(UIApplication* application, CGSize size) {
-  const Passage passage({.kind = ActionKind::Resize, .size = size});
-  resizeItself(application, size);
+void resizeWrapped(UIApplication* application, CGSize size, double railWidth) {
+  const Passage passage({.kind = ActionKind::Resize, .size = size, .railWidth = railWidth});
+  resizeItself(application, size, railWidth);
 }
 
 void goBackWrapped(UIApplication* application) {

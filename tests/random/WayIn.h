@@ -17,6 +17,7 @@ struct UserEvent {
   std::string text = {};
   double offset = 0;
   CGSize size = {};
+  double railWidth = 0;
 };
 
 class WayInListener {

@@ -103,14 +103,16 @@ WindowUser::Place WindowUser::placeAt(QPointF where) {
   }
   if (shown.table) {
     const double y = page->y() + top.y;
-    // The rows are a column, and the list is scrolled beside them, too.
-    const double margin = std::floor((top.width - shown.width) / 2);
+    // The rows are a column, and the list is scrolled beside them, too, up to tabs at its side.
+    const double start = page->x() + reference_.railWidth();
+    const double width = top.width - reference_.railWidth();
+    const double margin = std::floor((width - shown.width) / 2);
     const QRectF list =
-        QRectF(page->x(), y, top.width, shown.table->height) & QRectF({0, 0}, app_.window().size());
+        QRectF(start, y, width, shown.table->height) & QRectF({0, 0}, app_.window().size());
     // Below its rows a list keeps a tap to itself, and none of its screens has a use for one.
     place.sure = place.sure && !list.contains(where);
     for (const auto& [row, object] : shown.table->shown) {
-      const QRectF area(page->x() + margin, y + object->top - shown.table->offset, shown.width,
+      const QRectF area(start + margin, y + object->top - shown.table->offset, shown.width,
                         kRowHeight);
       consider(area & list, rowWord(static_cast<long>(row)), "");
     }

@@ -89,6 +89,7 @@ Action WindowUnderTest::asAction(const UserEvent& event) {
                 .text = event.text,
                 .width = event.size.width,
                 .height = event.size.height,
+                .railWidth = event.railWidth,
                 .offset = event.offset};
   if (event.kind == ActionKind::Resize || event.kind == ActionKind::GoBack) return action;
   const auto& top = application().navigation()->topViewController();
