@@ -1,5 +1,6 @@
 # tokens_to_qml(FILE) writes the tokens of tokens.json as the singleton Theme of the window,
-# tokens_to_css(FILE) as custom properties for the page. A changed token configures again.
+# tokens_to_cpp(FILE) its lengths as constants, tokens_to_css(FILE) all as custom properties for the
+# page. A changed token configures again.
 set(tokensFile ${CMAKE_CURRENT_LIST_DIR}/tokens.json)
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${tokensFile})
 file(READ ${tokensFile} tokens)
@@ -84,6 +85,27 @@ import Leafund
 QtObject {
 @lines@    readonly property color none: "transparent"
 }
+]])
+endfunction()
+
+function(tokens_to_cpp file)
+  set(lines "")
+  token_names(names space)
+  foreach(name IN LISTS names)
+    string(JSON value GET "${tokens}" space ${name} $value)
+    string(REGEX REPLACE "px$" "" value ${value})
+    string(SUBSTRING ${name} 0 1 first)
+    string(TOUPPER ${first} first)
+    string(SUBSTRING ${name} 1 -1 rest)
+    string(APPEND lines "constexpr double k${first}${rest} = ${value};\n")
+  endforeach()
+  file(CONFIGURE OUTPUT ${file} @ONLY CONTENT [[// Made from interface/tokens.json. In points.
+#pragma once
+
+namespace leafund::tokens {
+
+@lines@
+}  // namespace leafund::tokens
 ]])
 endfunction()
 

@@ -112,7 +112,7 @@ FocusScope {
 
         TableRows {
             id: rows
-            x: list.root.x
+            x: Math.floor((flickable.width - width) / 2)
             width: list.root.width
             height: flickable.contentHeight
             table: list.root

@@ -14,8 +14,6 @@ Pressable {
     readonly property real cardBottom: cardTop - 2 * cardOffset
     // What it leaves to title and pitch.
     readonly property real cardRoom: 129
-    // Of a line that the eye can follow, some 76 letters.
-    readonly property real widest: 520
     readonly property int titleLines: 3
     readonly property int pitchLines: 4
 
@@ -98,7 +96,7 @@ Pressable {
 
         StillText {
             id: title
-            width: Math.min(parent.width, row.widest)
+            width: Math.min(parent.width, Theme.line)
             text: row.view.title.text
             // And a line of the pitch.
             readonly property real room: row.cardRoom - line.height - Theme.half
@@ -109,7 +107,7 @@ Pressable {
         }
         StillText {
             id: pitch
-            width: Math.min(parent.width, row.widest)
+            width: Math.min(parent.width, Theme.line)
             text: row.view.detail.text
             maximumLineCount: Math.max(1, Math.min(row.pitchLines, Math.floor(room / line.height)))
             readonly property real room: row.cardRoom - title.height - Theme.half

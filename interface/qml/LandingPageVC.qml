@@ -15,59 +15,78 @@ Page {
     ScrollPane {
         root: page.root
         centred: true
+        most: Theme.feed
 
-        IconItem {
-            anchors.horizontalCenter: parent.horizontalCenter
-            width: Math.min(Theme.mark, page.height / 8)
-            height: width
-            icon: IconItem.Leaf
-            color: Theme.accent
-        }
-        Column {
+        TwoColumns {
+            id: parts
             width: parent.width
-            Words {
-                id: brand
-                view: page.brand
-                heading: true
-                takesFocus: true
-                width: parent.width
-                horizontalAlignment: Text.AlignHCenter
-                font { pointSize: Theme.display; weight: Font.Bold }
-                FocusRing { target: brand }
+            verticalItemAlignment: Grid.AlignVCenter
+
+            Column {
+                width: parts.first
+                spacing: Theme.gap
+                IconItem {
+                    anchors.horizontalCenter: parent.horizontalCenter
+                    width: Math.min(Theme.mark, page.height / 8)
+                    height: width
+                    icon: IconItem.Leaf
+                    color: Theme.accent
+                }
+                Column {
+                    width: parent.width
+                    Words {
+                        id: brand
+                        view: page.brand
+                        heading: true
+                        takesFocus: true
+                        width: parent.width
+                        horizontalAlignment: Text.AlignHCenter
+                        font { pointSize: Theme.display; weight: Font.Bold }
+                        FocusRing { target: brand }
+                    }
+                    Words {
+                        view: page.tagline
+                        width: parent.width
+                        horizontalAlignment: Text.AlignHCenter
+                        color: Theme.quiet
+                    }
+                }
             }
-            Words {
-                view: page.tagline
-                width: parent.width
-                horizontalAlignment: Text.AlignHCenter
-                color: Theme.quiet
+            Column {
+                width: parts.second
+                spacing: Theme.gap
+                Item {
+                    width: parent.width
+                    height: Theme.unit
+                    visible: parts.columns === 1
+                }
+                TextEntry {
+                    view: page.userEmail
+                    next: password
+                    width: parent.width
+                }
+                TextEntry {
+                    id: password
+                    view: page.password
+                    next: password
+                    width: parent.width
+                }
+                Button {
+                    view: page.signInButton
+                    width: parent.width
+                }
+                Words {
+                    view: page.newHere
+                    width: parent.width
+                    horizontalAlignment: Text.AlignHCenter
+                    color: Theme.quiet
+                }
+                Button {
+                    view: page.signUpButton
+                    primary: false
+                    width: parent.width
+                }
             }
-        }
-        Item { width: parent.width; height: Theme.unit }
-        TextEntry {
-            view: page.userEmail
-            next: password
-            width: parent.width
-        }
-        TextEntry {
-            id: password
-            view: page.password
-            next: password
-            width: parent.width
-        }
-        Button {
-            view: page.signInButton
-            width: parent.width
-        }
-        Words {
-            view: page.newHere
-            width: parent.width
-            horizontalAlignment: Text.AlignHCenter
-            color: Theme.quiet
-        }
-        Button {
-            view: page.signUpButton
-            primary: false
-            width: parent.width
         }
     }
 }

@@ -7,6 +7,9 @@ Rectangle {
 
     required property BarBridge view
     default property alias trailing: trailing.data
+    // How far from its edges the column below it begins and ends.
+    required property real columnStart
+    required property real columnEnd
 
     color: Theme.card
 
@@ -18,8 +21,8 @@ Rectangle {
         objectName: "barTitle"
         focus: takesFocus
         anchors.verticalCenter: parent.verticalCenter
-        x: back.visible ? back.x + back.width : Theme.gap
-        width: (trailing.width > 0 ? trailing.x : bar.width) - x - Theme.unit
+        anchors { left: parent.left; right: trailing.left; rightMargin: Theme.unit }
+        anchors.leftMargin: Math.max(bar.columnStart, back.visible ? Theme.half + back.width : 0)
         text: bar.view.title
         textFormat: Text.PlainText
         elide: Text.ElideRight
@@ -69,7 +72,7 @@ Rectangle {
 
     Row {
         id: trailing
-        anchors { right: parent.right; rightMargin: Theme.unit }
+        anchors { right: parent.right; rightMargin: Math.max(Theme.unit, bar.columnEnd - Theme.unit) }
         anchors.verticalCenter: parent.verticalCenter
     }
 

@@ -14,8 +14,11 @@ Page {
     required property TextViewBridge emailInvite
     required property ButtonBridge createButton
 
+    columnStart: pane.columnStart
+
     // Who, what, for how much, and with whom: groups by the space between them.
     ScrollPane {
+        id: pane
         root: page.root
         spacing: Theme.groups
 

@@ -22,27 +22,36 @@ FocusScope {
     ScrollPane {
         id: pane
         root: page.root
+        most: Theme.feed
 
-        Story {
-            picture: page.rideStoryPicture
-            title: page.rideStoryTitle
-            words: page.rideStoryText
-            source: "biking-to-work.jpg"
+        Grid {
+            id: stories
+            readonly property real storyWidth: Math.floor((width + spacing) / columns) - spacing
             width: parent.width
-        }
-        Story {
-            picture: page.compostStoryPicture
-            title: page.compostStoryTitle
-            words: page.compostStoryText
-            source: "update-compost.jpg"
-            width: parent.width
-        }
-        Story {
-            picture: page.pledgeStoryPicture
-            title: page.pledgeStoryTitle
-            words: page.pledgeStoryText
-            source: "solar-panel-house.jpg"
-            width: parent.width
+            columns: WindowClass.expanded ? 2 : 1
+            spacing: Theme.gap
+
+            Story {
+                picture: page.rideStoryPicture
+                title: page.rideStoryTitle
+                words: page.rideStoryText
+                source: "biking-to-work.jpg"
+                width: stories.storyWidth
+            }
+            Story {
+                picture: page.compostStoryPicture
+                title: page.compostStoryTitle
+                words: page.compostStoryText
+                source: "update-compost.jpg"
+                width: stories.storyWidth
+            }
+            Story {
+                picture: page.pledgeStoryPicture
+                title: page.pledgeStoryTitle
+                words: page.pledgeStoryText
+                source: "solar-panel-house.jpg"
+                width: stories.storyWidth
+            }
         }
     }
 }

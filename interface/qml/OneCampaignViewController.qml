@@ -21,62 +21,75 @@ Page {
     required property ImageBridge campaignPhoto
     required property PlainBridge campaignDescription
 
+    columnStart: pane.columnStart
+
     ScrollPane {
+        id: pane
         root: page.root
+        most: Theme.aside + Theme.groups + Theme.reading
         anchors.bottomMargin: pin.height
 
-        CampaignHead {
-            picture: page.campaignImage
-            title: page.campaignTitle
-            by: page.byCreator
-            creator: page.campaignCreator
-            fundsHeading: page.labelAboveSlider
-            bar: page.slider
-            raised: page.currentFund
-            goal: page.desiredFund
+        TwoColumns {
+            id: parts
             width: parent.width
-        }
+            most: Theme.aside
 
-        // The reason stands right below the amount that was refused.
-        Column {
-            width: parent.width
-            spacing: Theme.unit
-            visible: page.dollarAmountField.visible || page.errorLabel.visible
-            TextEntry {
-                view: page.dollarAmountField
-                reason: page.errorLabel
-                width: parent.width
-            }
-            ErrorWords {
-                view: page.errorLabel
-                width: parent.width
-            }
-        }
-        Item {
-            id: place
-            width: parent.width
-            height: fund.height
-            visible: page.fundButton.visible && !pin.visible
-        }
-        Button {
-            view: page.campaignUpdates
-            primary: false
-            width: parent.width
-        }
+            Column {
+                width: parts.first
+                spacing: Theme.gap
+                CampaignHead {
+                    picture: page.campaignImage
+                    title: page.campaignTitle
+                    by: page.byCreator
+                    creator: page.campaignCreator
+                    fundsHeading: page.labelAboveSlider
+                    bar: page.slider
+                    raised: page.currentFund
+                    goal: page.desiredFund
+                    width: parent.width
+                }
 
-        Column {
-            width: parent.width
-            topPadding: Theme.unit
-            spacing: Theme.gap
-            Words {
-                view: page.about
-                heading: true
-                width: parent.width
-                font { pointSize: Theme.lead; weight: Font.Bold }
+                // The reason stands right below the amount that was refused.
+                Column {
+                    width: parent.width
+                    spacing: Theme.unit
+                    visible: page.dollarAmountField.visible || page.errorLabel.visible
+                    TextEntry {
+                        view: page.dollarAmountField
+                        reason: page.errorLabel
+                        width: parent.width
+                    }
+                    ErrorWords {
+                        view: page.errorLabel
+                        width: parent.width
+                    }
+                }
+                Item {
+                    id: place
+                    width: parent.width
+                    height: fund.height
+                    visible: page.fundButton.visible && !pin.visible
+                }
+                Button {
+                    view: page.campaignUpdates
+                    primary: false
+                    width: parent.width
+                }
             }
-            ReadingText {
-                view: page.campaignText
-                width: parent.width
+            Column {
+                width: parts.second
+                topPadding: parts.columns === 1 ? Theme.unit : 0
+                spacing: Theme.gap
+                Words {
+                    view: page.about
+                    heading: true
+                    width: parent.width
+                    font { pointSize: Theme.lead; weight: Font.Bold }
+                }
+                ReadingText {
+                    view: page.campaignText
+                    width: parent.width
+                }
             }
         }
 

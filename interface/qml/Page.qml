@@ -10,6 +10,9 @@ FocusScope {
     required property BarBridge bar
     default property alias content: content.data
     property alias barContent: navigationBar.trailing
+    // How far from the page's edges its column begins and ends, and with it what the bar holds.
+    property real columnStart: Theme.gap
+    property real columnEnd: columnStart
     // How far a drag leads back, in points.
     readonly property real swipe: 80
     readonly property int slideDuration: Desktop.lessMotion ? 0 : Theme.slideDuration
@@ -54,6 +57,8 @@ FocusScope {
     NavigationBar {
         id: navigationBar
         view: page.bar
+        columnStart: page.columnStart
+        columnEnd: page.columnEnd
         width: parent.width
         height: page.root.y
         visible: page.bar.visible

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "interface/qml/access/ItemAccess.h"
+#include "interface/qml/bridge/WindowClass.h"
 #include "platform/foundation/FatalError.h"
 #include "platform/uikit/UIApplication.h"
 #include "platform/uikit/UIStoryboard.h"
@@ -24,6 +25,9 @@ namespace leafund {
 SceneLoader::SceneLoader(QQuickItem& content) : content_(content) {
   linkInterface();
   describeItemsToAssistiveTechnology();
+  const int windowClass = qmlTypeId("Leafund", 1, 0, "WindowClass");
+  windowClass_ = engine_.singletonInstance<WindowClass*>(windowClass);
+  windowClass_->follow(content);
 }
 
 SceneLoader::~SceneLoader() {
@@ -31,6 +35,8 @@ SceneLoader::~SceneLoader() {
   // Their items go before the engine.
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
+
+double SceneLoader::railWidth() const { return windowClass_->rail(); }
 
 std::unique_ptr<Page> SceneLoader::make(UIViewController& controller) {
   auto waiting = ahead_.extract(controller.className());

@@ -11,6 +11,8 @@
 
 namespace leafund {
 
+class WindowClass;
+
 // Makes the pages of screens: the QML file of a scene is named after its controller's class. Fatal
 // when the file is missing or faulty.
 //
@@ -25,6 +27,7 @@ class SceneLoader final : public PageMaker {
 
   std::unique_ptr<Page> make(UIViewController& controller) override;
   void lookAhead(const UINavigationController& navigation) override;
+  double railWidth() const override;
 
   // The item becomes a child of `parent`.
   QQuickItem& makeItem(const std::string& className, const QVariantMap& properties,
@@ -35,6 +38,7 @@ class SceneLoader final : public PageMaker {
  private:
   QQuickItem& content_;
   QQmlEngine engine_;
+  WindowClass* windowClass_;  // the engine's
   std::map<std::string, std::unique_ptr<QQmlComponent>> components_;
   std::map<std::string, std::unique_ptr<ScenePage>> ahead_;
 };

@@ -10,6 +10,9 @@ Item {
     default property alias content: column.data
     property bool centred: false
     property alias spacing: column.spacing
+    // How wide the column is at most, and how far from the pane's edges it begins.
+    property real most: WindowClass.form
+    readonly property alias columnStart: column.x
 
     anchors.fill: parent
 
@@ -118,7 +121,7 @@ Item {
 
         Column {
             id: column
-            width: Math.min(Theme.column, pane.width - 2 * Theme.gap)
+            width: Math.min(pane.most, pane.width - 2 * Theme.gap)
             x: (pane.width - width) / 2
             y: pane.centred ? Math.max(Theme.space, (pane.height - height) / 2) : Theme.space
             spacing: Theme.gap

@@ -10,11 +10,14 @@ Page {
     required property TextFieldBridge passwordConfirmField
     required property ButtonBridge signUpButton
 
+    columnStart: pane.columnStart
+
     Meadow {
         anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
     }
 
     ScrollPane {
+        id: pane
         root: page.root
         centred: true
 

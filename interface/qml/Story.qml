@@ -37,8 +37,8 @@ Paper {
         }
         Words {
             view: story.words
-            x: Theme.gap
-            width: parent.width - 2 * x
+            anchors { left: parent.left; leftMargin: Theme.gap }
+            width: Math.min(Theme.line, parent.width - 2 * Theme.gap)
         }
     }
 

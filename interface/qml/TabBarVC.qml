@@ -12,6 +12,12 @@ Page {
     required property TabBridge newsTab
     required property ButtonBridge newButton
 
+    // How wide the tabs are that stand at the side; 0 where they stand at the foot.
+    readonly property real rail: tabBar.width < tabs.width ? tabBar.width : 0
+
+    columnStart: rail + columnEnd
+    columnEnd: Math.max(Theme.gap, Math.floor((tabs.width - rail - Theme.feed) / 2))
+
     barContent: Button {
         view: page.newButton
         primary: false
@@ -21,17 +27,20 @@ Page {
     // The selected tab's screen is put here.
     Item {
         objectName: page.tabs.name
-        x: page.tabs.x
-        y: page.tabs.y
-        width: page.tabs.width
+        anchors.right: parent.right
+        width: page.tabs.width - page.rail
         height: page.tabs.height
         clip: true
         Keys.forwardTo: children
     }
 
+    // A bar at the foot or, where the window is wide, a rail at the side, from its top to its foot.
     Rectangle {
+        id: frame
+        readonly property bool rail: page.rail > 0
+
         objectName: page.tabBar.name
-        x: page.tabBar.x
+        anchors.left: parent.left
         y: page.tabBar.y
         width: page.tabBar.width
         height: page.tabBar.height
@@ -40,9 +49,11 @@ Page {
         Accessible.role: Accessible.PageTabList
         Accessible.name: page.tabBar.accessibleName
 
+        // Between the tabs and the screen.
         Rectangle {
-            width: parent.width
-            height: Theme.hairline
+            anchors { top: parent.top; right: parent.right }
+            width: frame.rail ? Theme.hairline : parent.width
+            height: frame.rail ? parent.height : Theme.hairline
             color: Theme.outline
         }
 
@@ -51,12 +62,10 @@ Page {
             font.pointSize: Theme.lead
         }
 
-        Row {
+        Grid {
             id: row
             // Below this width four titles do not fit beside one another in equal parts.
             readonly property real narrow: 320
-            // Titles grow with the system's text up to this height of a line, 120 % of `lead`.
-            readonly property real tabLine: 29
             readonly property real room: Math.min(Theme.column, page.tabBar.width)
             // Tabs are equally wide, and on a narrow bar as wide as their titles need: in the accent
             // colour a title must not become small.
@@ -64,24 +73,31 @@ Page {
             readonly property real words: browse.wordsWidth + funded.wordsWidth
                                           + mine.wordsWidth + news.wordsWidth
             function widthFor(tab: TabButton): real {
-                return crowded ? room * tab.wordsWidth / words : room / 4;
+                return frame.rail ? frame.width : crowded ? room * tab.wordsWidth / words : room / 4;
             }
-            // All titles in one size: the largest that fits every tab, and the bar.
-            readonly property real share: Math.min(1, tabLine / line.height, browse.fit,
-                                                   funded.fit, mine.fit, news.fit)
+            // All titles in one size: the largest that fits every tab. With the system's text they grow
+            // in a rail, which grows with them, and not in a bar.
+            readonly property real tabRoom: frame.rail ? frame.height / 4 : frame.height
+            readonly property real grown: frame.rail ? WindowClass.growth : 1
+            readonly property real share: Math.min(grown / WindowClass.textScale,
+                                                   (tabRoom - browse.signHeight) / line.height,
+                                                   browse.fit, funded.fit, mine.fit, news.fit)
+            readonly property real tabHeight: frame.rail ? Math.min(tabRoom, browse.comfortable) : tabRoom
 
+            columns: frame.rail ? 1 : children.length
             anchors.horizontalCenter: parent.horizontalCenter
-            height: parent.height
+            // In a rail they begin below the height of the navigation bar, where there is room.
+            y: frame.rail ? Math.min(page.root.y, frame.height - 4 * tabHeight) : 0
 
-            // With Alt they lead back, as everywhere.
+            // From tab to tab as they stand. With Alt they lead back, as everywhere.
             Keys.onPressed: event => {
                 const tabs = [browse, funded, mine, news];
                 const at = tabs.findIndex(tab => tab.activeFocus);
-                const next = event.key === Qt.Key_Right ? tabs[at + 1]
-                           : event.key === Qt.Key_Left ? tabs[at - 1] : undefined;
-                event.accepted = next !== undefined && !(event.modifiers & Qt.AltModifier);
+                const ahead = frame.rail ? Qt.Key_Down : Qt.Key_Right;
+                const back = frame.rail ? Qt.Key_Up : Qt.Key_Left;
+                event.accepted = [ahead, back].includes(event.key) && !(event.modifiers & Qt.AltModifier);
                 if (event.accepted)
-                    next.forceActiveFocus(Qt.TabFocusReason);
+                    tabs[at + (event.key === ahead ? 1 : -1)]?.forceActiveFocus(Qt.TabFocusReason);
             }
 
             TabButton {
@@ -91,7 +107,7 @@ Page {
                 icon: browse.view.selected ? IconItem.SearchFilled : IconItem.Search
                 tint: page.tabBar.tintColor
                 width: row.widthFor(browse)
-                height: parent.height
+                height: row.tabHeight
             }
             TabButton {
                 id: funded
@@ -100,7 +116,7 @@ Page {
                 icon: funded.view.selected ? IconItem.HeartFilled : IconItem.Heart
                 tint: page.tabBar.tintColor
                 width: row.widthFor(funded)
-                height: parent.height
+                height: row.tabHeight
             }
             TabButton {
                 id: mine
@@ -109,7 +125,7 @@ Page {
                 icon: mine.view.selected ? IconItem.SproutFilled : IconItem.Sprout
                 tint: page.tabBar.tintColor
                 width: row.widthFor(mine)
-                height: parent.height
+                height: row.tabHeight
             }
             TabButton {
                 id: news
@@ -118,7 +134,7 @@ Page {
                 icon: news.view.selected ? IconItem.PaperFilled : IconItem.Paper
                 tint: page.tabBar.tintColor
                 width: row.widthFor(news)
-                height: parent.height
+                height: row.tabHeight
             }
         }
     }

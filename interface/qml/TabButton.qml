@@ -12,6 +12,9 @@ Pressable {
     required property real share
     readonly property real wordsWidth: metrics.advanceWidth
     readonly property real fit: width > 0 ? (width - Theme.unit) / wordsWidth : 1
+    readonly property real signHeight: sign.height
+    // How high it is where there is room.
+    readonly property real comfortable: words.height + 2 * Theme.unit
     readonly property color iconColor: view.selected ? tint : Theme.quiet
 
     objectName: view.name
@@ -34,17 +37,18 @@ Pressable {
 
     Rectangle {
         anchors.fill: parent
-        anchors.topMargin: Theme.hairline
         visible: tab.held
         color: Theme.accentPale
     }
 
     Column {
+        id: words
         anchors.centerIn: parent
         width: parent.width
 
         // The selected tab is told by shape as well: by the field behind its icon, which is filled.
         Rectangle {
+            id: sign
             anchors.horizontalCenter: parent.horizontalCenter
             width: 2 * height
             height: Theme.icon + Theme.half

@@ -9,8 +9,12 @@ Page {
     required property ImageBridge updateOneImage
     required property TextViewBridge updateOneText
 
+    columnStart: pane.columnStart
+
     ScrollPane {
+        id: pane
         root: page.root
+        most: Theme.column
 
         // A post: what it is about and of when, its picture from edge to edge, its text.
         Card {

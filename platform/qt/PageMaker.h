@@ -37,6 +37,10 @@ class PageMaker {
   virtual std::unique_ptr<Page> make(UIViewController& controller) = 0;
   // Called while nothing moves: may prepare a page that the screen shown may lead to.
   virtual void lookAhead(const UINavigationController& navigation) = 0;
+  // How much of the window's width, in points, tabs take that stand in a rail at its side; 0 where
+  // they stand in a bar at its foot. By the present size of the window's content item, which no
+  // keyboard makes shorter.
+  virtual double railWidth() const = 0;
 };
 
 }  // namespace leafund

@@ -103,8 +103,7 @@ void QtHost::start(UIApplication& application) {
                    [report = ActivityReport()](Qt::ApplicationState state) mutable {
                      report.reach(activityOf(state));
                    });
-  application.resize(
-      {static_cast<double>(window_->width()), static_cast<double>(window_->height())});
+  window_->setPageMaker(*pages_);
   application.launch();
   desktop.await(kSettingsWait);
   window_->show();

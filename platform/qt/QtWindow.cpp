@@ -109,12 +109,18 @@ void QtWindow::setKeyboardArea(const QRectF& area) {
   fit();
 }
 
+void QtWindow::setPageMaker(const PageMaker& pages) {
+  pages_ = &pages;
+  fit();
+}
+
 // Ignore floating keyboards: the user puts them where they are not in the way.
 void QtWindow::fit() {
   const bool docked = !keyboardArea_.isEmpty() && keyboardArea_.bottom() >= height();
   const double content = docked ? keyboardArea_.top() : height();
   if (auto* application = UIApplication::current()) {
-    application->resize({static_cast<double>(width()), std::max(0.0, content)});
+    application->resize({static_cast<double>(width()), std::max(0.0, content)},
+                        pages_ == nullptr ? 0 : pages_->railWidth());
   }
 }
 

@@ -25,6 +25,8 @@ class QtWindow : public QQuickWindow {
   bool pressContinues() const { return pressContinues_; }
   // Where the keyboard in the window lies, in points of the window; empty where there is none.
   void setKeyboardArea(const QRectF& area);
+  // Who makes its pages is asked how wide the tabs' rail is, for as long as the window gets events.
+  void setPageMaker(const PageMaker& pages);
 
  protected:
   bool event(QEvent* event) override;
@@ -38,6 +40,7 @@ class QtWindow : public QQuickWindow {
   bool takeKey(QKeyEvent& key);
   void notePointer(const QPointerEvent& event, int button);
 
+  const PageMaker* pages_ = nullptr;
   QRectF keyboardArea_;
   bool usedByKeys_ = false;
   PressSeries keys_;

@@ -27,11 +27,16 @@ inline constexpr QSize kLeast{280, 240};
 inline constexpr QSize kLandscape{844, 390};
 inline constexpr QSize kOverKeyboard{390, 460};  // what a keyboard on the screen leaves of kNatural
 inline constexpr QSize kSmall{320, 568};
+inline constexpr QSize kMiddling{360, 640};
 inline constexpr QSize kWide{1024, 768};
 inline constexpr QSize kNatural{390, 844};
+inline constexpr QSize kDesktop{1280, 800};
 inline constexpr QSize kLarge{430, 932};
-inline constexpr QSize kMeasured[] = {kLeast, kLandscape, kOverKeyboard, kSmall,
-                                      kWide,  kNatural,   kLarge};
+inline constexpr QSize kTablet{768, 1024};
+inline constexpr QSize kWidest{1920, 1080};
+inline constexpr QSize kMeasured[] = {kLeast,    kLandscape, kOverKeyboard, kSmall,
+                                      kMiddling, kWide,      kNatural,      kDesktop,
+                                      kLarge,    kTablet,    kWidest};
 inline constexpr QSize kPhotographed[] = {kSmall, kWide, kNatural, kLarge};
 
 std::string sizeText(QSize size);  // "390x844"

@@ -99,6 +99,22 @@ TEST_F(AccessibilityDetailTest, TheTabListHasAName) {
   EXPECT_NE(named("tabBar", QAccessible::PageTabList)->text(QAccessible::Name), "");
 }
 
+TEST_F(AccessibilityDetailTest, AtTheWindowsSideTheTabsAreTheSameListInTheSameOrder) {
+  signIn();
+  for (const QSize size : {QSize(390, 844), QSize(1280, 800)}) {
+    app.window().resize(size);
+    ASSERT_TRUE(app.waitUntil([&] { return app.page()->width() == size.width(); }));
+    const auto* list = named("Sections", QAccessible::PageTabList);
+    ASSERT_NE(list, nullptr);
+    QStringList tabs;
+    for (int i = 0; i < list->childCount(); ++i) {
+      EXPECT_EQ(list->child(i)->role(), QAccessible::PageTab);
+      tabs << list->child(i)->text(QAccessible::Name);
+    }
+    EXPECT_EQ(tabs, (QStringList{"Browse", "Funded", "Mine", "News"}));
+  }
+}
+
 TEST_F(AccessibilityDetailTest, ASumIsReadWithWhatItIsAndDrawnWithoutIt) {
   signIn();
   press("Vegetarian for PETA", QAccessible::ListItem);

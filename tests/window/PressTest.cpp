@@ -10,7 +10,7 @@ class PressTest : public PressFixture {};
 
 TEST_F(PressTest, ADoubleClickOnFundAsksAndBooksNothing) {
   int underTheSecond = 0;  // how often Yes came to lie there
-  for (const QSize size : {QSize(390, 710), QSize(600, 740), QSize(1280, 740)}) {
+  for (const QSize size : {QSize(390, 710), QSize(480, 740), QSize(550, 740)}) {
     SCOPED_TRACE(size.width());
     app.window().resize(size);
     ASSERT_TRUE(app.waitUntil([&] { return app.page()->width() == size.width(); }));
@@ -93,8 +93,8 @@ TEST_F(PressTest, ASecondTouchWhereTheFirstChangedNoScreenCounts) {
 TEST_F(PressTest, ADoubleTapOfAFingerBooksNothing) {
   openCampaign();
   type("dollarAmountField", "1");
-  app.window().resize(1280, 740);  // where Yes comes to lie below the finger
-  ASSERT_TRUE(app.waitUntil([&] { return app.page()->width() == 1280; }));
+  app.window().resize(550, 740);  // where Yes comes to lie below the finger
+  ASSERT_TRUE(app.waitUntil([&] { return app.page()->width() == 550; }));
   for (int i = 0; i < 10; ++i) {  // on a busy machine the second touch may come too late
     app.settle();
     const auto fund = middleOf("FundButton");

@@ -99,8 +99,9 @@ def used_tokens(project):
     known = json.loads(project.text(TOKENS))
     groups = [known["color"]["day"], *(known[group] for group in known if group not in ("color", "$description"))]
     names = [name for group in groups for name in group if not name.startswith("$")]
-    used = "".join(project.text(path) for path in skins(project))
-    return [name for name in names if not re.search(rf"\bTheme\.{name}\b", used)]
+    used = "".join(project.text(path) for path in project.files(".qml", ".cpp") if path.startswith(ROOM))
+    return [name for name in names
+            if not re.search(rf"\bTheme\.{name}\b|\btokens::k{name[0].upper()}{name[1:]}\b", used)]
 
 
 def heavy(project):
