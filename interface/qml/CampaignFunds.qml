@@ -45,6 +45,7 @@ Column {
         Words {
             id: raised
             view: funds.raised
+            anchors.left: parent.left
             width: Math.min(implicitWidth, parent.width)
             wrapMode: Text.WrapAnywhere
             color: Theme.accentDeep

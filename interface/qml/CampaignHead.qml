@@ -46,7 +46,7 @@ Item {
                 width: parent.width
                 horizontalAlignment: Text.AlignHCenter
             }
-            // One line in the middle, or two where the name is long.
+            // One line in the middle, or two where the name is long; not mirrored, as words are read.
             Item {
                 id: maker
                 readonly property bool stacked: by.width + Theme.half + creator.implicitWidth > width

@@ -71,7 +71,7 @@ Pressable {
     Picture {
         id: picture
         view: row.view.picture
-        x: Theme.gap
+        anchors { left: parent.left; leftMargin: Theme.gap }
         anchors { verticalCenter: parent.verticalCenter; verticalCenterOffset: row.cardOffset }
         width: view.width
         height: view.height
@@ -84,7 +84,7 @@ Pressable {
         anchors { verticalCenter: parent.verticalCenter; verticalCenterOffset: row.cardOffset }
         width: Theme.icon
         height: width
-        icon: IconItem.Forward
+        icon: Desktop.mirrored ? IconItem.Back : IconItem.Forward
         color: Theme.outline
     }
 
@@ -96,8 +96,10 @@ Pressable {
 
         StillText {
             id: title
+            anchors.left: parent.left
             width: Math.min(parent.width, Theme.line)
             text: row.view.title.text
+            flushRight: Desktop.mirrored
             // And a line of the pitch.
             readonly property real room: row.cardRoom - line.height - Theme.half
             maximumLineCount: Math.max(1, Math.min(row.titleLines, Math.floor(room / titleMetrics.height)))
@@ -107,8 +109,10 @@ Pressable {
         }
         StillText {
             id: pitch
+            anchors.left: parent.left
             width: Math.min(parent.width, Theme.line)
             text: row.view.detail.text
+            flushRight: Desktop.mirrored
             maximumLineCount: Math.max(1, Math.min(row.pitchLines, Math.floor(room / line.height)))
             readonly property real room: row.cardRoom - title.height - Theme.half
             color: Theme.quiet

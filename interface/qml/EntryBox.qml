@@ -105,6 +105,7 @@ Rectangle {
         y: box.resting ? Math.max(Theme.unit, drop) : Theme.unit
         text: box.bridge.placeholder
         textFormat: Text.PlainText
+        horizontalAlignment: Text.AlignLeft
         wrapMode: Text.Wrap
         color: Theme.quiet
         font.pointSize: box.resting ? Theme.body : Theme.small

@@ -7,7 +7,8 @@ Words {
 
     color: Theme.alert
     font { pointSize: Theme.body; weight: Font.DemiBold }
-    leftPadding: Theme.icon + Theme.unit
+    leftPadding: Desktop.mirrored ? 0 : Theme.icon + Theme.unit
+    rightPadding: Desktop.mirrored ? Theme.icon + Theme.unit : 0
     Accessible.ignored: true
 
     Announcement {
@@ -18,6 +19,7 @@ Words {
     }
 
     IconItem {
+        anchors.left: parent.left
         y: (parent.height / Math.max(1, words.lineCount) - height) / 2
         width: Theme.icon
         height: width

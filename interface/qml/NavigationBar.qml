@@ -25,6 +25,7 @@ Rectangle {
         anchors.leftMargin: Math.max(bar.columnStart, back.visible ? Theme.half + back.width : 0)
         text: bar.view.title
         textFormat: Text.PlainText
+        horizontalAlignment: Text.AlignLeft
         elide: Text.ElideRight
         fontSizeMode: Text.HorizontalFit
         minimumPointSize: Theme.small
@@ -44,7 +45,7 @@ Rectangle {
     Pressable {
         id: back
         objectName: "backButton"
-        x: Theme.half
+        anchors { left: parent.left; leftMargin: Theme.half }
         anchors.verticalCenter: parent.verticalCenter
         width: Theme.target
         height: Theme.target
@@ -65,7 +66,7 @@ Rectangle {
             anchors.centerIn: parent
             width: Theme.icon
             height: Theme.icon
-            icon: IconItem.Back
+            icon: Desktop.mirrored ? IconItem.Forward : IconItem.Back
             color: Theme.accentDeep
         }
     }

@@ -20,6 +20,9 @@ FocusScope {
     // The keys that scroll work wherever on the screen the focus is.
     Keys.forwardTo: content.children
 
+    LayoutMirroring.enabled: Desktop.mirrored
+    LayoutMirroring.childrenInherit: true
+
     width: root.width
     height: root.y + root.height
 
@@ -28,9 +31,10 @@ FocusScope {
         color: Theme.ground
     }
 
-    // A drag from the left edge leads back where it goes far enough; less of one is a tap or a
-    // scroll for what lies above.
+    // A drag from the edge where the way back stands leads back where it goes far enough; less of one
+    // is a tap or a scroll for what lies above.
     Item {
+        anchors.left: parent.left
         width: Theme.space
         height: parent.height
 
@@ -41,7 +45,7 @@ FocusScope {
             grabPermissions: PointerHandler.CanTakeOverFromAnything
             onGrabChanged: (change, point) => {
                 const way = point.scenePosition.x - point.scenePressPosition.x;
-                if (change === PointerDevice.UngrabExclusive && way > page.swipe)
+                if (change === PointerDevice.UngrabExclusive && (Desktop.mirrored ? -way : way) > page.swipe)
                     page.bar.goBack();
             }
         }

@@ -41,6 +41,7 @@ Item {
     }
 
     Rectangle {
+        anchors.left: parent.left
         width: Math.max(height, parent.width * progress.shown)
         height: parent.height
         radius: height / 2

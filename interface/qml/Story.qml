@@ -50,7 +50,7 @@ Paper {
         color: Theme.ground
     }
     IconItem {
-        anchors.right: parent.right
+        x: parent.width - width
         width: Theme.cardRadius
         height: width
         rotation: 90

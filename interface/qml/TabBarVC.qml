@@ -93,8 +93,8 @@ Page {
             Keys.onPressed: event => {
                 const tabs = [browse, funded, mine, news];
                 const at = tabs.findIndex(tab => tab.activeFocus);
-                const ahead = frame.rail ? Qt.Key_Down : Qt.Key_Right;
-                const back = frame.rail ? Qt.Key_Up : Qt.Key_Left;
+                const ahead = frame.rail ? Qt.Key_Down : Desktop.mirrored ? Qt.Key_Left : Qt.Key_Right;
+                const back = frame.rail ? Qt.Key_Up : Desktop.mirrored ? Qt.Key_Right : Qt.Key_Left;
                 event.accepted = [ahead, back].includes(event.key) && !(event.modifiers & Qt.AltModifier);
                 if (event.accepted)
                     tabs[at + (event.key === ahead ? 1 : -1)]?.forceActiveFocus(Qt.TabFocusReason);

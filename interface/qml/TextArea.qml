@@ -26,6 +26,7 @@ EntryBox {
         activeFocusOnPress: false
         text: area.view.text
         textFormat: TextEdit.PlainText
+        horizontalAlignment: Desktop.mirrored ? TextEdit.AlignLeft : undefined
         wrapMode: TextEdit.Wrap
         color: area.view.coloured ? area.view.textColor : Theme.black
         font { pointSize: Theme.lead; weight: area.view.coloured ? Font.Bold : Font.Normal }

@@ -32,6 +32,7 @@ EntryBox {
         font { pointSize: Theme.lead; weight: entry.view.coloured ? Font.Bold : Font.Normal }
         echoMode: entry.view.masked || composing ? TextInput.Password : TextInput.Normal
         inputMethodHints: entry.view.inputHints
+        horizontalAlignment: Desktop.mirrored ? TextInput.AlignLeft : undefined
         wrapMode: entry.view.coloured ? TextInput.Wrap : TextInput.NoWrap
         maximumLength: 0x7fffffff
         selectByMouse: true

@@ -15,6 +15,8 @@ Text {
     text: view.text
     textFormat: Text.PlainText
     wrapMode: Text.Wrap
+    // By the direction of its words, and on a mirrored page where its lines begin.
+    horizontalAlignment: Desktop.mirrored ? Text.AlignLeft : undefined
     color: Theme.ink
     font.pointSize: Theme.body
     lineHeight: 1.2

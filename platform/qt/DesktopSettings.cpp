@@ -7,6 +7,7 @@
 #include <QEvent>
 #include <QFile>
 #include <QGuiApplication>
+#include <QLocale>
 #include <QPalette>
 #include <thread>
 #include <utility>
@@ -50,9 +51,16 @@ DesktopSettings& DesktopSettings::ofApplication() {
 
 DesktopSettings::DesktopSettings(QObject* parent) : QObject(parent) {
   parent->installEventFilter(this);
+  // Qt takes the direction from the language that it is translated into, which is none here.
+  if (QLocale().textDirection() == Qt::RightToLeft) {
+    QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+  }
+  connect(qApp, &QGuiApplication::layoutDirectionChanged, this, &DesktopSettings::changed);
   decide();
   if (busIsThere()) ask();
 }
+
+bool DesktopSettings::mirrored() const { return QGuiApplication::isRightToLeft(); }
 
 void DesktopSettings::ask() {
   auto bus = QDBusConnection::sessionBus();

@@ -1,5 +1,6 @@
 #include "platform/qt/SceneStage.h"
 
+#include <QGuiApplication>
 #include <QQuickWindow>
 #include <utility>
 
@@ -14,6 +15,9 @@ constexpr double kLowerShare = 1.0 / 3;
 
 // A window without a new frame for so long, in milliseconds, is at rest.
 constexpr int kRest = 50;
+
+// A screen comes from where reading goes on.
+double wayIn() { return QGuiApplication::isRightToLeft() ? -1 : 1; }
 
 double between(double from, double to, double share) { return from + (to - from) * share; }
 
@@ -46,7 +50,7 @@ void SceneStage::show(const UINavigationController& navigation) {
 }
 
 void SceneStage::exchangeFor(QQuickItem& incoming, bool forward) {
-  const double edge = forward ? content_.width() : -content_.width() * kLowerShare;
+  const double edge = wayIn() * content_.width() * (forward ? 1 : -kLowerShare);
   // If reversed mid-slide, both go on from where they are.
   const double incomingX = &incoming == outgoing_ ? incoming.x() : edge;
   const double outgoingX = shown_ != nullptr ? shown_->x() : 0;
@@ -72,7 +76,7 @@ void SceneStage::slide(QQuickItem& incoming, bool forward) {
   outgoing_->setZ(forward ? 0 : 1);
   const double inFrom = incoming.x();
   const double outFrom = outgoing_->x();
-  const double outTo = forward ? -content_.width() * kLowerShare : content_.width();
+  const double outTo = wayIn() * content_.width() * (forward ? -kLowerShare : 1);
   animation_.disconnect(&content_);
   connect(&animation_, &QVariantAnimation::valueChanged, &content_,
           [this, in = &incoming, inFrom, outFrom, outTo](const QVariant& value) {

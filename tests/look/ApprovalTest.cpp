@@ -28,9 +28,10 @@ struct Sitting {
 };
 
 std::string nameOf(const Sitting& sitting) {
-  const auto& [percent, scale, night] = sitting.surroundings;
+  const auto& [percent, scale, night, mirrored] = sitting.surroundings;
   return sitting.stage + (percent == 100 ? "" : "-font" + std::to_string(percent)) +
-         (scale == 1 ? "" : "-scale" + std::to_string(scale)) + (night ? "-night" : "");
+         (scale == 1 ? "" : "-scale" + std::to_string(scale)) + (night ? "-night" : "") +
+         (mirrored ? "-mirrored" : "");
 }
 
 std::string fileName(const Sitting& sitting, QSize size) {

@@ -17,7 +17,8 @@ struct Case {
 std::string nameOf(const Case& tried) {
   return tried.stage + "-font" + std::to_string(tried.surroundings.fontPercent) +
          (tried.surroundings.scale > 1 ? "-scale" + std::to_string(tried.surroundings.scale) : "") +
-         (tried.surroundings.night ? "-night" : "");
+         (tried.surroundings.night ? "-night" : "") +
+         (tried.surroundings.mirrored ? "-mirrored" : "");
 }
 
 void PrintTo(const Case& tried, std::ostream* out) { *out << nameOf(tried); }
@@ -28,7 +29,9 @@ std::vector<Case> cases() {
     all.push_back({stage.name, {100, 1}});
     all.push_back({stage.name, {150, 1}});
     all.push_back({stage.name, {100, 1, true}});
-    if (stage.ordinary) all.push_back({stage.name, {100, 2}});
+    if (!stage.ordinary) continue;
+    all.push_back({stage.name, {100, 2}});
+    all.push_back({stage.name, {.mirrored = true}});
   }
   return all;
 }

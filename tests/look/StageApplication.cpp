@@ -4,6 +4,7 @@
 
 #include <QFontInfo>
 #include <QGuiApplication>
+#include <QLocale>
 #include <QPalette>
 #include <QScreen>
 #include <cmath>
@@ -33,6 +34,9 @@ void requireSurroundings(const Surroundings& wanted, const QQuickWindow& window)
   if (std::abs(dots - 0.96 * wanted.fontPercent) > 1) {
     throw std::runtime_error("the font resolution is " + std::to_string(dots));
   }
+  if (DesktopSettings::ofApplication().mirrored() != wanted.mirrored) {
+    throw std::runtime_error("the direction is not the one asked for");
+  }
   if (std::abs(window.effectiveDevicePixelRatio() - wanted.scale) > 0.01) {
     throw std::runtime_error("the scale is not the one asked for");
   }
@@ -54,6 +58,7 @@ StageApplication::Prepared::Prepared(const Surroundings& surroundings) {
   qputenv("QT_SCALE_FACTOR", QByteArray::number(surroundings.scale));
   // With its scaling on, the platform without a screen reads no font resolution.
   if (surroundings.fontPercent != 100) qputenv("QT_ENABLE_HIGHDPI_SCALING", "0");
+  if (surroundings.mirrored) QLocale::setDefault(QLocale(QLocale::Arabic));
 }
 
 StageApplication::StageApplication(Surroundings surroundings, Pictures pictures, QSize size)

@@ -15,6 +15,7 @@ struct Surroundings {
   int fontPercent = 100;  // of a font resolution of 96 dots an inch
   int scale = 1;          // device pixels to a logical one
   bool night = false;     // by the desktop's palette
+  bool mirrored = false;  // for a language written from right to left
 };
 
 // The application in its window, for whoever measures or photographs what it shows: driven through

@@ -45,6 +45,13 @@ void StillText::setMaximumLineCount(int count) {
   emit maximumLineCountChanged();
 }
 
+void StillText::setFlushRight(bool flushRight) {
+  if (flushRight == flushRight_) return;
+  flushRight_ = flushRight;
+  layOut();
+  emit flushRightChanged();
+}
+
 void StillText::componentComplete() {
   ImageItem::componentComplete();
   layOut();
@@ -59,6 +66,7 @@ void StillText::layOut() {
   if (!isComponentComplete()) return;
   QTextOption option;
   option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+  if (flushRight_) option.setAlignment(Qt::AlignRight | Qt::AlignAbsolute);
   option.setUseDesignMetrics(true);  // as wide at every size and scale as the letters are drawn
   layout_.setTextOption(option);
   layout_.setFont(font_);

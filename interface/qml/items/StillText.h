@@ -24,6 +24,8 @@ class StillText : public leafund::ImageItem {
   // Fewer than 1 count as 1.
   Q_PROPERTY(int maximumLineCount READ maximumLineCount WRITE setMaximumLineCount NOTIFY
                  maximumLineCountChanged REQUIRED FINAL)
+  // Lines end at the right, whatever the direction of their words.
+  Q_PROPERTY(bool flushRight READ flushRight WRITE setFlushRight NOTIFY flushRightChanged FINAL)
   Q_PROPERTY(int lineCount READ lineCount NOTIFY laidOut FINAL)
   Q_PROPERTY(bool truncated READ truncated NOTIFY laidOut FINAL)
   Q_PROPERTY(double contentWidth READ contentWidth NOTIFY laidOut FINAL)
@@ -40,6 +42,8 @@ class StillText : public leafund::ImageItem {
   void setColor(const QColor& color);
   int maximumLineCount() const { return maximumLineCount_; }
   void setMaximumLineCount(int count);
+  bool flushRight() const { return flushRight_; }
+  void setFlushRight(bool flushRight);
 
   int lineCount() const { return layout_.lineCount(); }
   bool truncated() const { return truncated_; }
@@ -53,6 +57,7 @@ class StillText : public leafund::ImageItem {
   void fontChanged();
   void colorChanged();
   void maximumLineCountChanged();
+  void flushRightChanged();
   void laidOut();
 
  protected:
@@ -72,6 +77,7 @@ class StillText : public leafund::ImageItem {
   QFont font_;
   QColor color_;
   int maximumLineCount_ = 1;
+  bool flushRight_ = false;
   QTextLayout layout_;
   bool truncated_ = false;
   QRectF words_;  // what its lines take
