@@ -10,6 +10,7 @@ Column {
     required property ProgressBridge bar
     required property LabelBridge raised
     required property LabelBridge goal
+    required property bool slides
     readonly property bool reached: !bar.visible
 
     spacing: Theme.unit
@@ -17,6 +18,7 @@ Column {
     Celebration {
         anchors.horizontalCenter: parent.horizontalCenter
         visible: funds.reached
+        slides: funds.slides
         width: Theme.mark * 1.5
         height: Theme.mark
     }

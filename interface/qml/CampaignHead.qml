@@ -13,6 +13,7 @@ Item {
     required property ProgressBridge bar
     required property LabelBridge raised
     required property LabelBridge goal
+    required property bool slides
     readonly property real portrait: 130
     readonly property bool reached: funds.reached
 
@@ -77,6 +78,7 @@ Item {
             bar: head.bar
             raised: head.raised
             goal: head.goal
+            slides: head.slides
             width: parent.width
         }
     }

@@ -1,10 +1,12 @@
 import QtQuick
 import Leafund
 
-// A leaf in a shower of dots. It opens once, when it is first seen.
+// A leaf in a shower of dots. It opens once, when the slide that first brought it has ended.
 Item {
     id: party
 
+    // The page that it is on is moving.
+    required property bool slides
     readonly property real unit: Math.min(width, height) / 10
     readonly property var dots: [
         { x: -6, y: -2.6, size: 0.9, color: Theme.sun },
@@ -21,14 +23,16 @@ Item {
 
     property bool seen: false
 
+    readonly property real folded: 0.6
+    scale: seen || Desktop.lessMotion ? 1 : folded
+
     NumberAnimation {
         target: party
         property: "scale"
-        from: 0.6
         to: 1
-        duration: Desktop.lessMotion ? 0 : Theme.fillDuration
+        duration: Theme.celebrationDuration
         easing.type: Easing.OutBack
-        running: party.visible && !party.seen
+        running: party.visible && !party.slides && !party.seen && !Desktop.lessMotion
         onFinished: party.seen = true
     }
 

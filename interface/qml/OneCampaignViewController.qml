@@ -46,6 +46,7 @@ Page {
                     bar: page.slider
                     raised: page.currentFund
                     goal: page.desiredFund
+                    slides: page.slides
                     width: parent.width
                 }
 

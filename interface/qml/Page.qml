@@ -15,6 +15,7 @@ FocusScope {
     property real columnEnd: columnStart
     // How far a drag leads back, in points.
     readonly property real swipe: 80
+    readonly property bool slides: x !== 0
     readonly property int slideDuration: Desktop.lessMotion ? 0 : Theme.slideDuration
 
     // The keys that scroll work wherever on the screen the focus is.

@@ -18,6 +18,7 @@ Page {
         spacing: Theme.space
 
         Celebration {
+            slides: page.slides
             anchors.horizontalCenter: parent.horizontalCenter
             width: Math.min(parent.width, height * 1.5)
             height: Math.min(page.celebration, page.height / 3)

@@ -2,6 +2,7 @@
 
 #include <QElapsedTimer>
 #include <QPalette>
+#include <algorithm>
 #include <optional>
 
 #include "platform/qt/DesktopSettings.h"
@@ -84,6 +85,23 @@ TEST_F(DesktopSettingsTest, MoreContrastMakesInkBlack) {
 TEST_F(DesktopSettingsTest, WithLessMotionNothingSlides) {
   open(appearance("reduced-motion", 1));
   EXPECT_EQ(app->page()->property("slideDuration").toInt(), 0);
+}
+
+TEST_F(DesktopSettingsTest, WithLessMotionACelebrationStandsOpen) {
+  open(appearance("reduced-motion", 1));
+  app->click(app->require("signInButton"));
+  app->settle();
+  app->click(app->require("signInButton"));
+  app->settle();
+  app->click(app->require("fundedTab"));
+  app->click(app->require("Funded-0"));
+  const auto items = app->page()->findChildren<QQuickItem*>();
+  const auto party = std::find_if(items.begin(), items.end(), [](const QQuickItem* each) {
+    return QByteArray(each->metaObject()->className()).startsWith("Celebration");
+  });
+  ASSERT_NE(party, items.end());
+  EXPECT_TRUE((*party)->isVisible());
+  EXPECT_EQ((*party)->scale(), 1);
 }
 
 TEST_F(DesktopSettingsTest, ADesktopWithoutAnimationsAsksForLessMotion) {

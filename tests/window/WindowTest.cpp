@@ -129,32 +129,6 @@ TEST_F(WindowTest, ASelectedTabIsDrawnInTheAccentColourAndTheOthersAreNot) {
   EXPECT_EQ(colourOf("newsTab"), 0);
 }
 
-TEST_F(WindowTest, ACelebrationThatWasSeenIsNotRepeatedOnTheWayBack) {
-  signIn();
-  click("fundedTab");
-  click("Funded-0");
-  const auto celebration = [&]() -> QQuickItem* {
-    for (auto* each : app.page()->findChildren<QQuickItem*>()) {
-      const bool is = QByteArray(each->metaObject()->className()).startsWith("Celebration");
-      if (is && each->isVisible()) return each;
-    }
-    return nullptr;
-  };
-  auto* party = celebration();
-  ASSERT_NE(party, nullptr);
-  ASSERT_TRUE(app.waitUntil([&] { return party->property("seen").toBool(); }));
-  EXPECT_EQ(party->scale(), 1);
-  click("campaignUpdates");
-  double least = 1;
-  QObject context;
-  QObject::connect(party, &QQuickItem::scaleChanged, &context,
-                   [&] { least = std::min(least, party->scale()); });
-  app.press(Qt::Key_Escape);
-  app.settle();
-  EXPECT_EQ(celebration(), party);
-  EXPECT_EQ(least, 1);
-}
-
 TEST_F(WindowTest, OddGoalsAreShownWithoutDamage) {
   constexpr float kGoals[] = {0, -5, std::numeric_limits<float>::quiet_NaN(),
                               std::numeric_limits<float>::infinity(), 3.4e38F};
