@@ -13,8 +13,10 @@ FocusScope {
     // How far from the page's edges its column begins and ends, and with it what the bar holds.
     property real columnStart: Theme.gap
     property real columnEnd: columnStart
-    // How far a drag leads back, in points.
-    readonly property real swipe: 80
+    // A finger has been drawn so far from the edge where the way back stands, in points, and is lifted
+    // or taken away.
+    signal drawnBack(real way)
+    signal letGo(bool lifted)
     readonly property bool slides: x !== 0
     readonly property int slideDuration: Desktop.lessMotion ? 0 : Theme.slideDuration
 
@@ -32,8 +34,8 @@ FocusScope {
         color: Theme.ground
     }
 
-    // A drag from the edge where the way back stands leads back where it goes far enough; less of one
-    // is a tap or a scroll for what lies above.
+    // A drag from the edge where the way back stands leads back; less of one is a tap or a
+    // scroll for what lies above.
     Item {
         anchors.left: parent.left
         width: Theme.space
@@ -44,10 +46,16 @@ FocusScope {
             yAxis.enabled: false
             enabled: page.bar.canGoBack
             grabPermissions: PointerHandler.CanTakeOverFromAnything
-            onGrabChanged: (change, point) => {
-                const way = point.scenePosition.x - point.scenePressPosition.x;
-                if (change === PointerDevice.UngrabExclusive && (Desktop.mirrored ? -way : way) > page.swipe)
-                    page.bar.goBack();
+            onCentroidChanged: {
+                const way = centroid.scenePosition.x - centroid.scenePressPosition.x;
+                if (active)
+                    page.drawnBack(Desktop.mirrored ? -way : way);
+            }
+            onGrabChanged: change => {
+                if (change === PointerDevice.UngrabExclusive)
+                    page.letGo(true);
+                else if (change === PointerDevice.CancelGrabExclusive)
+                    page.letGo(false);
             }
         }
     }

@@ -22,13 +22,18 @@ class ScreenPages {
     std::vector<std::unique_ptr<Page>> gone;  // of screens that left the stack
   };
 
+  // Null where the screen has none.
+  Page* pageOf(const UIViewController& controller) const {
+    const auto known = std::find_if(places_.begin(), places_.end(),
+                                    [&](const Place& place) { return place.shows(controller); });
+    return known == places_.end() ? nullptr : known->page.get();
+  }
+
   // The screen's page; where it has none, `make(controller)` makes it, a std::unique_ptr. The view
   // is loaded then.
   template <class Make>
   Page& pageFor(UIViewController& controller, Make make) {
-    const auto known = std::find_if(places_.begin(), places_.end(),
-                                    [&](const Place& place) { return place.shows(controller); });
-    if (known != places_.end()) return *known->page;
+    if (auto* known = pageOf(controller)) return *known;
     const auto& root = controller.view();
     places_.push_back({root, make(controller)});
     return *places_.back().page;

@@ -18,6 +18,9 @@ class Page {
   Page& operator=(const Page&) = delete;
   virtual ~Page() = default;
 
+  // Has the property slideDuration, in milliseconds, and the signals drawnBack(double) and
+  // letGo(bool): the user draws the page so far, in points, towards the way back; the finger was
+  // lifted, or taken away.
   virtual QQuickItem& item() const = 0;
   // Brings the bar and the child that the screen shows up to date.
   virtual void refresh(const UINavigationController& navigation, UIViewController& controller) = 0;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QObject>
 #include <QQuickItem>
 #include <QTimer>
@@ -8,20 +9,36 @@
 #include <vector>
 
 #include "platform/display/ScreenPages.h"
+#include "platform/qt/DragSpeed.h"
 #include "platform/qt/PageMaker.h"
 
 namespace leafund {
 
 // The screens in the window. The stack of the toolkit moves at once, and the window slides after
 // it: the screen that comes takes input from the start, the one that goes takes none any more.
+//
+// A finger that draws a screen towards the way back has it follow, and shows the screen below,
+// which takes no input. When it is lifted the screen goes back, by how far and how fast it was
+// drawn, or returns; the stack hears only of the former.
 class SceneStage : public QObject {
+  Q_OBJECT
+
  public:
   // `content` is where the maker puts the pages.
   SceneStage(PageMaker& maker, QQuickItem& content);
 
   void show(const UINavigationController& navigation);
 
+ private slots:
+  // By the page that sends it.
+  void draw(double way);
+  void letGo(bool lifted);
+
  private:
+  std::unique_ptr<Page> make(UIViewController& screen);
+  bool take(QQuickItem& page, double way);
+  void giveUp();
+  QQuickItem* below() const;
   void exchangeFor(QQuickItem& incoming, bool forward);
   void slide(QQuickItem& incoming, bool forward);
   void endSlide();
@@ -32,7 +49,11 @@ class SceneStage : public QObject {
   ScreenPages<Page> pages_;
   std::vector<std::unique_ptr<Page>> leaving_;  // until their slide has ended
   QQuickItem* shown_ = nullptr;
-  QQuickItem* outgoing_ = nullptr;  // while it slides
+  QQuickItem* outgoing_ = nullptr;  // while it slides, and the one below while a finger draws
+  QQuickItem* drawn_ = nullptr;     // by a finger
+  double ahead_ = 0;                // of the finger is what it draws
+  DragSpeed speed_;
+  QElapsedTimer clock_;
   QVariantAnimation animation_;
 };
 

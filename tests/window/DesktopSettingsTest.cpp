@@ -2,6 +2,7 @@
 
 #include <QElapsedTimer>
 #include <QPalette>
+#include <QTest>
 #include <algorithm>
 #include <optional>
 
@@ -102,6 +103,20 @@ TEST_F(DesktopSettingsTest, WithLessMotionACelebrationStandsOpen) {
   ASSERT_NE(party, items.end());
   EXPECT_TRUE((*party)->isVisible());
   EXPECT_EQ((*party)->scale(), 1);
+}
+
+TEST_F(DesktopSettingsTest, WithLessMotionAPageFollowsTheFingerAndReturnsAtOnce) {
+  open(appearance("reduced-motion", 1));
+  app->click(app->require("signUpButton"));
+  app->settle();
+  const auto* page = app->page();
+  QTest::mousePress(&app->window(), Qt::LeftButton, {}, QPoint(6, 300));
+  for (int x = 6; x <= 120; x += 6) QTest::mouseMove(&app->window(), QPoint(x, 300));
+  EXPECT_GT(page->x(), 60);
+  QTest::qWait(150);
+  QTest::mouseRelease(&app->window(), Qt::LeftButton, {}, QPoint(120, 300));
+  EXPECT_EQ(page->x(), 0);
+  EXPECT_EQ(app->shown()->className(), "SignUpVC");
 }
 
 TEST_F(DesktopSettingsTest, ADesktopWithoutAnimationsAsksForLessMotion) {

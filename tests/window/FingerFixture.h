@@ -24,6 +24,16 @@ class FingerTest : public WindowTest {
     QCoreApplication::processEvents();
   }
   void touch(QPoint where) { touch(where, where); }
+  // Parts of a touch: what happens in the middle of it is told apart by them.
+  void put(QPoint where) { QTest::touchEvent(&app.window(), finger_.get()).press(0, where); }
+  void drawTo(QPoint where) {
+    QTest::touchEvent(&app.window(), finger_.get()).move(0, where);
+    waitForFrame();
+  }
+  void lift(QPoint where) {
+    QTest::touchEvent(&app.window(), finger_.get()).release(0, where);
+    QCoreApplication::processEvents();
+  }
   void touchItem(const std::string& name) {
     touch(middleOf(name));
     app.settle();
@@ -33,7 +43,6 @@ class FingerTest : public WindowTest {
     return item.mapToScene({item.width() / 2, item.height() / 2}).toPoint();
   }
 
- private:
   void waitForFrame() {
     bool drawn = false;
     QObject context;
