@@ -10,6 +10,7 @@ FocusScope {
     required property BarBridge bar
     default property alias content: content.data
     property alias barContent: navigationBar.trailing
+    readonly property alias navigationBar: navigationBar
     // How far from the page's edges its column begins and ends, and with it what the bar holds.
     property real columnStart: Theme.gap
     property real columnEnd: columnStart
@@ -19,6 +20,30 @@ FocusScope {
     signal letGo(bool lifted)
     readonly property bool slides: x !== 0
     readonly property int slideDuration: Desktop.lessMotion ? 0 : Theme.slideDuration
+
+    // What F6 leads through, with Ctrl+Tab for another name of it.
+    property var panes: [navigationBar, content]
+    function enterPane(forward: bool) {
+        const focused = Window.activeFocusItem;
+        const holds = (pane, item) => {
+            while (item && item !== pane)
+                item = item.parent;
+            return item === pane;
+        };
+        const step = forward ? 1 : panes.length - 1;
+        let at = panes.findIndex(pane => holds(pane, focused));
+        for (let i = 0; i < panes.length; ++i) {
+            at = (at + step) % panes.length;
+            const first = panes[at].entry ?? panes[at].nextItemInFocusChain(true);
+            if (holds(panes[at], first))
+                return first.forceActiveFocus(Qt.TabFocusReason);
+        }
+    }
+    Keys.onPressed: event => {
+        event.accepted = event.key === Qt.Key_F6;
+        if (event.accepted)
+            enterPane(!(event.modifiers & Qt.ShiftModifier));
+    }
 
     // The keys that scroll work wherever on the screen the focus is.
     Keys.forwardTo: content.children

@@ -12,6 +12,7 @@ Page {
     required property TabBridge newsTab
     required property ButtonBridge newButton
 
+    panes: [navigationBar, inner, frame]
     // How wide the tabs are that stand at the side; 0 where they stand at the foot.
     readonly property real rail: tabBar.width < tabs.width ? tabBar.width : 0
 
@@ -26,6 +27,7 @@ Page {
 
     // The selected tab's screen is put here.
     Item {
+        id: inner
         objectName: page.tabs.name
         anchors.right: parent.right
         width: page.tabs.width - page.rail
@@ -38,7 +40,8 @@ Page {
     Rectangle {
         id: frame
         readonly property bool rail: page.rail > 0
-
+        readonly property Item entry: browse.view.selected ? browse : funded.view.selected ? funded
+                                      : mine.view.selected ? mine : news
         objectName: page.tabBar.name
         anchors.left: parent.left
         y: page.tabBar.y

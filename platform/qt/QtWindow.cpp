@@ -34,6 +34,11 @@ bool leadsBack(const QKeyEvent& key) {
          (key.key() == Qt::Key_Left && key.modifiers() == Qt::AltModifier);
 }
 
+bool isCtrlTab(const QKeyEvent& key) {
+  return (key.key() == Qt::Key_Tab || key.key() == Qt::Key_Backtab) &&
+         key.modifiers().testFlag(Qt::ControlModifier);
+}
+
 bool presses(const QKeyEvent& key) {
   return leadsBack(key) || key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter ||
          key.key() == Qt::Key_Space;
@@ -174,6 +179,14 @@ bool QtWindow::takePress(QEvent& event) {
 }
 
 bool QtWindow::takeKey(QKeyEvent& key) {
+  // Inputs take Tab for themselves, whatever is held with it.
+  if (isCtrlTab(key)) {
+    const auto modifiers = key.key() == Qt::Key_Backtab ? Qt::ShiftModifier : key.modifiers();
+    QKeyEvent pane(QEvent::KeyPress, Qt::Key_F6, modifiers & Qt::ShiftModifier);
+    pane.setTimestamp(key.timestamp());
+    QQuickWindow::event(&pane);
+    return true;
+  }
   usedByKeys_ = true;
   const Press press{nullptr, key.key(), key.timestamp(), {}, 0, key.isAutoRepeat()};
   const int interval = QGuiApplication::styleHints()->mouseDoubleClickInterval();

@@ -8,7 +8,7 @@
 namespace leafund {
 
 // The application's window. Its content size and whatever leads back go to the toolkit: Escape, the
-// back keys, Alt with Left, and a pointer's back button. Ctrl+Q closes it.
+// back keys, Alt with Left, and a pointer's back button. Ctrl+Q closes it. Ctrl+Tab is told as F6.
 //
 // Presses that are part of one which changed the top screen come to nothing (PressSeries): a key is
 // dropped; a pointer may still scroll or drag, but taps nothing.

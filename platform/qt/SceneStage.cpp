@@ -114,6 +114,7 @@ void SceneStage::giveUp() {
 
 void SceneStage::exchangeFor(QQuickItem& incoming, bool forward) {
   drawn_ = nullptr;
+  speed_ = {};
   const double edge = wayIn() * content_.width() * (forward ? 1 : -kLowerShare);
   // If reversed mid-slide, both go on from where they are.
   const double incomingX = &incoming == outgoing_ ? incoming.x() : edge;
