@@ -21,9 +21,14 @@ Pressable {
     Rectangle {
         anchors.fill: parent
         radius: Theme.radius
-        color: button.primary ? (button.held ? Theme.buttonHeld : Theme.button)
-                              : (button.held ? Theme.accentPale : Theme.card)
+        color: !button.primary ? Theme.card : button.held ? Theme.buttonHeld : Theme.button
         border { width: Theme.hairline; color: Theme.button }
+
+        Rectangle {
+            anchors.fill: parent
+            radius: Theme.radius
+            color: button.primary && button.held ? Theme.none : button.shade
+        }
     }
 
     Text {

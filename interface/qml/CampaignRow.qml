@@ -64,8 +64,7 @@ Pressable {
 
     Rectangle {
         anchors { fill: parent; topMargin: row.cardTop; bottomMargin: row.cardBottom }
-        visible: row.held
-        color: Theme.veil
+        color: row.shade
     }
 
     Picture {

@@ -109,6 +109,14 @@ Rectangle {
         wrapMode: Text.Wrap
         color: Theme.quiet
         font.pointSize: box.resting ? Theme.body : Theme.small
+        Behavior on y {
+            enabled: !Desktop.lessMotion
+            Fade {}
+        }
+        Behavior on font.pointSize {
+            enabled: !Desktop.lessMotion
+            Fade {}
+        }
         Accessible.ignored: true
     }
 

@@ -59,8 +59,7 @@ Rectangle {
             width: Theme.wide
             height: width
             radius: width / 2
-            visible: back.held
-            color: Theme.accentPale
+            color: back.shade
         }
         IconItem {
             anchors.centerIn: parent

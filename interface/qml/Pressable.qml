@@ -7,7 +7,11 @@ Item {
     id: pressable
 
     signal pressed
-    readonly property bool held: area.pressed && !area.drawn
+    // A quick tap is seen, too.
+    readonly property bool held: area.pressed && !area.drawn || glimpse.running
+    readonly property alias hovered: hover.hovered
+    // Over what is held, and what a pointer is on; a finger hovers over nothing.
+    readonly property color shade: held ? Theme.veil : hovered ? Theme.hover : Theme.none
     // In a list a finger that is drawn along wants to scroll, even where the list has ended.
     property bool steady: false
     property alias ringOutset: ring.outset
@@ -15,6 +19,15 @@ Item {
     property alias ringOutsetBottom: ring.outsetBottom
 
     activeFocusOnTab: true
+
+    Timer {
+        id: glimpse
+        interval: Theme.pressDuration
+    }
+    HoverHandler {
+        id: hover
+        acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
+    }
 
     function press() {
         forceActiveFocus(Qt.MouseFocusReason);
@@ -24,8 +37,10 @@ Item {
     // A key that is held down presses once.
     Keys.onPressed: event => {
         event.accepted = [Qt.Key_Return, Qt.Key_Enter, Qt.Key_Space].includes(event.key);
-        if (event.accepted && !event.isAutoRepeat)
+        if (event.accepted && !event.isAutoRepeat) {
+            glimpse.restart();
             pressed();
+        }
     }
 
     Accessible.role: Accessible.Button
@@ -48,10 +63,12 @@ Item {
         onPressed: mouse => {
             start = mouse.y;
             drawn = false;
+            glimpse.restart();
         }
+        onCanceled: glimpse.stop()
         onPositionChanged: mouse => {
             if (pressable.steady && Math.abs(mouse.y - start) >= Qt.styleHints.startDragDistance)
-                drawn = true;
+                drawn = true, glimpse.stop();
         }
         onClicked: if (!drawn) pressable.press()
     }

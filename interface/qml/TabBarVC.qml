@@ -34,6 +34,17 @@ Page {
         height: page.tabs.height
         clip: true
         Keys.forwardTo: children
+
+        readonly property Item selected: bar.entry
+        onSelectedChanged: fade.restart()
+        Fade {
+            id: fade
+            target: tabs
+            property: "opacity"
+            from: 0
+            to: 1
+            longest: Theme.tabDuration
+        }
     }
 
     // A bar at the foot or, where the window is wide, a rail at the side, from its top to its foot.

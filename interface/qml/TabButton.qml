@@ -37,8 +37,7 @@ Pressable {
 
     Rectangle {
         anchors.fill: parent
-        visible: tab.held
-        color: Theme.accentPale
+        color: tab.shade
     }
 
     Column {
