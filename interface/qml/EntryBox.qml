@@ -113,10 +113,6 @@ Rectangle {
             enabled: !Desktop.lessMotion
             Fade {}
         }
-        Behavior on font.pointSize {
-            enabled: !Desktop.lessMotion
-            Fade {}
-        }
         Accessible.ignored: true
     }
 

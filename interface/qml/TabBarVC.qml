@@ -35,11 +35,11 @@ Page {
         clip: true
         Keys.forwardTo: children
 
-        readonly property Item selected: bar.entry
+        readonly property Item selected: frame.entry
         onSelectedChanged: fade.restart()
         Fade {
             id: fade
-            target: tabs
+            target: inner
             property: "opacity"
             from: 0
             to: 1

@@ -37,7 +37,7 @@ Pressable {
 
     Rectangle {
         anchors.fill: parent
-        color: tab.shade
+        color: tab.held ? Theme.accentPale : tab.shade
     }
 
     Column {

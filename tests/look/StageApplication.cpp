@@ -68,6 +68,9 @@ StageApplication::StageApplication(Surroundings surroundings, Pictures pictures,
   setCurrentHost(&host_);
   serve(pictures);
   resize(size);
+  // The platform puts a pointer on the window's corner, where the way back stands.
+  QEvent leave(QEvent::Leave);
+  QCoreApplication::sendEvent(&window(), &leave);
 }
 
 StageApplication::~StageApplication() { setCurrentHost(&app_.host); }
