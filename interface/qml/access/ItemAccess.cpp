@@ -70,7 +70,10 @@ QString ItemAccess::text(QAccessible::Text kind) const {
 }
 
 QVariant ItemAccess::written(const char* property) const {
-  return QQmlProperty::read(item(), property, qmlContext(item()));
+  // While a page is being destroyed a bus may still ask of what is on it.
+  auto* context = qmlContext(item());
+  if (context == nullptr || !context->isValid()) return {};
+  return QQmlProperty::read(item(), property, context);
 }
 
 QAccessible::State ItemAccess::state() const {
