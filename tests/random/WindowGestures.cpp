@@ -49,6 +49,7 @@ void WindowUser::drag(QPointF from, QPointF to, Chance& how) {
   const bool byTouch = how.percent(70);
   const auto steps = how.between(3, 12);
   const bool fling = how.percent(50);
+  if (byTouch) lastTouch_.note(hand_.now(), from);
   hand_.press(from, byTouch);
   for (long step = 1; step <= steps; ++step) {
     hand_.move(from + (to - from) * static_cast<double>(step) / static_cast<double>(steps),
