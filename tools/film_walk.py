@@ -16,6 +16,10 @@ class Actor(Window):
         super().__init__(process)
         self.fingers = Fingers(port)
 
+    def rest_pointer(self):
+        """In a corner where nothing is that it would tint."""
+        self._xdotool("mousemove", str(self.width - 1), "0")
+
     def tap(self, name, roles=None):
         x, y = self._still_middle(name, roles)
         self.fingers.tap((self.width, self.height), (x, y))
@@ -43,6 +47,7 @@ class Walk:
 
     def begin(self):
         self.actor.expect("Sign in")
+        self.actor.rest_pointer()
         self.recording = subprocess.Popen(self.recorder)
         time.sleep(0.7)
 
