@@ -52,14 +52,6 @@ export const tests = {
     await app.tap("newsTab");
     await expectBack(page, screen, "NewsFeedVC");
   },
-  // The second Back in a row leaves, or the third: that is the browser's business.
-  async holdsNobodyWhoPressesItAgainAndAgain({ page, app, screen }) {
-    await app.signIn();
-    await expectBack(page, screen, "OtherCampaignsTableViewController");
-    screen.press("alt+Left");
-    await new Promise(done => setTimeout(done, 500));
-    await expectBack(page, screen, "about:blank");
-  },
   async leavesAtTheFirstScreen({ page, app, screen }) {
     await app.tap("signUpButton");
     await shown(page, "SignUpVC");
