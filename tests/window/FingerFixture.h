@@ -14,6 +14,17 @@ class FingerTest : public WindowTest {
   static constexpr int kSteps = 12;
   std::unique_ptr<QPointingDevice> finger_{QTest::createTouchDevice()};
 
+  std::string screen() {
+    app.settle();
+    return app.shown()->className();
+  }
+  void openUpdate() {
+    signIn();
+    click("fundedTab");
+    click("Funded-0");
+    click("campaignUpdates");
+  }
+
   void touch(QPoint from, QPoint to) {
     QTest::touchEvent(&app.window(), finger_.get()).press(0, from);
     for (int i = 1; i <= kSteps && from != to; ++i) {

@@ -16,16 +16,6 @@ class GestureTest : public FingerTest {
     QTest::mouseRelease(&app.window(), Qt::LeftButton, {}, to);
     QCoreApplication::processEvents();
   }
-  std::string screen() {
-    app.settle();
-    return app.shown()->className();
-  }
-  void openUpdate() {
-    signIn();
-    click("fundedTab");
-    click("Funded-0");
-    click("campaignUpdates");
-  }
 };
 
 TEST_F(GestureTest, AFingerDrawnFromTheLeftEdgeLeavesOneScreen) {

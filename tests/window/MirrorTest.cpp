@@ -17,16 +17,6 @@ class MirrorTest : private Arabic, public FingerTest {
     auto& item = app.require(name);
     return item.mapRectToScene({0, 0, item.width(), item.height()});
   }
-  std::string screen() {
-    app.settle();
-    return app.shown()->className();
-  }
-  void openUpdate() {
-    signIn();
-    click("fundedTab");
-    click("Funded-0");
-    click("campaignUpdates");
-  }
 };
 
 TEST_F(MirrorTest, TheBarAndTheTabsRunFromRightToLeft) {
