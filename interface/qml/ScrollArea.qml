@@ -3,6 +3,8 @@ import Leafund
 
 // What is scrolled by finger, wheel and fling, and stops at its ends.
 Flickable {
+    id: flickable
+
     boundsBehavior: Flickable.StopAtBounds
     clip: true
 
@@ -27,6 +29,26 @@ Flickable {
         slowSteps = Math.abs(verticalVelocity) < slow ? slowSteps + 1 : 0;
         const within = contentY > 0 && contentY < contentHeight - height;
         if (slowSteps > few && moving && !dragging && within)
+            cancelFlick();
+    }
+
+    // A turn of the wheel that is too fine, or takes back just what a fling has left, starts a movement
+    // to where the list already is, and Qt never hears of its end: the next click would stop it.
+    property int stillSteps: 0  // in a row
+    property real lastY: NaN
+    property real step
+    NumberAnimation on step {
+        from: 0
+        to: 1
+        duration: Theme.slideDuration  // or any: it is here to step as long as it runs
+        loops: Animation.Infinite
+        running: flickable.moving && !flickable.dragging
+        onRunningChanged: flickable.stillSteps = 0
+    }
+    onStepChanged: {
+        stillSteps = contentY === lastY ? stillSteps + 1 : 0;
+        lastY = contentY;
+        if (stillSteps > few && moving)
             cancelFlick();
     }
 }

@@ -46,10 +46,11 @@ class FlingTest : public WindowTest {
     startWheel();
     rest();
   }
-  void startWheel() {
+  static constexpr int kNotch = 120;  // eighths of a degree; a finer wheel tells of less at a time
+  void startWheel(int eighths = kNotch) {
     const QPointF at(200, 400);
-    QWheelEvent event(at, app.window().mapToGlobal(at), {}, {0, -120}, {}, {}, Qt::NoScrollPhase,
-                      false);
+    QWheelEvent event(at, app.window().mapToGlobal(at), {}, {0, -eighths}, {}, {},
+                      Qt::NoScrollPhase, false);
     event.setTimestamp(static_cast<quint64>(clock->now() + 300));
     QCoreApplication::sendEvent(&app.window(), &event);
   }
@@ -92,6 +93,35 @@ TEST_F(FlingTest, WhatNobodySeesMoveIsAtRest) {
     EXPECT_FALSE(moving());
     rest();
   }
+}
+
+// Slowly drawn over a touchpad that is told as a wheel two fingers would move nothing.
+TEST_F(FlingTest, AFineWheelScrollsAsFarAsANotchedOne) {
+  signIn();
+  FrameClock passing;
+  clock = &passing;
+  turnWheel();
+  const double byNotch = offset();
+  ASSERT_GT(byNotch, 10);
+  for (int turned = 0; turned < kNotch; turned += kNotch / 8) {
+    EXPECT_EQ(offset(), byNotch);
+    startWheel(kNotch / 8);
+  }
+  rest();
+  EXPECT_NEAR(offset(), 2 * byNotch, 1);
+}
+
+// As is one that takes back just what a fling had left. Qt never hears of the end of a movement to
+// where the list already is, and would take the next click for a stop.
+TEST_F(FlingTest, ATurnThatMovesNothingLeavesTheListAtRest) {
+  signIn();
+  FrameClock passing;
+  clock = &passing;
+  QWheelEvent finest({200, 400}, {200, 400}, {}, {0, -1}, {}, {}, Qt::NoScrollPhase, false);
+  QCoreApplication::sendEvent(&app.require("table"), &finest);
+  rest();
+  EXPECT_EQ(offset(), 0);
+  EXPECT_FALSE(moving());
 }
 
 }  // namespace
