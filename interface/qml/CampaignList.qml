@@ -90,14 +90,11 @@ FocusScope {
 
         // The item owns the offset. What logic or layout placed anew is taken over once.
         // On its way it may be past an end, where sums are rounded, and goes back by itself; put back, it
-        // would believe that it moves, and miss the next turn of the wheel.
+        // would believe that it moves.
         onContentYChanged: list.root.scroll(moving ? withinEnds(contentY) : contentY)
         onMovingChanged: {
             if (!moving && contentY !== withinEnds(contentY))
                 contentY = withinEnds(contentY);
-        }
-        function withinEnds(y: real): real {
-            return Math.max(0, Math.min(contentHeight - height, y));
         }
         readonly property int placement: list.root.placement
         onPlacementChanged: contentY = list.root.contentOffset

@@ -3,7 +3,7 @@ import Leafund
 
 // What is scrolled by finger, wheel and fling, and stops at its ends.
 Flickable {
-    id: flickable
+    id: area
 
     boundsBehavior: Flickable.StopAtBounds
     clip: true
@@ -19,36 +19,25 @@ Flickable {
         height: 2 * far
     }
 
-    // Where its end is near the wheel's scroll creeps there for a second; a click then would stop it,
-    // unseen, and press nothing.
-    readonly property real slow: 10  // points a second
-    readonly property int few: 5
-    property int slowSteps: 0  // in a row
-    onMovingChanged: slowSteps = 0
-    onContentYChanged: {
-        slowSteps = Math.abs(verticalVelocity) < slow ? slowSteps + 1 : 0;
-        const within = contentY > 0 && contentY < contentHeight - height;
-        if (slowSteps > few && moving && !dragging && within)
-            cancelFlick();
+    function withinEnds(y: real): real {
+        return Math.max(0, Math.min(contentHeight - height, y));
     }
 
-    // A turn of the wheel that is too fine, or takes back just what a fling has left, starts a movement
-    // to where the list already is, and Qt never hears of its end: the next click would stop it.
-    property int stillSteps: 0  // in a row
-    property real lastY: NaN
-    property real step
-    NumberAnimation on step {
-        from: 0
-        to: 1
-        duration: Theme.slideDuration  // or any: it is here to step as long as it runs
-        loops: Animation.Infinite
-        running: flickable.moving && !flickable.dragging
-        onRunningChanged: flickable.stillSteps = 0
-    }
-    onStepChanged: {
-        stillSteps = contentY === lastY ? stillSteps + 1 : 0;
-        lastY = contentY;
-        if (stillSteps > few && moving)
-            cancelFlick();
+    // A turn of the wheel leads as far as it says, and at once, as the keys do: a notch one step. Qt
+    // makes a speed of it, which is none for a slow and fine one, averages it with turns the other way,
+    // and calls a list moving that creeps for a second or stands still, so that a click would only stop it.
+    readonly property real notch: 120  // eighths of a degree
+    // The handler makes what it is in take presses of every button.
+    WheelHandler {
+        parent: area.contentItem
+        acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
+        target: null
+        onWheel: turn => {
+            // In phases two fingers on a touchpad tell of points.
+            const way = turn.phase === Qt.NoScrollPhase ? turn.angleDelta.y / area.notch * Theme.step
+                                                        : turn.pixelDelta.y;
+            area.cancelFlick();
+            area.contentY = area.withinEnds(area.contentY - way);
+        }
     }
 }

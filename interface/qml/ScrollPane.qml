@@ -65,8 +65,7 @@ Item {
     }
 
     function scrollBy(distance) {
-        const lowest = Math.max(0, flickable.contentHeight - flickable.height);
-        flickable.contentY = Math.max(0, Math.min(lowest, flickable.contentY + distance));
+        flickable.contentY = flickable.withinEnds(flickable.contentY + distance);
     }
 
     // Where the user goes is brought into sight. Where the host puts the focus, when the screen comes

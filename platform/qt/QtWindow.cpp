@@ -9,7 +9,6 @@
 #include <QResizeEvent>
 #include <QScreen>
 #include <QStyleHints>
-#include <QWheelEvent>
 #include <algorithm>
 
 #include "platform/uikit/UIApplication.h"
@@ -140,7 +139,6 @@ bool QtWindow::event(QEvent* event) {
 }
 
 bool QtWindow::deliver(QEvent* event) {
-  if (event->type() == QEvent::Wheel) return turnWheel(static_cast<QWheelEvent&>(*event));
   if (event->type() == QEvent::TouchUpdate) {
     auto& touch = static_cast<QTouchEvent&>(*event);
     // Qt Quick lets one finger at a time do what a pointer does, and controls hear of no other.
@@ -152,18 +150,6 @@ bool QtWindow::deliver(QEvent* event) {
   if (event->type() != QEvent::TouchBegin) return QQuickWindow::event(event);
   const WithoutDoubleTaps every;
   return QQuickWindow::event(event);
-}
-
-// A touchpad that is told as such comes in phases and tells of points.
-bool QtWindow::turnWheel(QWheelEvent& turn) {
-  if (turn.phase() != Qt::NoScrollPhase) return QQuickWindow::event(&turn);
-  const int notches = notches_.add(turn.angleDelta().y(), turn.timestamp());
-  if (notches == 0) return true;
-  QWheelEvent whole(turn.position(), turn.globalPosition(), {}, {0, notches}, turn.buttons(),
-                    turn.modifiers(), turn.phase(), turn.inverted(), turn.source(),
-                    turn.pointingDevice());
-  whole.setTimestamp(turn.timestamp());
-  return QQuickWindow::event(&whole);
 }
 
 // Answers whether the event has come to its end here.

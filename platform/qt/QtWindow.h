@@ -3,7 +3,6 @@
 #include <QQuickWindow>
 
 #include "platform/qt/PressSeries.h"
-#include "platform/qt/WheelNotches.h"
 #include "platform/qt/WindowSettings.h"
 
 namespace leafund {
@@ -37,7 +36,6 @@ class QtWindow : public QQuickWindow {
  private:
   void fit();
   bool deliver(QEvent* event);
-  bool turnWheel(QWheelEvent& turn);
   bool takePress(QEvent& event);
   bool takeKey(QKeyEvent& key);
   void notePointer(const QPointerEvent& event, int button);
@@ -47,7 +45,6 @@ class QtWindow : public QQuickWindow {
   bool usedByKeys_ = false;
   PressSeries keys_;
   PressSeries pointer_;
-  WheelNotches notches_;
   bool pressContinues_ = false;
 };
 

@@ -28,30 +28,16 @@ class FlingTest : public WindowTest {
       frame();
     EXPECT_FALSE(clock->isRunning());
   }
-  // Until nobody sees it move any more.
-  void seemToRest() {
-    constexpr int kLooked = 12;  // frames, too short for an impatient hand
-    for (int still = 0; still < kLooked;) {
-      const double before = offset();
-      frame();
-      still = std::abs(offset() - before) < 0.5 ? still + 1 : 0;
-    }
-  }
   void fling(double pointsPerSecond) {
     QMetaObject::invokeMethod(&app.require("table"), "flick", Q_ARG(double, 0),
                               Q_ARG(double, pointsPerSecond));
     rest();
   }
-  void turnWheel() {
-    startWheel();
-    rest();
-  }
-  static constexpr int kNotch = 120;  // eighths of a degree; a finer wheel tells of less at a time
-  void startWheel(int eighths = kNotch) {
+  static constexpr int kNotch = 120;  // eighths of a degree
+  static constexpr int kStep = 80;    // points that one leads
+  void turnWheel(int eighths, QPoint points = {}, Qt::ScrollPhase phase = Qt::NoScrollPhase) {
     const QPointF at(200, 400);
-    QWheelEvent event(at, app.window().mapToGlobal(at), {}, {0, -eighths}, {}, {},
-                      Qt::NoScrollPhase, false);
-    event.setTimestamp(static_cast<quint64>(clock->now() + 300));
+    QWheelEvent event(at, app.window().mapToGlobal(at), points, {0, eighths}, {}, {}, phase, false);
     QCoreApplication::sendEvent(&app.window(), &event);
   }
 
@@ -59,8 +45,8 @@ class FlingTest : public WindowTest {
 };
 
 // Some of these are then past their end, by less than anybody sees, and go back by themselves. Who
-// was put back instead did not move at the next turn of the wheel.
-TEST_F(FlingTest, AFlingThatEndsWithAFrameLeavesTheListToTheWheel) {
+// was put back instead would move for ever.
+TEST_F(FlingTest, AFlingThatEndsWithAFrameIsAtRest) {
   signIn();
   FrameClock passing;
   clock = &passing;
@@ -73,55 +59,52 @@ TEST_F(FlingTest, AFlingThatEndsWithAFrameLeavesTheListToTheWheel) {
     fling(2 * length / (0.001 * kFrame * frames));
     EXPECT_NEAR(offset(), 0, 0.001);
     EXPECT_FALSE(moving());
-    turnWheel();
-    EXPECT_GT(offset(), 10);
-    EXPECT_FALSE(moving());
   }
 }
 
-// Else a click would stop it, and not reach what it meant.
-TEST_F(FlingTest, WhatNobodySeesMoveIsAtRest) {
+TEST_F(FlingTest, ANotchOfTheWheelIsAStepAtOnceAndNoFurtherThanTheEnds) {
   signIn();
-  FrameClock passing;
-  clock = &passing;
   const auto& list = app.require("table");
   const double length = list.property("contentHeight").toDouble() - list.height();
-  while (offset() < length - 1) {
-    SCOPED_TRACE(offset());
-    startWheel();
-    seemToRest();
+  for (int notches = 1; notches < 10; ++notches) {
+    turnWheel(-kNotch);
+    EXPECT_EQ(offset(), std::min(length, notches * 1.0 * kStep));
     EXPECT_FALSE(moving());
-    rest();
   }
+  turnWheel(2 * kNotch);
+  EXPECT_EQ(offset(), length - 2 * kStep);
+  turnWheel(20 * kNotch);
+  EXPECT_EQ(offset(), 0);
 }
 
-// Slowly drawn over a touchpad that is told as a wheel two fingers would move nothing.
+// Slowly drawn over a touchpad that is told as a wheel two fingers would else move nothing.
 TEST_F(FlingTest, AFineWheelScrollsAsFarAsANotchedOne) {
   signIn();
-  FrameClock passing;
-  clock = &passing;
-  turnWheel();
-  const double byNotch = offset();
-  ASSERT_GT(byNotch, 10);
-  for (int turned = 0; turned < kNotch; turned += kNotch / 8) {
-    EXPECT_EQ(offset(), byNotch);
-    startWheel(kNotch / 8);
-  }
-  rest();
-  EXPECT_NEAR(offset(), 2 * byNotch, 1);
+  for (int turned = 0; turned < kNotch; turned += 8) turnWheel(-8);
+  EXPECT_NEAR(offset(), kStep, 0.001);
 }
 
-// As is one that takes back just what a fling had left. Qt never hears of the end of a movement to
-// where the list already is, and would take the next click for a stop.
-TEST_F(FlingTest, ATurnThatMovesNothingLeavesTheListAtRest) {
+TEST_F(FlingTest, ATouchpadThatTellsOfPointsIsFollowedToThePoint) {
+  signIn();
+  turnWheel(0, {}, Qt::ScrollBegin);
+  for (int i = 0; i < 7; ++i) turnWheel(-36, {0, -3}, Qt::ScrollUpdate);
+  turnWheel(0, {}, Qt::ScrollEnd);
+  EXPECT_EQ(offset(), 21);
+}
+
+TEST_F(FlingTest, TheWheelTakesOverFromAFling) {
   signIn();
   FrameClock passing;
   clock = &passing;
-  QWheelEvent finest({200, 400}, {200, 400}, {}, {0, -1}, {}, {}, Qt::NoScrollPhase, false);
-  QCoreApplication::sendEvent(&app.require("table"), &finest);
-  rest();
-  EXPECT_EQ(offset(), 0);
+  QMetaObject::invokeMethod(&app.require("table"), "flick", Q_ARG(double, 0), Q_ARG(double, -1500));
+  for (int frames = 0; frames < 8; ++frames) frame();
+  const double before = offset();
+  ASSERT_GT(before, kStep);
+  turnWheel(kNotch);
+  EXPECT_EQ(offset(), before - kStep);
   EXPECT_FALSE(moving());
+  rest();
+  EXPECT_EQ(offset(), before - kStep);
 }
 
 }  // namespace

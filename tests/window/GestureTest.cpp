@@ -1,5 +1,3 @@
-#include <QWheelEvent>
-
 #include "model/Catalogue.h"
 #include "tests/window/FingerFixture.h"
 
@@ -82,9 +80,7 @@ TEST_F(GestureTest, AFingerScrollsAtTheEdgeAsElsewhere) {
 TEST_F(GestureTest, AListCaughtAtItsEndLetsGoOfAFingerThatIsLiftedElsewhere) {
   signIn();
   const auto& list = app.require("table");
-  QWheelEvent turn({200, 400}, app.window().mapToGlobal(QPointF(200, 400)), {}, {0, -120}, {}, {},
-                   Qt::NoScrollPhase, false);
-  QCoreApplication::sendEvent(&app.window(), &turn);
+  QMetaObject::invokeMethod(&app.require("table"), "flick", Q_ARG(double, 0), Q_ARG(double, -600));
   EXPECT_TRUE(list.property("moving").toBool());
   touch({200, 400}, {200, 820});
   EXPECT_FALSE(list.property("dragging").toBool());
