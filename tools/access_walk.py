@@ -6,7 +6,7 @@ without a single coordinate. Fails where a control lacks one of them.
 
 import sys
 
-from bus import Atspi, Role, check, go
+from bus import Atspi, Role, arguments, check, go
 from captions import caption
 from reader import ESCAPE, PAGE_DOWN, Reader
 
@@ -180,4 +180,5 @@ class Walk:
 
 
 if __name__ == "__main__":
-    sys.exit(go(Walk, lambda: Reader(int(sys.argv[1])), "by assistive technology, "))
+    given = arguments(__doc__, process=int)
+    sys.exit(go(Walk, lambda: Reader(given.process), "by assistive technology, "))

@@ -1,5 +1,6 @@
 """The app on the accessibility bus: where to find it, how to wait for it, and how to go a walk."""
 
+import argparse
 import os
 import sys
 import time
@@ -80,6 +81,16 @@ class App:
         context = GLib.MainContext.default()
         while context.iteration(False):
             pass
+
+
+def arguments(usage, **kinds):
+    """The command's words, by their names and each made its kind; a list's kind is that of the rest."""
+    whole = argparse.RawDescriptionHelpFormatter
+    parser = argparse.ArgumentParser(description=usage, formatter_class=whole)
+    for name, kind in kinds.items():
+        rest = {"nargs": argparse.REMAINDER} if kind is list else {"type": kind}
+        parser.add_argument(name, metavar=name.upper(), **rest)
+    return parser.parse_args()
 
 
 def go(walk, make_app, prefix=""):

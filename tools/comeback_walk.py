@@ -8,7 +8,7 @@ import itertools
 import sys
 import time
 
-from bus import Role, check, go
+from bus import Role, arguments, check, go
 from captions import caption
 from finger import Fingers
 from window import ROWS, TABS, Window, run
@@ -21,10 +21,10 @@ QUESTION = caption("ConfirmPageVC.question")
 
 
 class Walk:
-    def __init__(self, window):
+    def __init__(self, window, port):
         self.window = window
         self.ways_back = itertools.cycle((self.by_bar, self.by_escape, self.by_alt_left, self.by_drag, self.by_finger))
-        self.fingers = Fingers(int(sys.argv[2]))
+        self.fingers = Fingers(port)
         self.id = window.search()
         window.resize(self.id, SIZES[0])
 
@@ -192,4 +192,5 @@ class SweptWindow(Window):
 
 
 if __name__ == "__main__":
-    sys.exit(go(Walk, lambda: SweptWindow(int(sys.argv[1]))))
+    given = arguments(__doc__, process=int, port=int)
+    sys.exit(go(lambda window: Walk(window, given.port), lambda: SweptWindow(given.process)))

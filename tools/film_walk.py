@@ -6,7 +6,7 @@ import subprocess
 import sys
 import time
 
-from bus import FIELDS, go
+from bus import FIELDS, arguments, go
 from finger import Fingers
 from window import ROWS, TABS, Window
 
@@ -75,5 +75,5 @@ class Walk:
 
 
 if __name__ == "__main__":
-    process, port, *recorder = sys.argv[1:]
-    sys.exit(go(lambda actor: Walk(actor, recorder), lambda: Actor(int(process), int(port))))
+    given = arguments(__doc__, process=int, port=int, recorder=list)
+    sys.exit(go(lambda actor: Walk(actor, given.recorder), lambda: Actor(given.process, given.port)))

@@ -9,7 +9,7 @@ import pathlib
 import sys
 import time
 
-from bus import Role, check, go
+from bus import Role, arguments, check, go
 from visit_walk import resident
 from window import Window
 
@@ -60,5 +60,5 @@ class FlungWindow(Window):
 
 
 if __name__ == "__main__":
-    seconds, log = int(sys.argv[2]), pathlib.Path(sys.argv[3])
-    sys.exit(go(lambda window: Walk(window, seconds, log), lambda: FlungWindow(int(sys.argv[1]))))
+    given = arguments(__doc__, process=int, seconds=int, log=pathlib.Path)
+    sys.exit(go(lambda window: Walk(window, given.seconds, given.log), lambda: FlungWindow(given.process)))

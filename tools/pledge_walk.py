@@ -7,7 +7,7 @@ layout nor one of words breaks anything here.
 
 import sys
 
-from bus import FIELDS, check, go
+from bus import FIELDS, arguments, check, go
 from captions import caption
 from window import TABS, Window
 
@@ -109,5 +109,5 @@ class Walk:
 
 
 if __name__ == "__main__":
-    folder = sys.argv[2]
-    sys.exit(go(lambda window: Walk(window, folder), lambda: Window(int(sys.argv[1]))))
+    given = arguments(__doc__, process=int, folder=str)
+    sys.exit(go(lambda window: Walk(window, given.folder), lambda: Window(given.process)))

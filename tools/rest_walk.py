@@ -7,7 +7,7 @@ import pathlib
 import sys
 import time
 
-from bus import FIELDS, Role, check, go
+from bus import FIELDS, Role, arguments, check, go
 from captions import caption
 from window import TABS, Window
 
@@ -104,4 +104,5 @@ class Walk:
 
 
 if __name__ == "__main__":
-    sys.exit(go(lambda window: Walk(window, float(sys.argv[2])), lambda: Window(int(sys.argv[1]))))
+    given = arguments(__doc__, process=int, seconds=float)
+    sys.exit(go(lambda window: Walk(window, given.seconds), lambda: Window(given.process)))

@@ -7,7 +7,7 @@ none, on a Wayland screen, by actions alone, since nobody may send it clicks fro
 import os
 import sys
 
-from bus import Atspi, Role, go
+from bus import Atspi, Role, arguments, go
 from captions import caption
 from reader import Reader
 from window import TABS, Window, run
@@ -106,6 +106,7 @@ class Walk:
 
 
 if __name__ == "__main__":
-    PROCESS, SIZE = int(sys.argv[1]), sys.argv[2]
+    given = arguments(__doc__, process=int, size=str)
+    SIZE = given.size
     kind, host = (Clicks, "X11") if os.environ.get("DISPLAY") else (Actions, "Wayland")
-    sys.exit(go(Walk, lambda: kind(PROCESS), f"{host} {SIZE}: "))
+    sys.exit(go(Walk, lambda: kind(given.process), f"{host} {SIZE}: "))

@@ -6,7 +6,7 @@ between a tenth of the visits and the last one.
 
 import sys
 
-from bus import Role, check, go
+from bus import Role, arguments, check, go
 from captions import caption
 from window import Window
 
@@ -57,4 +57,5 @@ class VisitWindow(Window):
 
 
 if __name__ == "__main__":
-    sys.exit(go(lambda window: Walk(window, int(sys.argv[2])), lambda: VisitWindow(int(sys.argv[1]))))
+    given = arguments(__doc__, process=int, times=int)
+    sys.exit(go(lambda window: Walk(window, given.times), lambda: VisitWindow(given.process)))
