@@ -25,15 +25,14 @@ Page {
             Column {
                 width: parts.first
                 spacing: Theme.gap
-                IconItem {
+                Sunrise {
                     anchors.horizontalCenter: parent.horizontalCenter
-                    width: Math.min(Theme.mark, page.height / 8)
+                    width: Math.min(implicitWidth, 2 * Math.round(page.height / 14))  // even: it has halves
                     height: width
-                    icon: IconItem.Leaf
-                    color: Theme.accent
                 }
                 Column {
                     width: parent.width
+                    spacing: Theme.unit
                     Words {
                         id: brand
                         view: page.brand
