@@ -8,6 +8,7 @@ Pressable {
     required property ButtonBridge view
     property bool primary: true
     readonly property alias text: label.text
+    property real fontSize: Theme.lead
 
     objectName: view.name
     visible: view.visible
@@ -39,9 +40,9 @@ Pressable {
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
         fontSizeMode: Text.HorizontalFit
-        minimumPointSize: Theme.small
+        minimumPointSize: Theme.small * WindowClass.growth / WindowClass.textScale
         color: button.primary ? Theme.buttonInk : Theme.accentDeep
-        font { pointSize: Theme.lead; weight: Font.Bold }
+        font { pointSize: button.fontSize; weight: Font.Bold }
         Accessible.ignored: true
     }
 }

@@ -11,6 +11,9 @@ Rectangle {
     required property real columnStart
     required property real columnEnd
 
+    // Its words grow with the system's text as far as the bar, which does not, can hold them.
+    readonly property real share: WindowClass.growth / WindowClass.textScale
+
     color: Theme.card
 
     // Here a reader is put when the screen comes, before the first control, to which Tab leads on.
@@ -28,9 +31,9 @@ Rectangle {
         horizontalAlignment: Text.AlignLeft
         elide: Text.ElideRight
         fontSizeMode: Text.HorizontalFit
-        minimumPointSize: Theme.small
+        minimumPointSize: Theme.small * bar.share
         color: Theme.ink
-        font { pointSize: Theme.lead; weight: Font.Bold }
+        font { pointSize: Theme.lead * bar.share; weight: Font.Bold }
         Accessible.role: Accessible.Heading
         Accessible.name: text
 

@@ -21,6 +21,7 @@ Page {
 
     barContent: Button {
         view: page.newButton
+        fontSize: Theme.lead * page.navigationBar.share
         primary: false
         height: Theme.leastTarget
     }

@@ -27,12 +27,7 @@ struct Sitting {
   std::vector<QSize> sizes;
 };
 
-std::string nameOf(const Sitting& sitting) {
-  const auto& [percent, scale, night, mirrored] = sitting.surroundings;
-  return sitting.stage + (percent == 100 ? "" : "-font" + std::to_string(percent)) +
-         (scale == 1 ? "" : "-scale" + std::to_string(scale)) + (night ? "-night" : "") +
-         (mirrored ? "-mirrored" : "");
-}
+std::string nameOf(const Sitting& sitting) { return sitting.stage + nameOf(sitting.surroundings); }
 
 std::string fileName(const Sitting& sitting, QSize size) {
   return nameOf(sitting) + "-" + sizeText(size) + ".png";

@@ -1,97 +1,26 @@
 #include "tests/look/ContrastMeasure.h"
 
-#include <QColor>
 #include <QFont>
 #include <QFontInfo>
 #include <QJSValue>
 #include <QTest>
 #include <algorithm>
-#include <cmath>
-#include <optional>
+
+#include "tests/look/DrawnContrast.h"
 
 namespace leafund {
 
 namespace {
 
-double luminance(QRgb colour) {
-  const auto linear = [](int channel) {
-    const double share = channel / 255.0;
-    return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
-  };
-  return 0.2126 * linear(qRed(colour)) + 0.7152 * linear(qGreen(colour)) +
-         0.0722 * linear(qBlue(colour));
-}
-
-// Takes the colour out of words, and gives it back at its end. The bindings stay.
-class WordsHidden {
- public:
-  explicit WordsHidden(const std::vector<QQuickItem*>& texts) {
-    for (auto* text : texts) {
-      for (const char* name : {"color", "selectedTextColor"}) {
-        if (!text->property(name).isValid()) continue;
-        before_.push_back({text, name, text->property(name)});
-        text->setProperty(name, QColor(Qt::transparent));
-      }
+// What colours the words.
+std::vector<Painted> paintedWords(const std::vector<QQuickItem*>& texts) {
+  std::vector<Painted> painted;
+  for (auto* text : texts) {
+    for (const char* name : {"color", "selectedTextColor"}) {
+      if (text->property(name).isValid()) painted.push_back({text, name});
     }
   }
-  WordsHidden(const WordsHidden&) = delete;
-  WordsHidden& operator=(const WordsHidden&) = delete;
-  ~WordsHidden() {
-    for (const auto& [text, name, colour] : before_) text->setProperty(name, colour);
-  }
-
- private:
-  struct Colour {
-    QQuickItem* text;
-    const char* name;
-    QVariant colour;
-  };
-  std::vector<Colour> before_;
-};
-
-struct Grabs {
-  QImage words;
-  QImage ground;
-};
-
-QImage grab(QQuickWindow& window) {
-  return window.grabWindow().convertToFormat(QImage::Format_RGB32);
-}
-
-Grabs grabBoth(QQuickWindow& window, const std::vector<QQuickItem*>& texts) {
-  Grabs grabs{grab(window), {}};
-  const WordsHidden hidden(texts);
-  grabs.ground = grab(window);
-  return grabs;
-}
-
-QRgb pixel(const QImage& image, int x, int y) {
-  return reinterpret_cast<const QRgb*>(image.constScanLine(y))[x];
-}
-
-// The colour of the words is that of the pixel furthest from its ground: on thin strokes all others
-// are blends of the two. The least contrast of that colour with any ground under the words counts;
-// nothing when no pixel of words is there.
-std::optional<double> measured(const Grabs& grabs, const QRect& area) {
-  QRgb ink = 0;
-  double furthest = 1;
-  std::vector<QRgb> grounds;
-  for (int y = area.top(); y <= area.bottom(); ++y) {
-    for (int x = area.left(); x <= area.right(); ++x) {
-      const QRgb word = pixel(grabs.words, x, y);
-      const QRgb ground = pixel(grabs.ground, x, y);
-      if (word == ground) continue;
-      if (grounds.empty() || grounds.back() != ground) grounds.push_back(ground);
-      const double here = contrast(word, ground);
-      if (here <= furthest) continue;
-      furthest = here;
-      ink = word;
-    }
-  }
-  if (grounds.empty()) return std::nullopt;
-  double least = furthest;
-  for (const QRgb ground : grounds) least = std::min(least, contrast(ink, ground));
-  return least;
+  return painted;
 }
 
 // In logical pixels, as drawn: smaller than asked for where a text is fitted into its place.
@@ -111,9 +40,7 @@ bool inSight(const QRectF& seen, const QQuickItem& text) {
 void add(const Grabs& grabs, const QQuickItem& text, std::vector<Fault>& faults) {
   const QRectF seen = seenPart(text, text.boundingRect());
   if (!inSight(seen, text)) return;
-  const double scale = text.window()->effectiveDevicePixelRatio();
-  const QRect area = QRectF(seen.topLeft() * scale, seen.size() * scale).toAlignedRect();
-  const auto found = measured(grabs, area & grabs.words.rect());
+  const auto found = grabs.leastContrast(seen);
   if (!found) {
     faults.push_back({"is not seen where it stands", described(text), figure(seen)});
     return;
@@ -140,12 +67,6 @@ void slipAway(QQuickWindow& window, const QPoint& where) {
 
 }  // namespace
 
-double contrast(QRgb one, QRgb other) {
-  const double first = luminance(one);
-  const double second = luminance(other);
-  return (std::max(first, second) + 0.05) / (std::min(first, second) + 0.05);
-}
-
 double leastContrast(double pixels, bool bold) {
   return pixels >= 24 || (bold && pixels >= 19) ? 3 : 4.5;
 }
@@ -153,7 +74,7 @@ double leastContrast(double pixels, bool bold) {
 std::vector<Fault> contrastFaults(QQuickWindow& window, const std::vector<QQuickItem*>& shown) {
   std::vector<Fault> faults;
   const auto texts = textsOf(shown);
-  const Grabs grabs = grabBoth(window, texts);
+  const Grabs grabs(window, paintedWords(texts));
   for (const auto* text : texts) add(grabs, *text, faults);
   return faults;
 }

@@ -1,14 +1,10 @@
 #pragma once
 
-#include <QImage>
 #include <vector>
 
 #include "tests/look/WindowItems.h"
 
 namespace leafund {
-
-// By the formula of WCAG 2.1 (relative luminance), 1 to 21.
-double contrast(QRgb one, QRgb other);
 
 // What WCAG 2.1 asks for at level AA (1.4.3): 3 for a text from 24 px, or from 19 px in bold, and
 // 4.5 for any smaller one. In logical pixels, so that the scale of a screen does not count.

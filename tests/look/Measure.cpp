@@ -6,6 +6,7 @@
 #include <functional>
 
 #include "tests/look/ContrastMeasure.h"
+#include "tests/look/MarkMeasure.h"
 #include "tests/look/TargetMeasure.h"
 #include "tests/look/TextMeasure.h"
 
@@ -62,6 +63,7 @@ std::vector<Fault> faultsOf(QQuickWindow& window, QQuickItem& root) {
     addNew(all, targetFaults(shown));
     addNew(all, textFaults(shown));
     addNew(all, contrastFaults(window, shown));
+    addNew(all, markFaults(window, shown));
   });
   return all;
 }
@@ -71,6 +73,7 @@ std::vector<Fault> faultsInUse(QQuickWindow& window, QQuickItem& root) {
   atEachPosition(window, root, [&] {
     addNew(all, heldContrastFaults(window, shownItems(root)));
     addNew(all, selectedContrastFaults(window, shownItems(root)));
+    addNew(all, focusFaults(window, shownItems(root)));
   });
   return all;
 }

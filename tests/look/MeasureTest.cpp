@@ -14,24 +14,22 @@ struct Case {
   Surroundings surroundings;
 };
 
-std::string nameOf(const Case& tried) {
-  return tried.stage + "-font" + std::to_string(tried.surroundings.fontPercent) +
-         (tried.surroundings.scale > 1 ? "-scale" + std::to_string(tried.surroundings.scale) : "") +
-         (tried.surroundings.night ? "-night" : "") +
-         (tried.surroundings.mirrored ? "-mirrored" : "");
-}
+std::string nameOf(const Case& tried) { return tried.stage + nameOf(tried.surroundings); }
 
 void PrintTo(const Case& tried, std::ostream* out) { *out << nameOf(tried); }
 
 std::vector<Case> cases() {
   std::vector<Case> all;
   for (const auto& stage : stages()) {
-    all.push_back({stage.name, {100, 1}});
-    all.push_back({stage.name, {150, 1}});
-    all.push_back({stage.name, {100, 1, true}});
+    all.push_back({stage.name, {}});
+    all.push_back({stage.name, {.fontPercent = 150}});
+    all.push_back({stage.name, {.night = true}});
     if (!stage.ordinary) continue;
-    all.push_back({stage.name, {100, 2}});
+    all.push_back({stage.name, {.fontPercent = 200}});
+    all.push_back({stage.name, {.scale = 1.5}});
+    all.push_back({stage.name, {.scale = 2}});
     all.push_back({stage.name, {.mirrored = true}});
+    all.push_back({stage.name, {.contrast = true}});
   }
   return all;
 }

@@ -8,6 +8,7 @@
 #include <QPalette>
 #include <QScreen>
 #include <cmath>
+#include <sstream>
 #include <stdexcept>
 
 #include "interface/qml/bridge/ImageBridge.h"
@@ -20,6 +21,7 @@
 #include "tests/support/PictureAnswers.h"
 #include "tests/support/ProjectPictures.h"
 #include "tests/support/ViewNamed.h"
+#include "tests/window/PrivateBus.h"
 
 namespace leafund {
 
@@ -37,6 +39,9 @@ void requireSurroundings(const Surroundings& wanted, const QQuickWindow& window)
   if (DesktopSettings::ofApplication().mirrored() != wanted.mirrored) {
     throw std::runtime_error("the direction is not the one asked for");
   }
+  if (DesktopSettings::ofApplication().highContrast() != wanted.contrast) {
+    throw std::runtime_error("the contrast is not the one asked for");
+  }
   if (std::abs(window.effectiveDevicePixelRatio() - wanted.scale) > 0.01) {
     throw std::runtime_error("the scale is not the one asked for");
   }
@@ -53,7 +58,24 @@ void fallNight() {
 
 }  // namespace
 
+std::string nameOf(const Surroundings& surroundings) {
+  std::ostringstream name;
+  if (surroundings.fontPercent != 100) name << "-font" << surroundings.fontPercent;
+  if (surroundings.scale != 1) name << "-scale" << surroundings.scale;
+  if (surroundings.night) name << "-night";
+  if (surroundings.mirrored) name << "-mirrored";
+  if (surroundings.contrast) name << "-contrast";
+  return name.str();
+}
+
+struct StageApplication::Prepared::Desktop {
+  PrivateBus bus;
+  SettingsPortal portal{
+      bus, {{QStringLiteral("org.freedesktop.appearance"), {{QStringLiteral("contrast"), 1U}}}}};
+};
+
 StageApplication::Prepared::Prepared(const Surroundings& surroundings) {
+  if (surroundings.contrast) desktop = std::make_shared<Desktop>();
   qputenv("QT_FONT_DPI", QByteArray::number(96 * surroundings.fontPercent / 100));
   qputenv("QT_SCALE_FACTOR", QByteArray::number(surroundings.scale));
   // With its scaling on, the platform without a screen reads no font resolution.

@@ -13,10 +13,14 @@ namespace leafund {
 // for the life of the process.
 struct Surroundings {
   int fontPercent = 100;  // of a font resolution of 96 dots an inch
-  int scale = 1;          // device pixels to a logical one
+  double scale = 1;       // device pixels to a logical one
   bool night = false;     // by the desktop's palette
   bool mirrored = false;  // for a language written from right to left
+  bool contrast = false;  // high, by the desktop's settings
 };
+
+// What differs from the ordinary, for the names of tests and pictures: "-font150-night".
+std::string nameOf(const Surroundings& surroundings);
 
 // The application in its window, for whoever measures or photographs what it shows: driven through
 // the toolkit, so that no time goes by on the way to a deep screen.
@@ -50,6 +54,8 @@ class StageApplication {
   // Goes first, because the application reads it when it is made.
   struct Prepared {
     explicit Prepared(const Surroundings& surroundings);
+    struct Desktop;
+    std::shared_ptr<Desktop> desktop;  // where it has settings
   };
 
   void serve(Pictures pictures);
