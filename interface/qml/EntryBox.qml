@@ -15,7 +15,7 @@ Rectangle {
     property LabelBridge reason: null
     readonly property bool wrong: reason ? reason.visible : bridge.coloured
     readonly property string accessibleReason: reason && reason.visible ? reason.text : ""
-    readonly property bool userIsIn: input.activeFocus
+    readonly property bool userIsIn: input.activeFocus || offer.open
     // How high an empty box is where its caption stands in the middle.
     readonly property real restHeight: 64
     // Empty and unfocused: the caption stands where the text will.
@@ -34,7 +34,7 @@ Rectangle {
     radius: Theme.radius
     color: Theme.card
     border {
-        width: userIsIn && wrong ? Theme.ringWidth : userIsIn || wrong ? Theme.caret : Theme.hairline
+        width: Theme.hairline + (userIsIn ? 1 : 0) + (wrong ? 1 : 0)
         color: wrong ? Theme.alert : userIsIn ? Theme.accent : Theme.outline
     }
 
@@ -77,6 +77,8 @@ Rectangle {
     // A finger enters by a tap, since it may have come to scroll; after it, as the input places the
     // caret when the finger is lifted.
     function takeTap() {
+        if (offer.open)
+            return;  // the finger rested, and is lifted
         input.forceActiveFocus(Qt.MouseFocusReason);
         Qt.inputMethod.show();
         Qt.callLater(selectMessage);
@@ -95,6 +97,13 @@ Rectangle {
         anchors.fill: parent
         cursorShape: Qt.IBeamCursor
         onClicked: box.takeTap()
+    }
+
+    Keys.onPressed: event => {
+        event.accepted = event.key === Qt.Key_Menu
+            || (event.key === Qt.Key_F10 && event.modifiers === Qt.ShiftModifier);
+        if (event.accepted)
+            offer.askAtCaret();
     }
 
     Text {
@@ -144,5 +153,13 @@ Rectangle {
         anchors { top: parent.top; bottom: parent.bottom }
         anchors { leftMargin: Theme.gap; rightMargin: Theme.gap }
         anchors { topMargin: Theme.unit + box.captionRoom + Theme.half; bottomMargin: Theme.unit }
+    }
+
+    EditOffer {
+        id: offer
+        area: box.input
+        text: box.input
+        bridge: box.bridge
+        onAsked: box.input.forceActiveFocus(Qt.MouseFocusReason)
     }
 }

@@ -45,6 +45,19 @@ FocusScope {
             enterPane(!(event.modifiers & Qt.ShiftModifier));
     }
 
+    // The menu of a text, over all of the page.
+    function offerEdits(offer: EditOffer, place: point) {
+        editMenu.active = true;
+        (editMenu.item as EditMenu).open(offer, place);
+    }
+    Loader {
+        id: editMenu
+        anchors.fill: parent
+        z: 1
+        active: false
+        sourceComponent: EditMenu {}
+    }
+
     // The keys that scroll work wherever on the screen the focus is.
     Keys.forwardTo: content.children
 

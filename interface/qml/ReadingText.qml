@@ -30,4 +30,13 @@ Rectangle {
         anchors { fill: parent; margins: Theme.gap; topMargin: area.head }
         lineHeight: 1.35
     }
+
+    // All of it is copied.
+    EditOffer {
+        area: words
+        bridge: area.view
+        text: ({ readOnly: true, canPaste: false, activeFocus: true,
+                 selectionStart: 0, selectionEnd: area.view.text.length,
+                 copy: () => area.view.copy() })
+    }
 }

@@ -24,6 +24,9 @@ class UITextFieldDelegate {
 // screen write in turn. Text is UTF-8.
 class UITextInput : public UIControl {
  public:
+  // What the menu of a text offers: in an input, and of what is read only the second.
+  static constexpr const char* kEditLabels[] = {"Cut", "Copy", "Paste", "Select all"};
+
   const std::string& text() const { return text_; }
   void setText(std::string text);
   UIColor textColor() const { return textColor_; }

@@ -1,5 +1,9 @@
 #include "interface/qml/bridge/TextInputBridge.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
+#include <iterator>
+
 #include "platform/uikit/UIApplication.h"
 
 namespace leafund {
@@ -47,6 +51,10 @@ void TextInputBridge::read(const UIView& view) {
   take(showsMessage_, input.showsMessage(), &TextInputBridge::showsMessageChanged);
 }
 
+QStringList TextInputBridge::editLabels() const {
+  return {std::begin(UITextInput::kEditLabels), std::end(UITextInput::kEditLabels)};
+}
+
 void TextInputBridge::edit(const QString& text) {
   keepText(text);
   if (auto* application = UIApplication::current()) {
@@ -81,6 +89,12 @@ void TextViewBridge::read(const UIView& view) {
   take(layer_, view.layer(), &TextViewBridge::layerChanged);
   take(scrollsToTop_, static_cast<const UITextView&>(view).scrollsToTop(),
        &TextViewBridge::scrolledToTop);
+}
+
+void TextViewBridge::copy() {
+  if (const auto shown = viewAs<UITextView>()) {
+    QGuiApplication::clipboard()->setText(qtText(shown->text()));
+  }
 }
 
 QColor TextViewBridge::borderColor() const {

@@ -20,6 +20,8 @@ class TextInputBridge : public leafund::TextBridge {
   Q_PROPERTY(bool coloured READ coloured NOTIFY textColorChanged FINAL)
   Q_PROPERTY(bool editing READ editing NOTIFY editingChanged FINAL)
   Q_PROPERTY(bool showsMessage READ showsMessage NOTIFY showsMessageChanged FINAL)
+  // What its menu calls cutting, copying, pasting, and selecting all.
+  Q_PROPERTY(QStringList editLabels READ editLabels CONSTANT FINAL)
 
  public:
   TextInputBridge(const std::shared_ptr<UIView>& view, QObject* parent);
@@ -30,6 +32,7 @@ class TextInputBridge : public leafund::TextBridge {
   bool coloured() const { return textColor_ != QColor(Qt::black); }
   bool editing() const { return editing_; }
   bool showsMessage() const { return showsMessage_; }
+  QStringList editLabels() const;
 
   Q_INVOKABLE void edit(const QString& text);
   Q_INVOKABLE void beginEditing();
@@ -92,6 +95,8 @@ class TextViewBridge : public leafund::TextInputBridge {
 
   double borderWidth() const { return layer_.borderWidth(); }
   QColor borderColor() const;
+  // The whole text, to the clipboard.
+  Q_INVOKABLE void copy();
   double cornerRadius() const { return layer_.cornerRadius(); }
 
  signals:
