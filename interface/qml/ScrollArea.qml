@@ -36,7 +36,7 @@ Flickable {
             // In phases two fingers on a touchpad tell of points.
             const way = turn.phase === Qt.NoScrollPhase ? turn.angleDelta.y / area.notch * Theme.step
                                                         : turn.pixelDelta.y;
-            area.cancelFlick();
+            // Placed by hand, it flies no further.
             area.contentY = area.withinEnds(area.contentY - way);
         }
     }
