@@ -2,17 +2,26 @@
 
 #include <QColor>
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace leafund {
 
 namespace {
 
+// A channel's share of the light, by its value.
+std::array<double, 256> linearShares() {
+  std::array<double, 256> shares{};
+  for (std::size_t value = 0; value < shares.size(); ++value) {
+    const double share = static_cast<double>(value) / 255;
+    shares[value] = share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
+  }
+  return shares;
+}
+
 double luminance(QRgb colour) {
-  const auto linear = [](int channel) {
-    const double share = channel / 255.0;
-    return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
-  };
+  static const auto kLinear = linearShares();  // asked for each pixel that is measured
+  const auto linear = [](int channel) { return kLinear[static_cast<std::size_t>(channel)]; };
   return 0.2126 * linear(qRed(colour)) + 0.7152 * linear(qGreen(colour)) +
          0.0722 * linear(qBlue(colour));
 }
@@ -50,8 +59,8 @@ QImage grabWithout(QQuickWindow& window, const std::vector<Painted>& painted) {
   return grab(window);
 }
 
-QRgb pixel(const QImage& image, int x, int y) {
-  return reinterpret_cast<const QRgb*>(image.constScanLine(y))[x];
+const QRgb* line(const QImage& image, int y) {
+  return reinterpret_cast<const QRgb*>(image.constScanLine(y));
 }
 
 }  // namespace
@@ -72,9 +81,10 @@ Grabs::Found Grabs::find(const QRectF& area) const {
   const QRect pixels =
       QRectF(area.topLeft() * scale_, area.size() * scale_).toAlignedRect() & whole_.rect();
   for (int y = pixels.top(); y <= pixels.bottom(); ++y) {
-    for (int x = pixels.left(); x <= pixels.right(); ++x) {
-      const QRgb drawn = pixel(whole_, x, y);
-      const QRgb ground = pixel(ground_, x, y);
+    const QRgb* whole = line(whole_, y);
+    const QRgb* grounds = line(ground_, y);
+    for (int x = pixels.left(), end = x + pixels.width(); x < end; ++x) {
+      const QRgb drawn = whole[x], ground = grounds[x];
       if (drawn == ground) continue;
       if (found.grounds.empty() || found.grounds.back() != ground) found.grounds.push_back(ground);
       const double here = contrast(drawn, ground);
@@ -98,7 +108,7 @@ std::optional<double> Grabs::contrastBeside(const QRectF& area, const QPointF& p
   const Found found = find(area);
   const QPoint at(static_cast<int>(place.x() * scale_), static_cast<int>(place.y() * scale_));
   if (found.grounds.empty() || !ground_.rect().contains(at)) return std::nullopt;
-  return contrast(found.ink, pixel(ground_, at.x(), at.y()));
+  return contrast(found.ink, line(ground_, at.y())[at.x()]);
 }
 
 }  // namespace leafund
