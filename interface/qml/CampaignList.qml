@@ -89,13 +89,7 @@ FocusScope {
         activeFocusOnTab: contentHeight === 0
 
         // The item owns the offset. What logic or layout placed anew is taken over once.
-        // On its way it may be a hair past an end, where sums are rounded, and goes back by itself; put
-        // back by the toolkit, it would believe that it moves. At rest it is put back.
-        onContentYChanged: list.root.scroll(moving ? withinEnds(contentY) : contentY)
-        onMovingChanged: {
-            if (!moving && contentY !== withinEnds(contentY))
-                contentY = withinEnds(contentY);
-        }
+        onContentYChanged: list.root.scroll(contentY)
         readonly property int placement: list.root.placement
         onPlacementChanged: contentY = list.root.contentOffset
         // A fling ends where its list is covered.

@@ -23,6 +23,16 @@ Flickable {
         return Math.max(0, Math.min(contentHeight - height, y));
     }
 
+    // Sums are rounded: a fling that met its end to a hair would swing past it by some points and back,
+    // whatever the bounds, and put back on the way it would believe that it moves.
+    onContentYChanged: {
+        const within = withinEnds(contentY);
+        if (!flicking || contentY === within)
+            return;
+        cancelFlick();
+        contentY = within;
+    }
+
     // A turn of the wheel leads as far as it says, and at once, as the keys do: a notch one step. Qt
     // makes a speed of it, which is none for a slow and fine one, averages it with turns the other way,
     // and calls a list moving that creeps for a second or stands still, so that a click would only stop it.
