@@ -44,6 +44,12 @@ void WindowHand::pressBackButton(QPointF where) {
   pointer(QEvent::MouseButtonRelease, where, Qt::NoButton, Qt::BackButton);
 }
 
+void WindowHand::clickRight(QPointF where) {
+  pointer(QEvent::MouseMove, where, Qt::NoButton, Qt::NoButton);
+  pointer(QEvent::MouseButtonPress, where, Qt::RightButton, Qt::RightButton);
+  pointer(QEvent::MouseButtonRelease, where, Qt::NoButton, Qt::RightButton);
+}
+
 void WindowHand::move(QPointF where, bool byTouch) {
   if (!byTouch) return pointer(QEvent::MouseMove, where, Qt::LeftButton, Qt::NoButton);
   QTest::touchEvent(&window_, finger_.get(), false).move(0, where.toPoint()).commit(false);

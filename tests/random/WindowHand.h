@@ -20,6 +20,7 @@ class WindowHand {
   void move(QPointF where, bool byTouch);
   void release(QPointF where, bool byTouch);
   void pressBackButton(QPointF where);
+  void clickRight(QPointF where);
   void wheel(QPointF where, int notches);
   void keyDown(int key, const QString& text = {}, Qt::KeyboardModifiers modifiers = {},
                bool repeated = false);

@@ -75,6 +75,7 @@ QRectF WindowUser::inSight(const QQuickItem& item) {
 WindowUser::Place WindowUser::placeAt(QPointF where) {
   const auto* page = app_.page();
   if (page == nullptr) return {.sure = false};
+  if (menuIsOpen()) return {};
   const auto& top = reference_.top();
   const auto& shown = reference_.shown();
   Place place;
@@ -124,7 +125,10 @@ WindowUser::Place WindowUser::placeAt(QPointF where) {
   return place;
 }
 
+bool WindowUser::menuIsOpen() { return itemOf("editMenu") != nullptr; }
+
 WindowUser::Place WindowUser::placeInFocus(int key) {
+  if (menuIsOpen()) return {};
   if (key == Qt::Key_Escape || key == Qt::Key_Back) return {.tap = {"back"}};
   const auto* page = app_.page();
   auto* focus = app_.window().activeFocusItem();

@@ -1,7 +1,9 @@
 #include "tests/random/WindowUnderTest.h"
 
+#include <QGuiApplication>
 #include <QQuickItem>
 #include <QRegularExpression>
+#include <QStyleHints>
 
 #include "interface/qml/LeafundWindow.h"
 #include "platform/uikit/UINavigationController.h"
@@ -31,7 +33,9 @@ const UIView* rootOf(const UIView& view) {
 
 }  // namespace
 
-WindowHost::WindowHost() : qt_(makeHost()) {}
+WindowHost::WindowHost() : qt_(makeHost()) {
+  QGuiApplication::styleHints()->setMousePressAndHoldInterval(kLongPress);
+}
 
 int WindowHost::run(UIApplication& application) {
   qt_.start(application);

@@ -15,6 +15,9 @@ namespace leafund::random {
 // The real host of the window, but for pictures: those are answered when an action says so.
 class WindowHost final : public PromptHost {
  public:
+  // A press is a long one after so many milliseconds, real ones, and this user spends few of them.
+  static constexpr int kLongPress = 50;
+
   WindowHost();
 
   int run(UIApplication& application) override;

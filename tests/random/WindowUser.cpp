@@ -73,6 +73,7 @@ void WindowUser::go(const Action& action, Chance& how) {
     case ActionKind::Type:
       return type(action, how);
     case ActionKind::EndEditing:
+      if (how.percent(10)) return hand_.keyClick(Qt::Key_Menu);
       return hand_.keyClick(how.percent(50) ? Qt::Key_Tab : Qt::Key_Backtab);
     case ActionKind::PressReturn:
       return pressKeys(Qt::Key_Return, 1, 0, how);
@@ -111,7 +112,10 @@ void WindowUser::tapItem(QQuickItem* item, Chance& how) {
   item = reach(item, how);
   if (item == nullptr) return;
   const auto where = pointIn(inSight(*item), how);
-  how.percent(5) ? longPress(where, how) : tapAt(where, how, clicks(how), how.percent(40));
+  const auto lot = how.below(20);
+  if (lot == 0) return longPress(where, how);
+  if (lot == 1) return clickRight(where);
+  tapAt(where, how, clicks(how), how.percent(40));
 }
 
 void WindowUser::tapAt(QPointF where, Chance& how, int count, bool byTouch) {
@@ -125,9 +129,12 @@ void WindowUser::tapAt(QPointF where, Chance& how, int count, bool byTouch) {
     const bool again = byTouch && lastTouch_.soonAfter(hand_.now(), where);
     const bool moves = contentMoves();
     if (byTouch) lastTouch_.note(hand_.now(), where);  // what the first leads to takes time as well
+    QElapsedTimer held;
+    held.start();
     hand_.press(where, byTouch);
     hand_.release(where, byTouch);
-    expect(place, moves || late || again || slow,
+    const bool isLong = byTouch && held.elapsed() >= WindowHost::kLongPress / 2;
+    expect(place, moves || late || again || slow || isLong,
            (byTouch ? "touch " : "click ") + std::to_string(click + 1) + " at " + told(where));
     if (top() != before || late) lastClick_.note(hand_.now(), where);
     if (!told_.empty() || click + 1 == count) return;
@@ -145,6 +152,12 @@ void WindowUser::longPress(QPointF where, Chance& how) {
   if (top() != before) place.sure = false;  // nothing of the user's: a picture cannot do it either
   hand_.release(where, byTouch);
   expect(place, true, "a long press");
+}
+
+// It is no tap anywhere; of a text it opens the menu.
+void WindowUser::clickRight(QPointF where) {
+  hand_.clickRight(where);
+  expect({}, false, "a click of the right button at " + told(where));
 }
 
 void WindowUser::pressKeys(int key, int count, int repeats, Chance& how) {

@@ -57,9 +57,11 @@ class WindowUser {
   void tapItem(QQuickItem* item, Chance& how);
   void tapAt(QPointF where, Chance& how, int count, bool byTouch);
   void longPress(QPointF where, Chance& how);
+  void clickRight(QPointF where);
   void pressKeys(int key, int count, int repeats, Chance& how);
   void type(const Action& action, Chance& how);
   void scroll(const Action& action, Chance& how);
+  void turnWheel(QPointF where, int notches);
   void drag(QPointF from, QPointF to, Chance& how);
   void goBack(Chance& how);
   void resize(const Action& action, Chance& how);
@@ -76,6 +78,8 @@ class WindowUser {
   QPointF anyPoint(Chance& how);
   Place placeAt(QPointF where);
   Place placeInFocus(int key);
+  // That of a text, which takes taps and keys for itself.
+  bool menuIsOpen();
   bool contentMoves();
 
   // What has arrived since the last call.
