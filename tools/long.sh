@@ -1,22 +1,27 @@
 # shellcheck shell=bash disable=SC2154 # sourced by ./test, which sets what is used here
 # What ./test long runs beside the short form, sourced by it: an hour or two, not minutes.
 
-# Every suite, with the memory watched, and without a window also what nobody holds any more at the
-# end. With one, threads of Qt end when they like, and the leak check fails on a thread
-# that is ending ("Tracer caught signal 11", about once in 50 runs).
+# Every suite but what measures pages, with the memory watched, and without a window also what nobody
+# holds any more at the end. With one, threads of Qt end when they like, and the leak check fails on a
+# thread that is ending ("Tracer caught signal 11", about once in 50 runs). What all of them together
+# run of each room is counted.
 runAddressSuites() {
   enter asan-ubsan
-  buildTree asan-ubsan "$folder" all -DLEAFUND_PICTURE_HOST="$pictureHost"
+  buildTree asan-ubsan "$folder" all -DLEAFUND_PICTURE_HOST="$pictureHost" -DLEAFUND_COVERAGE=ON
+  find "$folder" -name '*.gcda' -delete
   export ASAN_OPTIONS=detect_stack_use_after_return=1
   export UBSAN_OPTIONS=print_stacktrace=1
   local suite
   for suite in $(suites); do
+    [[ $suite == measure ]] && continue  # approval's pages, in other sizes
     [[ $suite =~ ^(model|platform|screens|shell|journeys|contract_headless|random|corpora)$ ]] ||
       ASAN_OPTIONS+=:detect_leaks=0
     runSuite "asan $suite" -L "^$suite\$"
     ASAN_OPTIONS=${ASAN_OPTIONS%:detect_leaks=0}
   done
+  ASAN_OPTIONS+=:detect_leaks=0 outliveDisplay
   unset ASAN_OPTIONS UBSAN_OPTIONS
+  runTool coverage '^OK ' '^FAIL ' tools/coverage "$folder"
 }
 
 # What crosses from the threads of fetches and pixels to the main one, with every access to memory watched. Without
@@ -44,24 +49,17 @@ outliveDisplay() {
   started=("${started[@]:2}")
 }
 
-# How much of each room all suites together run.
-runCoverage() {
-  enter coverage
-  buildTree coverage "$folder" all -DLEAFUND_PICTURE_HOST="$pictureHost"
-  find "$folder" -name '*.gcda' -delete
-  runSuite "all, counted" -L .
-  outliveDisplay
-  runTool coverage '^OK ' '^FAIL ' tools/coverage "$folder"
-}
-
-# What is too much for a build that nobody optimised.
+# What is too much for a build that nobody optimised; and what the work inside takes, in instructions, the
+# same however busy the machine is.
 runMany() {
-  enter release
-  buildTree release "$folder" "screens_tests random_actions"
+  installMissing bench
+  enter bench
+  buildTree release "$folder" "screens_tests random_actions counted_bench" -DLEAFUND_BENCH=ON
   runSuite "a million showings" -L '^screens$' -R RowShowingsTest
   local random
   random=$(find "$folder" -name random_actions -type f)
   runTool "random actions" '^[0-9]+ sequences, ' '^seed .* diverges' "$random" --actions 500000 --seed "$RANDOM" --jobs "$jobs"
+  runTool counts '^OK ' '^FAIL ' bench/count "$folder"
 }
 
 # The random user in the window of the program as ./test built it: from outside, which waits most of
@@ -82,24 +80,13 @@ runLargePictures() {
     --generate large --draw "$folder/tests/pictures/draw_pictures" --jobs 1
 }
 
-# What the work inside takes, in instructions: the same however busy the machine is.
-runCounts() {
-  installMissing bench
-  enter bench
-  buildTree release "$folder" counted_bench -DLEAFUND_BENCH=ON -DLEAFUND_TESTS=OFF
-  runTool counts '^OK ' '^FAIL ' bench/count "$folder"
-}
-
 runWindow
 runMany
-runCounts
-runTool "guide: a first change" '^OK ' '^FAIL ' tools/follow "A first change"
-runTool "guide: a new screen" '^OK ' '^FAIL ' tools/follow "A new screen"
+runTool guide '^OK ' '^FAIL ' tools/follow "A first change" "A new screen"
 installMissing package
 runTool packages '^OK ' '^FAIL ' tools/check-packages
 startTool fuzz tools/fuzz all 60  # one processor's work, while the suites wait for windows and servers
 runAddressSuites
 finishTool fuzz ' 0 findings' ' [1-9][0-9]* findings'
 runThreadSuites
-runCoverage
 runTool mutants '^CAUGHT ' '^(SURVIVED|UNBUILT) ' tools/mutants
