@@ -20,7 +20,7 @@ FocusScope {
         const text = offer.text;
         const [cut, copy, paste, selectAll] = offer.bridge.editLabels;
         const masked = (text.echoMode ?? TextInput.Normal) !== TextInput.Normal;
-        const selected = text.selectionEnd - text.selectionStart;
+        const selected = offer.end - offer.start;
         const copied = !masked && selected > 0;
         const every = [
             { offered: copied && !text.readOnly, label: cut, act: () => text.cut() },
@@ -41,9 +41,17 @@ FocusScope {
         repeater.itemAt(0).forceActiveFocus(Qt.PopupFocusReason);
     }
     function close() {
+        watch.endPress();
+        const typed = before === offer?.text;
         if (before && activeFocus)
             before.forceActiveFocus(Qt.PopupFocusReason);
         forget();
+        if (typed)
+            Qt.inputMethod.show();
+    }
+    FocusWatch {
+        id: watch
+        target: menu
     }
     // What was selected is left as leaving it for anything else would.
     function forget() {
@@ -57,7 +65,9 @@ FocusScope {
             text.deselect();
     }
     function choose(act: var) {
+        const chosen = offer;
         close();
+        chosen.text.select(chosen.start, chosen.end);
         act();
     }
     function step(from: int, way: int) {
@@ -68,17 +78,22 @@ FocusScope {
     onEnabledChanged: if (!enabled) forget()
     onActiveFocusChanged: if (!activeFocus && Window.active) forget()
 
+    // Nothing scrolls below it. What is held with Control is the window's.
     Keys.onPressed: event => {
-        event.accepted = [Qt.Key_Escape, Qt.Key_Back, Qt.Key_Menu, Qt.Key_F6].includes(event.key)
-            || (event.key === Qt.Key_Left && event.modifiers === Qt.AltModifier);
-        if (event.accepted)
+        event.accepted = !(event.modifiers & Qt.ControlModifier);
+        if ([Qt.Key_Escape, Qt.Key_Back, Qt.Key_Menu, Qt.Key_F6, Qt.Key_F10].includes(event.key)
+            || (event.key === Qt.Key_Left && event.modifiers === Qt.AltModifier))
             close();
     }
+    WheelHandler {}
 
     MouseArea {
         anchors.fill: parent
         acceptedButtons: Qt.LeftButton | Qt.RightButton
-        onPressed: menu.close()
+        onPressed: press => {
+            menu.close();
+            press.accepted = press.button === Qt.LeftButton;  // the other may ask for another text's
+        }
     }
 
     Rectangle {
@@ -110,6 +125,8 @@ FocusScope {
                     id: row
                     required property var modelData
                     required property int index
+                    // The focus goes back to where it came from.
+                    readonly property bool passing: true
 
                     objectName: modelData.label
                     width: column.width

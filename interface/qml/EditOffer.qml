@@ -8,6 +8,14 @@ MouseArea {
 
     // On what the finger rests.
     required property Item area
+    // What was selected when the press began: the text may place its caret where the finger is.
+    property int start: 0
+    property int end: 0
+    function note() {
+        start = text.selectionStart;
+        end = text.selectionEnd;
+    }
+
     // A TextInput or a TextEdit, or what EditMenu uses of them: they share no type.
     required property var text
     required property TextInputBridge bridge
@@ -25,18 +33,21 @@ MouseArea {
                 return each.offerEdits(offer, mapToItem(each, place));
     }
     function askAtCaret() {
+        note();
         const caret = text.cursorRectangle;
-        ask(mapFromItem(area, caret.x, caret.y + caret.height));
+        ask(mapFromItem(text, caret.x, caret.y + caret.height));
     }
 
     anchors.fill: parent
     acceptedButtons: Qt.RightButton
+    onPressed: note()
     onClicked: mouse => ask(Qt.point(mouse.x, mouse.y))
 
     TapHandler {
         id: finger
         parent: offer.area
-        acceptedDevices: PointerDevice.TouchScreen
+        acceptedDevices: PointerDevice.TouchScreen | PointerDevice.Stylus
+        onPressedChanged: if (pressed) offer.note()
         onLongPressed: offer.ask(offer.mapFromItem(offer.area, finger.point.position))
     }
 }

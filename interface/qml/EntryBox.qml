@@ -96,6 +96,11 @@ Rectangle {
     MouseArea {
         anchors.fill: parent
         cursorShape: Qt.IBeamCursor
+        onPressed: offer.note()
+        onPressAndHold: press => {
+            if (press.source !== Qt.MouseEventNotSynthesized)
+                offer.ask(Qt.point(press.x, press.y));  // by a finger
+        }
         onClicked: box.takeTap()
     }
 

@@ -36,7 +36,7 @@ Rectangle {
         area: words
         bridge: area.view
         text: ({ readOnly: true, canPaste: false, activeFocus: true,
-                 selectionStart: 0, selectionEnd: area.view.text.length,
+                 selectionStart: 0, selectionEnd: area.view.text.length, select: () => {},
                  copy: () => area.view.copy() })
     }
 }

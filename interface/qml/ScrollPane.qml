@@ -73,7 +73,12 @@ Item {
     readonly property Item focused: Window.activeFocusItem
     property bool inUse: false
     property bool visited: false  // the focus is where the user went since the screen came
+    property Item before: null  // what had it last, but for a menu, which gives it back
     onFocusedChanged: {
+        if (focused?.passing || (focused && focused === before))
+            return;
+        before = focused;
+        caretOf = focused;
         const wasInUse = inUse;
         inUse = screenOf(focused) === screenOf(pane);
         if (!inUse)
@@ -86,11 +91,10 @@ Item {
             item = item.parent;
         return item;
     }
-    Connections {
-        target: pane.inUse ? pane.focused : null
-        ignoreUnknownSignals: true  // of what has no caret
-        function onCursorRectangleChanged() { Qt.callLater(pane.goOn); }
-    }
+    // An input tells of its caret also when it only gets the focus back.
+    readonly property rect caret: before?.cursorRectangle ?? Qt.rect(0, 0, 0, 0)
+    property Item caretOf: null
+    onCaretChanged: if (inUse && caretOf === before) Qt.callLater(goOn)
     onHeightChanged: Qt.callLater(keepInSight)
 
     Keys.onUpPressed: scrollBy(-Theme.step)

@@ -35,6 +35,12 @@ bool FocusWatch::pressContinues() const {
   return window != nullptr && window->pressContinues();
 }
 
+void FocusWatch::endPress() const {
+  if (auto* window = target_ ? qobject_cast<QtWindow*>(target_->window()) : nullptr) {
+    window->endPress();
+  }
+}
+
 bool FocusWatch::eventFilter(QObject*, QEvent* event) {
   switch (event->type()) {
     case QEvent::FocusIn:
@@ -60,11 +66,13 @@ bool FocusWatch::eventFilter(QObject*, QEvent* event) {
 }
 
 void FocusWatch::focusIn(Qt::FocusReason reason) {
-  if (reason != Qt::ActiveWindowFocusReason) {
-    byKeyboard_ = reason != Qt::MouseFocusReason;
+  const auto* window = qobject_cast<QtWindow*>(target_->window());
+  const bool keysUsed = window != nullptr && window->usedByKeys();
+  if (reason == Qt::ActiveWindowFocusReason) {
+    byKeyboard_ = byKeyboard_ || keysUsed;
+  } else {
+    byKeyboard_ = reason == Qt::PopupFocusReason ? keysUsed : reason != Qt::MouseFocusReason;
     enter();
-  } else if (const auto* window = qobject_cast<QtWindow*>(target_->window())) {
-    byKeyboard_ = byKeyboard_ || window->usedByKeys();
   }
   setRing(byKeyboard_);
 }

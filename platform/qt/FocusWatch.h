@@ -24,6 +24,9 @@ class FocusWatch : public QObject {
 
   // The pointer's press is part of an earlier one, which was meant for another screen.
   Q_INVOKABLE bool pressContinues() const;
+  // What lay over the screen has been closed by the press, and what continues it presses nothing
+  // below.
+  Q_INVOKABLE void endPress() const;
   // The editing ended while the window was inactive, so the next input counts as entering again.
   Q_INVOKABLE void leave() { inside_ = false; }
 

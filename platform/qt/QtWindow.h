@@ -23,6 +23,9 @@ class QtWindow : public QQuickWindow {
   bool usedByKeys() const { return usedByKeys_; }
   // The pointer's present press is part of an earlier one, and taps nothing.
   bool pressContinues() const { return pressContinues_; }
+  // What the last press was for has gone, though the screen has not: what continues it presses
+  // nothing.
+  void endPress() { (usedByKeys_ ? keys_ : pointer_).changedTop(); }
   // Where the keyboard in the window lies, in points of the window; empty where there is none.
   void setKeyboardArea(const QRectF& area);
   // Who makes its pages is asked how wide the tabs' rail is, for as long as the window gets events.

@@ -1,55 +1,12 @@
-#include <QClipboard>
-#include <QGuiApplication>
 #include <QStyleHints>
 
 #include "model/Catalogue.h"
-#include "tests/window/PressFixture.h"
+#include "tests/window/EditMenuFixture.h"
 
 namespace leafund {
 namespace {
 
-// What a right click, a long press and the menu's key offer for a text.
-class EditMenuTest : public PressFixture {
- protected:
-  QQuickItem* menu() {
-    auto* found = app.item("editMenu");
-    return found != nullptr && found->isVisible() ? found : nullptr;
-  }
-  static void collect(QQuickItem& item, std::vector<QQuickItem*>& found) {
-    if (item.metaObject()->indexOfProperty("held") >= 0) found.push_back(&item);
-    for (auto* each : item.childItems()) collect(*each, found);
-  }
-  std::vector<QQuickItem*> offerItems() {
-    std::vector<QQuickItem*> found;
-    if (menu() != nullptr) collect(*menu(), found);
-    return found;
-  }
-  std::vector<std::string> offers() {
-    std::vector<std::string> names;
-    for (const auto* each : offerItems()) names.push_back(each->objectName().toStdString());
-    return names;
-  }
-  void rightClick(const std::string& name) {
-    QTest::mouseClick(&app.window(), Qt::RightButton, {}, middleOf(name));
-    app.settle();
-  }
-  void choose(const std::string& name) {
-    for (auto* each : offerItems()) {
-      if (each->objectName().toStdString() == name) app.click(*each);
-    }
-    app.settle();
-  }
-  QString clipboard() { return QGuiApplication::clipboard()->text(); }
-  QString selected(const std::string& name) {
-    return app.require(name).property("selectedText").toString();
-  }
-  void openForm() {
-    signIn();
-    click("mineTab");
-    click("newButton");
-  }
-  using Names = std::vector<std::string>;
-};
+using EditMenuTest = EditMenuFixture;
 
 TEST_F(EditMenuTest, ARightClickOffersWhatCanBeDoneAndDoesIt) {
   openForm();
