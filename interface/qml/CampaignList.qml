@@ -89,7 +89,8 @@ FocusScope {
         activeFocusOnTab: contentHeight === 0
 
         // The item owns the offset. What logic or layout placed anew is taken over once.
-        onContentYChanged: list.root.scroll(contentY)
+        // Past an end it stops itself.
+        onContentYChanged: list.root.scroll(flicking ? withinEnds(contentY) : contentY)
         readonly property int placement: list.root.placement
         onPlacementChanged: contentY = list.root.contentOffset
         // A fling ends where its list is covered.

@@ -24,13 +24,14 @@ Flickable {
     }
 
     // Sums are rounded: a fling that met its end to a hair would swing past it by some points and back,
-    // whatever the bounds, and put back on the way it would believe that it moves.
-    onContentYChanged: {
-        const within = withinEnds(contentY);
-        if (!flicking || contentY === within)
+    // whatever the bounds. It is stopped when Qt has done with the step; in the midst of it, it would
+    // believe ever after that it moves.
+    onContentYChanged: if (flicking && contentY !== withinEnds(contentY)) Qt.callLater(stopAtEnd)
+    function stopAtEnd() {
+        if (contentY === withinEnds(contentY))
             return;
         cancelFlick();
-        contentY = within;
+        contentY = withinEnds(contentY);
     }
 
     // A turn of the wheel leads as far as it says, and at once, as the keys do: a notch one step. Qt
@@ -46,7 +47,7 @@ Flickable {
             // In phases two fingers on a touchpad tell of points.
             const way = turn.phase === Qt.NoScrollPhase ? turn.angleDelta.y / area.notch * Theme.step
                                                         : turn.pixelDelta.y;
-            // Placed by hand, it flies no further.
+            area.cancelFlick();
             area.contentY = area.withinEnds(area.contentY - way);
         }
     }
