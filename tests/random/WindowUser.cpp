@@ -120,7 +120,7 @@ void WindowUser::tapItem(QQuickItem* item, Chance& how) {
 
 void WindowUser::tapAt(QPointF where, Chance& how, int count, bool byTouch) {
   const Top before = top();
-  const bool late = lastClick_.soonAfter(hand_.now(), where);
+  bool late = lastClick_.soonAfter(hand_.now(), where);
   for (int click = 0; click < count; ++click) {
     // What comes too late on a busy machine is a tap of its own.
     const bool slow = byTouch && click > 0 && lastTouch_.since.elapsed() > kSurelyTogether;
@@ -128,6 +128,7 @@ void WindowUser::tapAt(QPointF where, Chance& how, int count, bool byTouch) {
     // Qt Quick takes a finger's second tap for a double click, and no area here asks for those.
     const bool again = byTouch && lastTouch_.soonAfter(hand_.now(), where);
     const bool moves = contentMoves();
+    const bool menu = menuIsOpen();  // which is closed, and what continues that comes to nothing
     if (byTouch) lastTouch_.note(hand_.now(), where);  // what the first leads to takes time as well
     QElapsedTimer held;
     held.start();
@@ -136,6 +137,7 @@ void WindowUser::tapAt(QPointF where, Chance& how, int count, bool byTouch) {
     const bool isLong = byTouch && held.elapsed() >= WindowHost::kLongPress / 2;
     expect(place, moves || late || again || slow || isLong,
            (byTouch ? "touch " : "click ") + std::to_string(click + 1) + " at " + told(where));
+    late = late || menu;
     if (top() != before || late) lastClick_.note(hand_.now(), where);
     if (!told_.empty() || click + 1 == count) return;
     if (how.percent(70)) hand_.frames(static_cast<int>(how.between(1, 12)), how);
@@ -156,17 +158,19 @@ void WindowUser::longPress(QPointF where, Chance& how) {
 
 // It is no tap anywhere; of a text it opens the menu.
 void WindowUser::clickRight(QPointF where) {
+  if (menuIsOpen()) lastClick_.note(hand_.now(), where);
   hand_.clickRight(where);
   expect({}, false, "a click of the right button at " + told(where));
 }
 
 void WindowUser::pressKeys(int key, int count, int repeats, Chance& how) {
   const Top before = top();
-  const bool late = lastKey_.soonAfter(hand_.now(), {}) && lastKey_.key == key;
+  bool late = lastKey_.soonAfter(hand_.now(), {}) && lastKey_.key == key;
   const QString text = key == Qt::Key_Space ? " " : "";
   const auto modifiers = key == Qt::Key_Left ? Qt::AltModifier : Qt::NoModifier;
   for (int press = 0; press < count; ++press) {
     const auto place = top() == before ? placeInFocus(key) : Place{};
+    const bool menu = menuIsOpen();
     hand_.keyDown(key, text, modifiers);
     expect(place, late, "a key");
     for (int each = 0; each < repeats; ++each) {
@@ -175,6 +179,7 @@ void WindowUser::pressKeys(int key, int count, int repeats, Chance& how) {
       expect({}, false, "a key that is held");
     }
     hand_.keyUp(key, modifiers);
+    late = late || menu;
     if (top() != before || late) {  // each press of a series may have a next one
       lastKey_.note(hand_.now(), {});
       lastKey_.key = key;
