@@ -38,7 +38,14 @@ Flickable {
     // makes a speed of it, which is none for a slow and fine one, averages it with turns the other way,
     // and calls a list moving that creeps for a second or stands still, so that a click would only stop it.
     readonly property real notch: 120  // eighths of a degree
-    // The handler makes what it is in take presses of every button.
+    // With a handler its item is offered presses of every button. The pane stops for one, and if nobody
+    // took it, would wait for its release for ever.
+    MouseArea {
+        parent: area.contentItem
+        anchors.fill: parent
+        z: -1
+        acceptedButtons: Qt.AllButtons & ~Qt.LeftButton
+    }
     WheelHandler {
         parent: area.contentItem
         acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad

@@ -152,5 +152,18 @@ TEST_F(FlingTest, TheWheelTakesOverFromAFling) {
   }
 }
 
+// It would else say for ever that it moves, and swallow the next click.
+TEST_F(FlingTest, ARightClickStopsAFling) {
+  signIn();
+  FrameClock passing;
+  clock = &passing;
+  QMetaObject::invokeMethod(&app.require("table"), "flick", Q_ARG(double, 0), Q_ARG(double, -1500));
+  for (int frames = 0; frames < 8; ++frames) frame();
+  ASSERT_TRUE(moving());
+  QTest::mouseClick(&app.window(), Qt::RightButton, {}, {200, 400});
+  rest();
+  EXPECT_FALSE(moving());
+}
+
 }  // namespace
 }  // namespace leafund
