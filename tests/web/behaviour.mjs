@@ -48,6 +48,18 @@ export const tests = {
     expect(await inFocus() === "none", `no input, not ${await inFocus()}`);
     await shown(page, "LandingPageVC");
   },
+  async aSlideMakesThePageNoWider({ page }) {
+    const widths = await page.evaluate(async () => {
+      const seen = [];
+      document.querySelector("[data-view=signUpButton]").click();
+      do {
+        await new Promise(requestAnimationFrame);
+        seen.push(innerWidth);
+      } while (document.getAnimations().length > 0);
+      return seen;
+    });
+    expect(widths.length > 3 && widths.every(each => each === 390), `390 in each frame: ${widths}`);
+  },
   async aListIsAColumnInTheMiddle({ page, app }) {
     await app.signIn();
     await shown(page, "OtherCampaignsTableViewController");
