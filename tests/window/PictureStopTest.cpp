@@ -57,6 +57,14 @@ double secondsStoppedSoon(const UIImage& picture) {
   return secondsFor(picture, stop.get_token());
 }
 
+// On a busy machine one round may take anything, and who stops it may be late.
+template <class Round>
+double leastOfFive(const Round& round) {
+  double least = round();
+  for (int again = 0; again < 4; ++again) least = std::min(least, round());
+  return least;
+}
+
 TEST(PictureStopTest, EveryDecoderStopsBeforeAndUnderWay) {
   const QImage large = restless({1600, 1200});
   const std::pair<const char*, std::string> bodies[] = {{"JPEG", *written(large, "jpeg")},
@@ -68,14 +76,12 @@ TEST(PictureStopTest, EveryDecoderStopsBeforeAndUnderWay) {
     SCOPED_TRACE(name);
     const auto picture = UIImage::initWithData(std::make_shared<const std::string>(body));
     ASSERT_TRUE(picture);
-    const double whole = secondsFor(*picture);
+    const double whole = leastOfFive([&] { return secondsFor(*picture); });
     RecordProperty(name, std::to_string(whole));
     std::stop_source stopped;
     stopped.request_stop();
-    EXPECT_LT(secondsFor(*picture, stopped.get_token()), whole / 4);
-    double soon = secondsStoppedSoon(*picture);  // who stops it may be late on a busy machine
-    for (int round = 0; round < 4; ++round) soon = std::min(soon, secondsStoppedSoon(*picture));
-    EXPECT_LT(soon, whole / 2);
+    EXPECT_LT(leastOfFive([&] { return secondsFor(*picture, stopped.get_token()); }), whole / 4);
+    EXPECT_LT(leastOfFive([&] { return secondsStoppedSoon(*picture); }), whole / 2);
   }
 }
 
