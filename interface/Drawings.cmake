@@ -80,14 +80,18 @@ IconPaths pathsOf(IconItem::Icon which) {
 ]])
 endfunction()
 
-# The icons of those names as symbols of a page.
+# The icons of those names as symbols of a page. Hills are as wide as it is.
 function(icons_to_symbols out)
   set(symbols "")
   foreach(name IN LISTS ARGN)
     file(READ ${CMAKE_CURRENT_FUNCTION_LIST_DIR}/icons/${name}.svg svg)
     string(REGEX REPLACE "^<svg[^>]*>|</svg>|\n *" "" svg "${svg}")
     string(REGEX REPLACE "([A-Z]) " "\\1" svg "${svg}")
-    string(APPEND symbols "  <symbol id=\"${name}\" viewBox=\"0 0 24 24\">${svg}</symbol>\n")
+    set(fit "")
+    if(name MATCHES "^hill")
+      set(fit " preserveAspectRatio=\"none\"")
+    endif()
+    string(APPEND symbols "  <symbol id=\"${name}\" viewBox=\"0 0 24 24\"${fit}>${svg}</symbol>\n")
   endforeach()
   set(${out} "${symbols}" PARENT_SCOPE)
 endfunction()

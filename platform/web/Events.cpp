@@ -49,8 +49,8 @@ LEAFUND_TO_PAGE(scroll) void scroll(int id, double offset, unsigned placements) 
   application().scroll(viewOf<UITableView>(id), offset, placements);
 }
 LEAFUND_TO_PAGE(goBack) void goBack() { application().goBack(); }
-LEAFUND_TO_PAGE(resize) void resize(double width, double height) {
-  application().resize({width, height});
+LEAFUND_TO_PAGE(resize) void resize(double width, double height, double rail) {
+  application().resize({width, height}, rail);
 }
 
 LEAFUND_TO_PAGE(resignActive) void resignActive() { application().resignActive(); }

@@ -57,7 +57,7 @@ void readTab(const UITabBarItem& tab, Json& json) {
 void readTable(const UITableView& table, Json& json) {
   json.number("height", table.contentHeight()).number("offset", table.contentOffset().y);
   json.integer("placements", static_cast<std::ptrdiff_t>(table.placements()));
-  json.number("x", table.frame().x).number("width", table.frame().width);
+  json.number("width", table.frame().width);
   // Not with every step of a scroll.
   if (table.contentHeight() > 0) return;
   json.text("emptyHeading", table.emptyWords().heading);

@@ -15,7 +15,7 @@ WebHost& WebHost::shared() {
 }
 
 int WebHost::run(UIApplication& application) {
-  application.resize(size_);
+  application.resize(size_, railWidth_);
   application.launch();
   application.becomeActive();
   return 0;

@@ -27,8 +27,11 @@ class WebHost final : public Host {
   double screenScale() const override;
   void show(const UINavigationController& navigation) override;
 
-  // The content's size at launch, in points.
-  void setSize(CGSize size) { size_ = size; }
+  // The content's size and the width of tabs at its side at launch, in points.
+  void setSize(CGSize size, double railWidth = 0) {
+    size_ = size;
+    railWidth_ = railWidth;
+  }
   // Runs the steps that wait, each as one turn; those they post wait for the next call.
   void drain();
   // The end of a fetch.
@@ -42,6 +45,7 @@ class WebHost final : public Host {
   CompletionHandler take(int fetch);
 
   CGSize size_;
+  double railWidth_ = 0;
   std::deque<std::function<void()>> steps_;
   bool awaitsDrain_ = false;
   std::map<int, CompletionHandler> fetches_;

@@ -39,11 +39,19 @@ function tell(event, ...values) {
 function writeText(element, look) {
   if (look.text === undefined) return;
   element.textContent = look.text;
+  element.classList.toggle("long", look.text.length > 48);
   if (!look.label) return;
   const label = document.createElement("span");
   label.className = "unseen";
   label.textContent = `${look.label}: `;
   element.prepend(label);
+}
+
+// What a message has just come for; of several the topmost.
+let told = null;
+function bringIntoSight(element) {
+  if (!told) requestAnimationFrame(() => { told.scrollIntoView({ block: "nearest" }); told = null; });
+  if (!told || element.compareDocumentPosition(told) & Node.DOCUMENT_POSITION_FOLLOWING) told = element;
 }
 
 function inputAfter(input) {
@@ -76,7 +84,10 @@ const bindings = {
       if (input.value !== look.text) input.value = look.text;
       input.ariaInvalid = String(!!look.wrong);
       const message = look.message ? look.text : "";
-      if (message && message !== announced) by("said").append(`${look.placeholder}: ${message}. `);
+      if (message && message !== announced) {
+        by("said").append(`${look.placeholder}: ${message}. `);
+        bringIntoSight(element);
+      }
       announced = message;
       if (!look.editing && document.activeElement === input) input.blur();
     };
@@ -93,10 +104,12 @@ const bindings = {
   },
   P(element) {
     // The reason that stands below an input describes it.
-    const input = element.role === "alert" && element.previousElementSibling.querySelector("input");
+    const input = element.role === "alert" && element.parentElement.previousElementSibling.querySelector("input");
     return look => {
       writeText(element, look);
-      if (input) input.ariaDescription = look.hidden ? "" : look.text;
+      if (!input) return;
+      input.ariaDescription = look.hidden ? "" : look.text;
+      if (!look.hidden) bringIntoSight(element.parentElement);
     };
   },
   NAV: element => look => {
@@ -159,8 +172,8 @@ function bindTable(element, id) {
     look = next;
     element.ariaLabel = look.label;
     space.style.height = `${Math.min(look.height, tallest)}px`;
-    element.style.marginInlineStart = `${look.x}px`;
     element.style.width = `${look.width}px`;
+    element.closest(".screen").classList.toggle("short", look.height + 160 < box.clientHeight);
     empty.hidden = look.height > 0;
     empty.firstElementChild.textContent = look.emptyHeading ?? "";
     empty.lastElementChild.textContent = look.emptySentence ?? "";
@@ -184,7 +197,7 @@ function bindTable(element, id) {
 function drawCards(element, look) {
   element.replaceChildren(...(look.cards ?? []).map(card => {
     const box = document.createElement("i");
-    box.style.cssText = `left:${card.x}px;top:${card.y}px;right:0;height:${card.height}px;` +
+    box.style.cssText = `inset-inline:${card.x}px 0;top:${card.y}px;height:${card.height}px;` +
       `border-radius:${card.radius}px;` +
       `box-shadow:${card.shadowX}px ${card.shadowY}px 3px rgb(0 0 0/${card.shadow})`;
     return box;
@@ -294,7 +307,7 @@ const imports = {
     const element = document.createElement("div");
     element.className = "screen";
     element.dataset.scene = name;
-    element.append(by(template.dataset.like ?? name).content.cloneNode(true));
+    element.append(...[by("meadow"), by(template.dataset.like ?? name)].map(each => each.content.cloneNode(true)));
     if (!place) {
       element.prepend(by("bar").content.cloneNode(true));
       element.querySelector(".back").addEventListener("click", () => tell("goBack"));
@@ -405,8 +418,9 @@ export async function load(source, more = {}, system = {}) {
 
 export async function start(source) {
   await load(source);
-  tell("start", innerWidth, innerHeight);
-  addEventListener("resize", () => tell("resize", innerWidth, innerHeight));
+  const room = () => [innerWidth, innerHeight, parseFloat(getComputedStyle(document.documentElement).getPropertyValue("--tabs"))];
+  tell("start", ...room());
+  addEventListener("resize", () => tell("resize", ...room()));
   let inFront = true;
   const bringToFront = front => {
     if (front === inFront) return;

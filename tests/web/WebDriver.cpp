@@ -3,7 +3,7 @@
 #include "platform/web/Bridge.h"
 #include "tests/journeys/Driver.h"
 
-extern "C" void start(double width, double height);
+extern "C" void start(double width, double height, double rail);
 
 namespace leafund {
 
@@ -18,7 +18,7 @@ namespace {
 // Taps and types on the page, and reads from it: verbs.mjs.
 class WebDriver final : public Driver {
  public:
-  WebDriver() { start(390, 844); }
+  WebDriver() { start(390, 844, 0); }
   void tap(const std::string& name) override { ask("tap", name); }
   void tapRow(std::ptrdiff_t row) override { ask("tapRow", std::to_string(row)); }
   void type(const std::string& name, const std::string& text) override { ask("type", name, text); }

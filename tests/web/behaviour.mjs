@@ -60,10 +60,34 @@ export const tests = {
     });
     expect(widths.length > 3 && widths.every(each => each === 390), `390 in each frame: ${widths}`);
   },
-  async aListIsAColumnInTheMiddle({ page, app }) {
+  async aWideWindowHasTheTabsAtItsSideAndTwoColumns({ page, app }) {
+    await app.signIn();
+    const boxOf = place => page.$eval(`.screen:not([hidden]) ${place}`, each => each.getBoundingClientRect().toJSON());
+    for (const [width, height, rail] of [[559, 800, 0], [560, 800, 80], [840, 479, 80], [840, 480, 96]]) {
+      await app.resize(width, height);
+      const nav = await boxOf("nav");
+      const expected = rail ? [0, rail, height] : [height - 64, width, 64];
+      expect([nav.top, nav.width, nav.height].join() === expected.join(), `${width} × ${height}: ${expected}, not ${[nav.top, nav.width, nav.height]}`);
+    }
+    await app.resize(1280, 800);
+    await app.tapRow(0);
+    await shown(page, "OneCampaignViewController");
+    const [button, text] = [await boxOf("[data-view=FundButton]"), await boxOf("[data-view=campaignText]")];
+    expect(button.right < text.left && text.top < button.top, "what is done stands beside what is read");
+  },
+  async theTopmostOfSeveralMessagesComesIntoSight({ page, app }) {
+    await app.resize(844, 390);
+    await app.signIn();
+    await app.tap("mineTab");
+    await app.tap("newButton");
+    await app.tap("createButton");
+    const { top, bottom } = await page.$eval("[data-view=nameOfCreator]", each => each.getBoundingClientRect().toJSON());
+    expect(top >= 56 && bottom <= 390, `below the bar, not from ${top} to ${bottom}`);
+  },
+  async aListIsAColumnInTheMiddleOfWhatTheTabsLeave({ page, app }) {
     await app.signIn();
     await shown(page, "OtherCampaignsTableViewController");
-    for (const [width, left, right] of [[390, 16, 374], [1280, 280, 1000]]) {
+    for (const [width, left, right] of [[390, 16, 374], [700, 96, 684], [1280, 328, 1048]]) {
       await app.resize(width, 800);
       const row = await page.$eval(".screen:not([hidden]) li:not([hidden])", each => each.getBoundingClientRect().toJSON());
       expect(row.left === left && row.right === right, `at ${width} from ${left} to ${right}, not ${row.left} to ${row.right}`);
