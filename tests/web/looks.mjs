@@ -1,0 +1,53 @@
+// How every screen looks, held to approved pictures (tests/web/approved).
+import { execFileSync, spawnSync } from "node:child_process";
+import fs from "node:fs";
+import os from "node:os";
+import path from "node:path";
+import { fileURLToPath } from "node:url";
+import { walk } from "./road.mjs";
+import { expect } from "./testing.mjs";
+import { rest, shown } from "./verbs.mjs";
+
+const approved = path.join(path.dirname(fileURLToPath(import.meta.url)), "approved");
+const seen = fs.mkdtempSync(path.join(os.tmpdir(), "leafund-looks-"));
+process.on("exit", () => fs.rmSync(seen, { recursive: true, force: true }));
+
+// How many pixels differ by more than another version of the browser blends the edge of a letter.
+const most = 0.0005;  // of all
+function difference(one, other) {
+  const { stderr, status } = spawnSync("compare", ["-metric", "AE", "-fuzz", "12%", one, other, "null:"], { encoding: "utf8" });
+  return status > 1 ? Infinity : Number(stderr);
+}
+
+const looksAsApproved = (name, width, height, scheme) => async ({ page, app }) => {
+  await page.setViewport({ ...page.viewport(), width, height });
+  await page.emulateMediaFeatures([{ name: "prefers-color-scheme", value: scheme }]);
+  await page.evaluate(() => {  // the caret blinks
+    const still = new CSSStyleSheet();
+    still.replaceSync("* { caret-color: transparent !important; }");
+    document.adoptedStyleSheets = [still];
+  });
+  const changed = [];
+  let number = 0;
+  await walk(app, async (scene, state) => {
+    await shown(page, scene);
+    await page.waitForNetworkIdle({ idleTime: 100 });
+    await page.waitForFunction(() => [...document.images].every(each => each.complete));
+    await rest(page);
+    const file = `${name}-${[String(++number).padStart(2, "0"), scene, state].filter(Boolean).join("-")}.png`;
+    const now = path.join(seen, file), wanted = path.join(approved, file);
+    await page.screenshot({ path: now });
+    execFileSync("convert", [now, "-strip", "-define", "png:exclude-chunks=date,time", now]);
+    if (process.env.LEAFUND_APPROVE) return fs.copyFileSync(now, wanted);
+    const pixels = fs.existsSync(wanted) ? difference(wanted, now) : Infinity;
+    if (pixels > most * width * height) changed.push(`${file}: ${pixels} pixels`);
+  });
+  expect(changed.length === 0, `it looks as approved, but\n     ${changed.join("\n     ")}`);
+};
+
+export const tests = {
+  asApprovedByDay: looksAsApproved("390x844", 390, 844, "light"),
+  asApprovedByNight: looksAsApproved("390x844-night", 390, 844, "dark"),
+  asApprovedInLandscape: looksAsApproved("844x390", 844, 390, "light"),
+  asApprovedOnADesktop: looksAsApproved("1280x800", 1280, 800, "light"),
+};
