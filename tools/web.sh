@@ -47,16 +47,31 @@ buildPageTests() {
   export LEAFUND_PICTURE_PORT=$port
 }
 
+# The model that the random user's page is held to.
+buildReference() {
+  installMissing build test
+  buildTree debug build/headless random_reference -DLEAFUND_QT=OFF
+  reference=build/headless/tests/random/random_reference
+}
+
 # The suites of the page, a test in a page of its own.
 testWeb() {
   enter web
   buildPageTests
-  total=5
+  buildReference
+  total=8
   local suite
   for suite in contract journeys; do
     runTool "$suite web" '^OK ' '^FAIL ' node tests/web/run.mjs "$folder" "$suite"
   done
   LEAFUND_BROWSER=firefox runTool "journeys firefox" '^OK ' '^FAIL ' node tests/web/run.mjs "$folder" journeys
   runTool "page" '^OK ' '^FAIL ' node tests/web/page.mjs "$folder"
+  runRandomPage "random page" 1000 inside
+  runRandomPage "random fingers" 100 outside
+  LEAFUND_BROWSER=firefox runRandomPage "random firefox" 100 outside
   runTool "size of the page" '^OK ' '^FAIL ' tools/page-size "$folder/site"
+}
+
+runRandomPage() {
+  runTool "$1" '^OK ' '^seed .* diverges' node tests/web/random.mjs "$folder" "$reference" "$2" "$RANDOM" "$3"
 }

@@ -3,7 +3,7 @@
 
 #include "tests/random/Comparison.h"
 
-// The reference for a user who drives the shipped program from outside: reads an action a line and
+// The reference for users who drive what is shipped from outside: reads an action a line and
 // answers with the lines that are printed for it and with what the screen shown holds, up to a
 // line that is a single dot. Fields of a line are divided by tabs.
 namespace leafund::random {
@@ -66,6 +66,7 @@ int main() {
     if (!line.empty()) reference.perform(parsed(line));
     std::istringstream printed(reference.printed);
     for (std::string each; std::getline(printed, each);) std::cout << "printed\t" << each << '\n';
+    std::cout << "screen\t" << className(reference.top().scene) << '\n';
     std::cout << "back\t" << reference.canGoBack(reference.top()) << '\n';
     tell(reference.top());
     if (&reference.shown() != &reference.top()) tell(reference.shown());

@@ -44,7 +44,7 @@ class Reference:
                 self.back = fields[0] == "1"
             elif kind == "row":
                 self.rows.append(fields[1])
-            else:
+            elif kind != "screen":
                 name, hidden, selected, masked, spoken, text = fields
                 self.views.append((kind, name, hidden == "1", selected == "1", masked == "1", spoken, text))
 

@@ -51,7 +51,8 @@ export async function openBrowser(screen) {
     const page = await context.newPage();
     await page.setViewport(viewport);
     const said = [], errors = [];
-    page.on("console", line => (line.type() === "error" ? errors : said).push(line.text()));
+    const heard = { log: said, error: errors };  // and not what the browser has to remark
+    page.on("console", line => heard[line.type()]?.push(line.text()));
     page.on("pageerror", error => errors.push(error.stack));
     return { page, said, errors, close: () => context.close() };
   };

@@ -6,11 +6,15 @@ import path from "node:path";
 const types = { ".html": "text/html; charset=utf-8", ".js": "text/javascript", ".mjs": "text/javascript", ".css": "text/css",
   ".wasm": "application/wasm", ".svg": "image/svg+xml", ".jpg": "image/jpeg", ".webmanifest": "application/manifest+json" };
 
-// `folders`: what a path begins with, and the folder its files lie in; the longest that fits counts.
-export async function serve(folders, port = 0) {
+// `folders`: what a path begins with, and the folder its files lie in; the longest that fits counts. `whim`: how many
+// milliseconds an answer takes, or "break" where there is none.
+export async function serve(folders, port = 0, whim = () => 0) {
   const laid = new Map();
   const requests = [];
-  const server = http.createServer((request, answer) => {
+  const server = http.createServer(async (request, answer) => {
+    const mood = whim();
+    if (mood === "break") return request.destroy();
+    if (mood > 0) await new Promise(done => setTimeout(done, mood));
     const { pathname, searchParams } = new URL(request.url, "http://host");
     answer.setHeader("access-control-allow-origin", "*");
     answer.setHeader("cache-control", "no-store");
