@@ -133,6 +133,8 @@ void StageApplication::openTab(std::string_view name) {
   tap(name);
 }
 
+void StageApplication::goBack() { app_.application->goBack(); }
+
 void StageApplication::tab(int times) {
   settle();
   for (int i = 0; i < times; ++i) app_.press(Qt::Key_Tab);

@@ -38,6 +38,7 @@ class StageApplication {
   void type(std::string_view name, std::string text);
   void signIn();
   void openTab(std::string_view name);
+  void goBack();
   // With the keyboard, from control to control.
   void tab(int times);
 
@@ -47,6 +48,7 @@ class StageApplication {
 
   QtWindow& window() { return app_.window(); }
   QQuickItem& page() { return *app_.page(); }
+  UINavigationController& navigation() { return app_.navigation(); }
   // The settled window, without a cursor, which comes and goes.
   QImage photograph();
 
