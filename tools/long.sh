@@ -68,8 +68,8 @@ runMany() {
   runTool counts '^OK ' '^FAIL ' bench/count "$folder"
 }
 
-# The random user in the window of the program as ./test built it: from outside, which waits most of
-# the time, and inside.
+# The random user in the window of the program as ./test built it: inside, and from outside, which waits
+# most of the time and goes on beside what comes next.
 runWindow() {
   folder=build/debug results=build/debug/results
   startTool "random outside" tests/random/outside "$folder/shell/leafund" "$folder/tests/random/random_reference" \
@@ -77,7 +77,6 @@ runWindow() {
   runTool "random window" '^[0-9]+ sequences, ' '^seed .* diverges' \
     "$folder/tests/random/random_window" --actions 20000 --seed "$RANDOM" --jobs "$jobs"
   runLargePictures
-  finishTool "random outside" '^seed .* actions$' '^seed .* broken$'
 }
 
 # Pictures that are large, or made to take long.
@@ -88,9 +87,10 @@ runLargePictures() {
 
 runWindow
 runMany
-runTool guide '^OK ' '^FAIL ' tools/follow "A first change" "A new screen"
+runTool guide '^OK ' '^FAIL ' tools/follow --brief "A first change" "A new screen"
 installMissing package
 runTool packages '^OK ' '^FAIL ' tools/check-packages
+finishTool "random outside" '^seed .* actions$' '^seed .* broken$'
 startTool fuzz tools/fuzz all 60  # one processor's work, while the suites wait for windows and servers
 runAddressSuites
 finishTool fuzz ' 0 findings' ' [1-9][0-9]* findings'

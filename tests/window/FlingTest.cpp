@@ -152,6 +152,19 @@ TEST_F(FlingTest, TheWheelTakesOverFromAFling) {
   }
 }
 
+// And not a step later, when the place that it tells is refused.
+TEST_F(FlingTest, AFlingEndsAtOnceWhereItsListIsCovered) {
+  signIn();
+  FrameClock passing;
+  clock = &passing;
+  auto& list = app.require("table");
+  QMetaObject::invokeMethod(&list, "flick", Q_ARG(double, 0), Q_ARG(double, -1500));
+  for (int frames = 0; frames < 8; ++frames) frame();
+  ASSERT_TRUE(moving());
+  app.click(app.require("newsTab"));
+  EXPECT_FALSE(list.property("moving").toBool());
+}
+
 // It would else say for ever that it moves, and swallow the next click.
 TEST_F(FlingTest, ARightClickStopsAFling) {
   signIn();
