@@ -68,7 +68,9 @@ const bindings = {
     });
     // Another window's turn ends no editing.
     input.addEventListener("blur", () => document.hasFocus() && tell("endEditing", id));
-    input.addEventListener("input", () => tell("edit", id, ...given(encoder.encode(input.value))));
+    // Some browsers give a letter beyond the first plane by halves.
+    const edit = () => tell("edit", id, ...given(encoder.encode(input.value)));
+    input.addEventListener("input", () => (input.value.isWellFormed() ? edit() : setTimeout(edit)));
     if (input.tagName === "INPUT")
       input.addEventListener("keydown", event => {
         if (event.key !== "Enter" || event.isComposing) return;

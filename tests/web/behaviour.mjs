@@ -48,6 +48,21 @@ export const tests = {
     expect(await inFocus() === "none", `no input, not ${await inFocus()}`);
     await shown(page, "LandingPageVC");
   },
+  // As Firefox gives it for one key.
+  async aLetterThatComesByHalvesIsOne({ page, app }) {
+    const shownThen = await page.$eval("[data-view=userEmail] input", async input => {
+      input.focus();
+      for (const half of "🌱".split("")) {
+        input.value += half;
+        input.dispatchEvent(new InputEvent("input", { bubbles: true }));
+      }
+      await new Promise(done => setTimeout(done, 50));
+      return input.value;
+    });
+    expect(shownThen === "🌱", `the letter stands there, not ${shownThen}`);
+    await app.tap("signInButton");
+    expect(await app.text("userEmail") === "🌱", "and stays");
+  },
   async aSlideMakesThePageNoWider({ page }) {
     const widths = await page.evaluate(async () => {
       const seen = [];
