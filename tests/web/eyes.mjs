@@ -4,6 +4,11 @@ export const eyes = {
   // The control at a point, as words for the reference.
   whatIsAt(x, y) { return window.whatIsIn(document.elementFromPoint(x, y)); },
   whatHasFocus() { return window.whatIsIn(document.activeElement); },
+  // The focus is on the last that Tab leads to.
+  isAtLast() {
+    const all = [...document.querySelectorAll("button, input, textarea, [tabindex='0']")].filter(each => each.checkVisibility());
+    return document.activeElement === all.at(-1);
+  },
   // A point of what fits a selector, scrolled into sight where it is not, and what is there.
   pointIn(place, shareX, shareY) {
     const found = [...document.querySelectorAll(`.screen:not([hidden]) ${place}`)].filter(each => each.checkVisibility());
