@@ -32,7 +32,7 @@ Item {
         to: 1
         duration: Theme.celebrationDuration
         easing.type: Easing.OutBack
-        running: party.visible && !party.slides && !party.seen && !Desktop.lessMotion
+        running: party.visible && !party.slides && !Desktop.lessMotion
         onFinished: party.seen = true
     }
 

@@ -33,7 +33,6 @@ FocusScope {
             return;
         if (!visible)
             before = Window.activeFocusItem;
-        text.persistentSelection = true;
         rows = offered;
         menu.place = place;
         menu.offer = offer;
@@ -60,7 +59,6 @@ FocusScope {
         const text = offer.text;
         offer.open = false;
         offer = null;
-        text.persistentSelection = false;
         if (!text.activeFocus)
             text.deselect();
     }
