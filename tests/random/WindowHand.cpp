@@ -8,6 +8,8 @@
 #include <QWheelEvent>
 #include <algorithm>
 
+#include "tests/support/KeyText.h"
+
 namespace leafund::random {
 
 namespace {
@@ -69,7 +71,8 @@ void WindowHand::wheel(QPointF where, int notches) {
 
 void WindowHand::keyDown(int key, const QString& text, Qt::KeyboardModifiers modifiers,
                          bool repeated) {
-  QKeyEvent event(QEvent::KeyPress, key, modifiers, text, repeated);
+  const QString said = text.isEmpty() ? keyText(key) : text;
+  QKeyEvent event(QEvent::KeyPress, key, modifiers, said, repeated);
   event.setTimestamp(static_cast<quint64>(clock_.now()));
   QCoreApplication::sendEvent(&window_, &event);
 }

@@ -166,15 +166,14 @@ void WindowUser::clickRight(QPointF where) {
 void WindowUser::pressKeys(int key, int count, int repeats, Chance& how) {
   const Top before = top();
   bool late = lastKey_.soonAfter(hand_.now(), {}) && lastKey_.key == key;
-  const QString text = key == Qt::Key_Space ? " " : "";
   const auto modifiers = key == Qt::Key_Left ? Qt::AltModifier : Qt::NoModifier;
   for (int press = 0; press < count; ++press) {
     const auto place = top() == before ? placeInFocus(key) : Place{};
     const bool menu = menuIsOpen();
-    hand_.keyDown(key, text, modifiers);
+    hand_.keyDown(key, {}, modifiers);
     expect(place, late, "a key");
     for (int each = 0; each < repeats; ++each) {
-      hand_.keyDown(key, text, modifiers, true);
+      hand_.keyDown(key, {}, modifiers, true);
       if (how.percent(40)) hand_.frames(2, how);
       expect({}, false, "a key that is held");
     }

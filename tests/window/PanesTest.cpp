@@ -48,6 +48,7 @@ TEST_F(PanesTest, APaneWithNothingToReachIsPassedOver) {
   key(Qt::Key_Tab);
   EXPECT_EQ(after(Qt::Key_F6), "browseTab");
   EXPECT_EQ(after(Qt::Key_F6), "abc-0");
+  EXPECT_EQ(after(Qt::Key_F6, Qt::ShiftModifier), "browseTab");
 }
 
 // A ring is round what is pressed or typed into, and never round a pane of such things.

@@ -12,6 +12,7 @@
 #include "interface/qml/items/PictureItem.h"
 #include "model/Catalogue.h"
 #include "model/PictureHost.h"
+#include "tests/support/KeyText.h"
 #include "tests/support/PictureAnswers.h"
 #include "tests/support/ProjectPictures.h"
 #include "tests/support/ViewNamed.h"
@@ -150,7 +151,7 @@ void WindowApplication::typeKeys(const std::string& text) {
 void WindowApplication::press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
   pressedAt_ += 2 * static_cast<quint64>(QGuiApplication::styleHints()->mouseDoubleClickInterval());
   for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-    QKeyEvent event(type, key, modifiers);
+    QKeyEvent event(type, key, modifiers, keyText(key));
     event.setTimestamp(pressedAt_);
     QCoreApplication::sendEvent(&window(), &event);
   }
