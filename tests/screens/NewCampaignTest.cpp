@@ -54,6 +54,21 @@ TEST_F(NewCampaignTest, AllInputsEmptyMarkFiveInRedShowTheMoneyLabelAndCreateNot
   EXPECT_EQ(form->segues, Segues{});
 }
 
+TEST_F(NewCampaignTest, EachOfTheFiveIsNeeded) {
+  for (const std::shared_ptr<UITextInput>& input :
+       std::initializer_list<std::shared_ptr<UITextInput>>{
+           form->nameOfCreator.get(), form->nameOfCampaign.get(), form->shortDescription.get(),
+           form->fullDescription.get(), form->imageURL.get()}) {
+    SCOPED_TRACE(input->name());
+    fill();
+    input->setText("");
+    press();
+    EXPECT_NE(input->text(), "");
+    EXPECT_EQ(myUnfundedCampaigns().size(), 2U);
+    EXPECT_EQ(form->segues, Segues{});
+  }
+}
+
 TEST_F(NewCampaignTest, OnlyABadAmountShowsOnlyTheMoneyLabel) {
   fill("12a");
   press();

@@ -136,6 +136,16 @@ TEST_F(ComeBackTest, AFingerDrawnAlongAListThatHasEndedOpensNoRow) {
   EXPECT_EQ(app.shown()->className(), "OneCampaignViewController");
 }
 
+TEST_F(ComeBackTest, TheListGoesWhereLogicPutsIt) {
+  signIn();
+  for (const double offset : {100.0, 0.0, 250.0}) {
+    app.application->turn([&] { table().setContentOffset({0, offset}); });
+    app.settle();
+    EXPECT_EQ(shownOffset(), offset);
+    EXPECT_EQ(table().contentOffset().y, offset);
+  }
+}
+
 TEST_F(ComeBackTest, AFlingEndsWhereItsListIsCovered) {
   signIn();
   const auto& list = app.require("table");

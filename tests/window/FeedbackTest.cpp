@@ -30,8 +30,11 @@ TEST_F(FeedbackTest, AQuickTapIsSeenAtOnceAndForAWhile) {
 TEST_F(FeedbackTest, AFingerThatScrollsAListHoldsNoRow) {
   signIn();
   put({200, 400});
-  for (int y = 400; y > 340; y -= 12) drawTo({200, y});
-  for (const auto* row : {"abc-0", "abc-1", "abc-2"}) EXPECT_FALSE(is(row, "held")) << row;
+  for (int y = 400; y > 340; y -= 12) {
+    drawTo({200, y});
+    if (y > 380) continue;  // it may still be a tap
+    for (const auto* row : {"abc-0", "abc-1", "abc-2"}) EXPECT_FALSE(is(row, "held")) << row << y;
+  }
   lift({200, 340});
 }
 

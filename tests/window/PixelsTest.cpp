@@ -88,6 +88,20 @@ TEST_F(PixelsTest, APictureThatIsTakenAwayDoesNotComeLater) {
   EXPECT_EQ(colour(), QColor(Qt::white));
 }
 
+// Not even for a moment.
+TEST_F(PixelsTest, NorDoesOneThatCameAfterAnother) {
+  show(picture(Qt::blue, kSmall));
+  EXPECT_TRUE(comesToBe(Qt::blue));
+  show(picture(Qt::red, k12Megapixels));
+  colour();
+  show(nullptr);
+  colour();
+  int comings = 0;
+  QObject::connect(item_.get(), &PictureItem::hasPictureChanged, &window_, [&] { ++comings; });
+  letTheWorkerFinish();
+  EXPECT_EQ(comings, 0);
+}
+
 TEST_F(PixelsTest, OutOfSightNoPixelsAreMade) {
   show(picture(Qt::red, k12Megapixels));
   colour();
