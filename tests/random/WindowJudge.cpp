@@ -156,7 +156,7 @@ bool WindowUser::contentMoves() {
   const auto* page = app_.page();
   if (page == nullptr) return true;
   for (const auto* item : page->findChildren<QQuickItem*>()) {
-    if (item->property("moving").toBool()) return true;
+    if (isOnItsWay(*item)) return true;
   }
   return false;
 }

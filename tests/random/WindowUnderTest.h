@@ -75,4 +75,7 @@ class WindowUnderTest : public AppUnderTest, private WayInListener {
   int taps_ = 0;
 };
 
+// Whether a pane is on its way. Thrown within one frame it never moves by Qt's word, and flicks.
+bool isOnItsWay(const QQuickItem& item);
+
 }  // namespace leafund::random
