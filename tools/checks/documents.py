@@ -150,6 +150,16 @@ def usages(project):
     return found
 
 
+def guides(project):
+    """The sections of CONTRIBUTING.md that tell what to put where."""
+    text = project.text("CONTRIBUTING.md")
+    titles = [section.split("\n")[0] for section in re.split(r"^## ", text, flags=re.M)[1:] if "\n```" in section]
+    followed = subprocess.run([project.top / "tools/follow", "--edits", *titles], cwd=project.top,
+                              capture_output=True, text=True, timeout=20)
+    return [line.removeprefix("FAIL ") for line in followed.stdout.splitlines() if line.startswith("FAIL ")] or (
+        [followed.stderr.strip()] if followed.returncode else [])
+
+
 CHECKS = (
     ("documents name what exists", "correct the path", paths),
     ("documents link to what exists", "correct the link", links),
@@ -157,5 +167,6 @@ CHECKS = (
     ("documents set what exists", "correct the preset or the variable", settings),
     ("tables name tests", "name one that exists", behaviours),
     ("commands say how they are called", "take --help, and end with 2 at a word they do not know", usages),
+    ("guides name lines that are there", "correct CONTRIBUTING.md", guides),
     ("documents know the code", "correct the name of the function", functions),
 )
