@@ -16,7 +16,9 @@ void WindowUser::scroll(const Action& action, Chance& how) {
   if (!list) return;
   const double before = list->offset;
   const bool down = action.offset > before;
-  const QPointF middle(app_.window().width() / 2.0, reference_.top().y + list->height / 2);
+  const auto middle = [&] {
+    return QPointF(app_.window().width() / 2.0, reference_.top().y + list->height / 2);
+  };
   const auto by = how.below(5);
   if (by == 0) {
     const auto key = how.percent(50) ? (down ? Qt::Key_PageDown : Qt::Key_PageUp)
@@ -27,12 +29,13 @@ void WindowUser::scroll(const Action& action, Chance& how) {
     }
   } else if (by < 3) {
     for (auto count = how.between(1, 9); count > 0; --count) {
-      turnWheel(middle, down ? -1 : 1);
+      turnWheel(middle(), down ? -1 : 1);  // a new size may have come meanwhile
       hand_.frames(static_cast<int>(how.between(0, 3)), how);
     }
   } else {
     const double way = (down ? -1 : 1) * static_cast<double>(how.between(20, 300));
-    drag(middle, middle + QPointF(0, std::clamp(way, 60 - middle.y(), middle.y())), how);
+    const auto from = middle();
+    drag(from, from + QPointF(0, std::clamp(way, 60 - from.y(), from.y())), how);
   }
 }
 
