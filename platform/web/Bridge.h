@@ -33,7 +33,7 @@ LEAFUND_FROM_PAGE(wake) void wake();
 // Pixels a point.
 LEAFUND_FROM_PAGE(screenScale) double screenScale();
 
-// Unicode.h; the second answers -1 for a pattern that does not compile.
+// Unicode.h; -1 for a pattern that does not compile, or that others might read otherwise.
 LEAFUND_FROM_PAGE(equivalent)
 int equivalent(const char* a, std::size_t aSize, const char* b, std::size_t bSize);
 LEAFUND_FROM_PAGE(matches)

@@ -11,7 +11,7 @@ namespace {
 
 using namespace leafund;
 
-UIApplication& application() { return *UIApplication::current(); }
+UIApplication& app() { return *UIApplication::current(); }
 
 // Null where the view is gone or of another kind.
 template <class View>
@@ -32,36 +32,34 @@ LEAFUND_TO_PAGE(room) char* room(std::size_t size) {
   return static_cast<char*>(std::malloc(size + 1));
 }
 
-LEAFUND_TO_PAGE(tap) void tap(int id) { application().tap(WebView::viewOf(id)); }
+LEAFUND_TO_PAGE(tap) void tap(int id) { app().tap(WebView::viewOf(id)); }
 LEAFUND_TO_PAGE(beginEditing) void beginEditing(int id) {
-  application().beginEditing(viewOf<UITextInput>(id));
+  app().beginEditing(viewOf<UITextInput>(id));
 }
-LEAFUND_TO_PAGE(endEditing) void endEditing(int id) {
-  application().endEditing(viewOf<UITextInput>(id));
-}
+LEAFUND_TO_PAGE(endEditing) void endEditing(int id) { app().endEditing(viewOf<UITextInput>(id)); }
 LEAFUND_TO_PAGE(edit) void edit(int id, char* text, std::size_t size) {
-  application().edit(viewOf<UITextInput>(id), taken(text, size));
+  app().edit(viewOf<UITextInput>(id), taken(text, size));
 }
 LEAFUND_TO_PAGE(pressReturn) void pressReturn(int id) {
-  application().pressReturn(viewOf<UITextField>(id));
+  app().pressReturn(viewOf<UITextField>(id));
 }
 LEAFUND_TO_PAGE(scroll) void scroll(int id, double offset, unsigned placements) {
-  application().scroll(viewOf<UITableView>(id), offset, placements);
+  app().scroll(viewOf<UITableView>(id), offset, placements);
 }
-LEAFUND_TO_PAGE(goBack) void goBack() { application().goBack(); }
+LEAFUND_TO_PAGE(goBack) void goBack() { app().goBack(); }
 LEAFUND_TO_PAGE(resize) void resize(double width, double height, double rail) {
-  application().resize({width, height}, rail);
+  app().resize({width, height}, rail);
 }
 
-LEAFUND_TO_PAGE(resignActive) void resignActive() { application().resignActive(); }
-LEAFUND_TO_PAGE(enterBackground) void enterBackground() { application().enterBackground(); }
-LEAFUND_TO_PAGE(enterForeground) void enterForeground() { application().enterForeground(); }
-LEAFUND_TO_PAGE(becomeActive) void becomeActive() { application().becomeActive(); }
-LEAFUND_TO_PAGE(terminate) void terminate() { application().terminate(); }
+LEAFUND_TO_PAGE(resignActive) void resignActive() { app().resignActive(); }
+LEAFUND_TO_PAGE(enterBackground) void enterBackground() { app().enterBackground(); }
+LEAFUND_TO_PAGE(enterForeground) void enterForeground() { app().enterForeground(); }
+LEAFUND_TO_PAGE(becomeActive) void becomeActive() { app().becomeActive(); }
+LEAFUND_TO_PAGE(terminate) void terminate() { app().terminate(); }
 
 LEAFUND_TO_PAGE(drain) void drain() { WebHost::shared().drain(); }
 LEAFUND_TO_PAGE(body) void body(int fetch, char* bytes, std::size_t size, int status) {
   WebHost::shared().complete(fetch, std::make_shared<const std::string>(taken(bytes, size)),
                              status);
 }
-LEAFUND_TO_PAGE(failed) void failed(int fetch) { WebHost::shared().fail(fetch); }
+LEAFUND_TO_PAGE(failed) void failed(int fetch) { WebHost::shared().complete(fetch, nullptr); }

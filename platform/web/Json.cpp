@@ -3,8 +3,6 @@
 #include <array>
 #include <cstdio>
 
-#include "platform/foundation/Diagnostics.h"
-
 namespace leafund {
 
 Json& Json::text(std::string_view name, std::string_view value) {
@@ -22,13 +20,7 @@ Json& Json::number(std::string_view name, double value) {
   return *this;
 }
 
-Json& Json::integer(std::string_view name, std::ptrdiff_t value) {
-  begin(name);
-  text_ += decimalText(value);
-  return *this;
-}
-
-Json& Json::flag(std::string_view name, bool value) { return value ? integer(name, 1) : *this; }
+Json& Json::flag(std::string_view name, bool value) { return value ? number(name, 1) : *this; }
 
 Json& Json::member(std::string_view name, const Json& value) {
   begin(name);

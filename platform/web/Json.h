@@ -13,7 +13,6 @@ class Json {
 
   Json& text(std::string_view name, std::string_view value);
   Json& number(std::string_view name, double value);
-  Json& integer(std::string_view name, std::ptrdiff_t value);
   // What does not hold is left out.
   Json& flag(std::string_view name, bool value);
   Json& member(std::string_view name, const Json& value);

@@ -24,24 +24,9 @@ std::string css(const CGColor& color) {
   return text.data();
 }
 
-// The words that HTML has for them.
-const char* inputMode(UIKeyboardType keyboard) {
-  switch (keyboard) {
-    case UIKeyboardType::EmailAddress:
-      return "email";
-    case UIKeyboardType::DecimalPad:
-      return "decimal";
-    case UIKeyboardType::URL:
-      return "url";
-    case UIKeyboardType::Default:
-      break;
-  }
-  return "text";
-}
-
 void readInput(const UITextInput& input, Json& json) {
   json.text("text", input.text()).text("placeholder", input.placeholder());
-  json.text("mode", inputMode(input.keyboardType())).flag("editing", input.editing());
+  json.number("keyboard", static_cast<int>(input.keyboardType())).flag("editing", input.editing());
   json.flag("message", input.showsMessage());
   json.flag("wrong", input.textColor() != UIColor::blackColor());
   if (input.kind() == ViewKind::TextField) {
@@ -56,8 +41,7 @@ void readTab(const UITabBarItem& tab, Json& json) {
 
 void readTable(const UITableView& table, Json& json) {
   json.number("height", table.contentHeight()).number("offset", table.contentOffset().y);
-  json.integer("placements", static_cast<std::ptrdiff_t>(table.placements()));
-  json.number("width", table.frame().width);
+  json.number("placements", table.placements()).number("width", table.frame().width);
   // Not with every step of a scroll.
   if (table.contentHeight() > 0) return;
   json.text("emptyHeading", table.emptyWords().heading);
@@ -111,8 +95,7 @@ void readKind(const UIView& view, Json& json) {
 
 Json jsonOf(const CardLook& card) {
   Json json = Json::object();
-  json.number("x", card.frame.x).number("y", card.frame.y);
-  json.number("width", card.frame.width).number("height", card.frame.height);
+  json.number("x", card.frame.x).number("y", card.frame.y).number("height", card.frame.height);
   json.number("radius", card.layer.cornerRadius());
   const auto shadow = card.layer.shadowOffset();
   json.number("shadowX", shadow.width).number("shadowY", shadow.height);

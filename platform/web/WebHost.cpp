@@ -46,22 +46,14 @@ void WebHost::transfer(const NSURLRequest& request, CompletionHandler completion
               static_cast<double>(NSURLSession::kMostBodyBytes));
 }
 
-void WebHost::complete(int fetch, NSData body, int status) {
-  if (auto completion = take(fetch)) {
-    runInSession([&] { completion(std::move(body), NSURLResponse{status}, std::nullopt); });
-  }
-}
-
-// Why, the browser tells nobody but its own console.
-void WebHost::fail(int fetch) {
-  if (auto completion = take(fetch)) {
-    runInSession([&] { completion(nullptr, std::nullopt, NSError{"no whole answer came"}); });
-  }
-}
-
-CompletionHandler WebHost::take(int fetch) {
-  auto found = fetches_.extract(fetch);
-  return found ? std::move(found.mapped()) : nullptr;
+void WebHost::complete(int fetch, const NSData& body, int status) {
+  const auto found = fetches_.extract(fetch);
+  if (!found) return;
+  runInSession([&] {
+    if (body) return found.mapped()(body, NSURLResponse{status}, std::nullopt);
+    // Why, the browser tells nobody but its own console.
+    found.mapped()(nullptr, std::nullopt, NSError{"no whole answer came"});
+  });
 }
 
 void WebHost::runInSession(const std::function<void()>& work) {
@@ -77,8 +69,8 @@ void WebHost::show(const UINavigationController& navigation) {
       navigation, [](UIViewController& screen) { return std::make_unique<WebScene>(screen, 0); });
   const auto& top = *navigation.topViewController();
   Json json = Json::object();
-  json.integer("scene", change.shown.id()).integer("child", change.shown.childFor(top));
-  json.integer("depth", static_cast<std::ptrdiff_t>(navigation.viewControllers().size()));
+  json.number("scene", change.shown.id()).number("child", change.shown.childFor(top));
+  json.number("depth", navigation.viewControllers().size());
   json.text("title", navigation.barTitle(top)).flag("bar", navigation.showsBar(top));
   json.flag("back", navigation.canGoBack(top));
   json.text("backLabel", UINavigationController::kBackLabel);

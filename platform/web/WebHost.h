@@ -34,15 +34,13 @@ class WebHost final : public Host {
   }
   // Runs the steps that wait, each as one turn; those they post wait for the next call.
   void drain();
-  // The end of a fetch.
-  void complete(int fetch, NSData body, int status);
-  void fail(int fetch);
+  // The end of a fetch; without a body where no whole answer came.
+  void complete(int fetch, const NSData& body, int status = 0);
   // Runs the work as the session would, outside any turn and not on the main thread.
   void runInSession(const std::function<void()>& work);
 
  private:
   WebHost() { setCurrentHost(this); }
-  CompletionHandler take(int fetch);
 
   CGSize size_;
   double railWidth_ = 0;

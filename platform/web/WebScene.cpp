@@ -10,10 +10,10 @@ WebScene::WebScene(UIViewController& controller, int place) {
   id_ = ++last;
   Json views = Json::object();
   views_.push_back(std::make_unique<WebView>(controller.view()));
-  views.integer("root", views_.back()->id());
+  views.number("root", views_.back()->id());
   for (const auto& view : namedViews(controller)) {
     views_.push_back(std::make_unique<WebView>(view));
-    views.integer(view->name(), views_.back()->id());
+    views.number(view->name(), views_.back()->id());
   }
   Json scene = Json::object();
   scene.text("name", controller.className()).member("views", views);

@@ -68,7 +68,7 @@ void WebView::showRows(const UITableView& table, Json& look) {
   for (const auto& [row, cell] : table.visibleCells()) {
     takeCell(cell);
     Json one = Json::list();
-    one.integer("", row).integer("", cells_[cell.get()]->id());
+    one.number("", row).number("", cells_[cell.get()]->id());
     one.number("", cell->frame().y).number("", cell->frame().height);
     rows.member("", one);
   }
@@ -83,7 +83,7 @@ void WebView::takeCell(const std::shared_ptr<UIView>& cell) {
   for (const auto& part : partsOf(static_cast<const UITableViewCell&>(*cell))) {
     own->parts_.push_back(std::make_unique<WebView>(part.view));
     own->parts_.back()->laysCards_ = part.view->kind() == ViewKind::Plain;
-    parts.integer(part.name, own->parts_.back()->id());
+    parts.number(part.name, own->parts_.back()->id());
   }
   const auto json = parts.whole();
   page::cell(id_, own->id(), json.data(), json.size());

@@ -81,7 +81,7 @@ const bindings = {
     let announced = "";
     return look => {
       caption.textContent = look.placeholder;
-      input.inputMode = look.mode;
+      input.inputMode = ["text", "email", "decimal", "url"][look.keyboard];
       if (input.tagName === "INPUT") input.type = look.masked ? "password" : "text";
       if (input.value !== look.text) input.value = look.text;
       input.ariaInvalid = String(!!look.wrong);
@@ -303,6 +303,11 @@ addEventListener("keydown", event => startPress(event.repeat, event), true);
 const wakeUp = new MessageChannel();
 wakeUp.port1.onmessage = () => tell("drain");
 
+// The patterns that this dialect reads as the other hosts' does: what escapes a mark, sets that are no
+// reckoning with sets, groups without a name, counts that may give back, and what stands for itself.
+const readAlike =
+  /^(?:\\[.*+?^$|()[\]{}/-]|\[\^?(?:\\[.*+?^$|()[\]{}/-]|&(?!&)|-(?!-)|[^\\[\]&-])+\]|\((?!\?(?!:))|[*+?}](?!\+)|[^\\[.(*+?}])*$/u;
+
 const imports = {
   scene(id, place, at, size) {
     const { name, views: numbers } = jsonAt(at, size), template = by(name);
@@ -374,7 +379,11 @@ const imports = {
   },
   matches(pattern, patternSize, text, size) {
     let expression;
-    try { expression = new RegExp(`^(?:${strict.decode(bytes(pattern, patternSize))})$`, "u"); } catch { return -1; }
+    try {
+      const read = strict.decode(bytes(pattern, patternSize));
+      if (!readAlike.test(read)) return -1;
+      expression = new RegExp(`^(?:${read})$`, "u");
+    } catch { return -1; }
     try { return expression.test(strict.decode(bytes(text, size))) ? 1 : 0; } catch { return 0; }
   },
 };
