@@ -1,5 +1,17 @@
-import { start } from "./page.js";
+// Begins, and says so where that fails.
+const stopped = document.getElementById("stopped");
+stopped.querySelector("button").addEventListener("click", () => stopped.close());
+stopped.addEventListener("close", () => location.reload());
 
-document.querySelector("#stopped button").addEventListener("click", () => location.reload());
-await start(fetch("leafund.wasm"));
+try {
+  const { start } = await import("./page.js");
+  await start(fetch("leafund.wasm"));
+} catch (error) {
+  if (!stopped.open) {
+    stopped.querySelector("h2").textContent = "Leafund could not start";
+    stopped.querySelector("p").textContent = "It did not come whole. Is there a network?";
+    stopped.showModal();
+  }
+  throw error;
+}
 navigator.serviceWorker?.register("worker.js");

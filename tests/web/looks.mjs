@@ -19,14 +19,29 @@ function difference(one, other) {
   return status > 1 ? Infinity : Number(stderr);
 }
 
-const looksAsApproved = (name, width, height, scheme) => async ({ page, app }) => {
+// It blinks.
+export const stillCaret = page => page.evaluate(() => {
+  const still = new CSSStyleSheet();
+  still.replaceSync("* { caret-color: transparent !important; }");
+  document.adoptedStyleSheets = [still];
+});
+
+// What is shown now, held to that approved picture: says how many pixels differ, or nothing.
+export async function judge(page, file) {
+  const now = path.join(seen, file), wanted = path.join(approved, file);
+  await page.screenshot({ path: now });
+  execFileSync("convert", [now, "-strip", "-define", "png:exclude-chunks=date,time", now]);
+  if (process.env.LEAFUND_APPROVE) fs.copyFileSync(now, wanted);
+  const pixels = fs.existsSync(wanted) ? difference(wanted, now) : Infinity;
+  const { width, height } = page.viewport();
+  return pixels > most * width * height ? `${file}: ${pixels} pixels` : "";
+}
+
+const looksAsApproved = (name, width, height, scheme, slower = 1) => async ({ page, app }) => {
   await page.setViewport({ ...page.viewport(), width, height });
   await page.emulateMediaFeatures([{ name: "prefers-color-scheme", value: scheme }]);
-  await page.evaluate(() => {  // the caret blinks
-    const still = new CSSStyleSheet();
-    still.replaceSync("* { caret-color: transparent !important; }");
-    document.adoptedStyleSheets = [still];
-  });
+  await page.emulateCPUThrottling(slower);
+  await stillCaret(page);
   const changed = [];
   let number = 0;
   await walk(app, async (scene, state) => {
@@ -34,19 +49,15 @@ const looksAsApproved = (name, width, height, scheme) => async ({ page, app }) =
     await page.waitForNetworkIdle({ idleTime: 100 });
     await page.waitForFunction(() => [...document.images].every(each => each.complete));
     await rest(page);
-    const file = `${name}-${[String(++number).padStart(2, "0"), scene, state].filter(Boolean).join("-")}.png`;
-    const now = path.join(seen, file), wanted = path.join(approved, file);
-    await page.screenshot({ path: now });
-    execFileSync("convert", [now, "-strip", "-define", "png:exclude-chunks=date,time", now]);
-    if (process.env.LEAFUND_APPROVE) return fs.copyFileSync(now, wanted);
-    const pixels = fs.existsSync(wanted) ? difference(wanted, now) : Infinity;
-    if (pixels > most * width * height) changed.push(`${file}: ${pixels} pixels`);
+    const different = await judge(page, `${name}-${[String(++number).padStart(2, "0"), scene, state].filter(Boolean).join("-")}.png`);
+    if (different) changed.push(different);
   });
   expect(changed.length === 0, `it looks as approved, but\n     ${changed.join("\n     ")}`);
 };
 
 export const tests = {
   asApprovedByDay: looksAsApproved("390x844", 390, 844, "light"),
+  asApprovedSixTimesSlower: looksAsApproved("390x844", 390, 844, "light", 6),
   asApprovedByNight: looksAsApproved("390x844-night", 390, 844, "dark"),
   asApprovedInLandscape: looksAsApproved("844x390", 844, 390, "light"),
   asApprovedOnADesktop: looksAsApproved("1280x800", 1280, 800, "light"),
