@@ -56,7 +56,10 @@ void WebView::refresh() {
     look.member("cards", jsonOf(cards_));
   }
   auto json = look.whole();
-  if (json != told_) {
+  // A message may come once more.
+  const bool speaks = view->kind() == ViewKind::Label || view->kind() == ViewKind::TextField ||
+                      view->kind() == ViewKind::TextView;
+  if (speaks || json != told_) {
     told_ = std::move(json);
     page::look(id_, told_.data(), told_.size());
   }

@@ -47,6 +47,15 @@ function writeText(element, look) {
   element.prepend(label);
 }
 
+// Read out at once, and then in nobody's way.
+function say(message) {
+  const text = document.createTextNode(`${message}. `);
+  by("said").append(text);
+  setTimeout(() => text.remove(), 2_000);
+}
+
+const markWrong = input => { input.ariaInvalid = String(!!(input.message || input.refused)); };
+
 // What a message has just come for; of several the topmost.
 let told = null;
 function bringIntoSight(element) {
@@ -64,7 +73,7 @@ const bindings = {
     const input = element.querySelector("input, textarea"), caption = element.querySelector("span");
     input.addEventListener("focus", () => {
       tell("beginEditing", id);
-      if (input.value && input.ariaInvalid === "true") input.select();
+      if (input.message) input.select();
     });
     // Another window's turn ends no editing.
     input.addEventListener("blur", () => document.hasFocus() && tell("endEditing", id));
@@ -78,19 +87,23 @@ const bindings = {
         if (input.enterKeyHint === "next") inputAfter(input).focus();
         if (input.enterKeyHint === "done") input.blur();
       });
-    let announced = "";
+    let announced = "", editing = false;
     return look => {
       caption.textContent = look.placeholder;
       input.inputMode = ["text", "email", "decimal", "url"][look.keyboard];
       if (input.tagName === "INPUT") input.type = look.masked ? "password" : "text";
       if (input.value !== look.text) input.value = look.text;
-      input.ariaInvalid = String(!!look.wrong);
-      const message = look.message ? look.text : "";
-      if (message && message !== announced) {
-        by("said").append(`${look.placeholder}: ${message}. `);
+      input.classList.toggle("wrong", !!look.wrong);
+      input.message = !!look.message;
+      markWrong(input);
+      // It may come once more; that the user enters or leaves is no news of it.
+      const message = look.message ? look.text : "", entered = editing !== !!look.editing;
+      if (message && (message !== announced || !entered)) {
+        say(`${look.placeholder}: ${message}`);
         bringIntoSight(element);
       }
       announced = message;
+      editing = !!look.editing;
       if (!look.editing && document.activeElement === input) input.blur();
     };
   },
@@ -111,6 +124,8 @@ const bindings = {
       writeText(element, look);
       if (!input) return;
       input.ariaDescription = look.hidden ? "" : look.text;
+      input.refused = !look.hidden;
+      markWrong(input);
       if (!look.hidden) bringIntoSight(element.parentElement);
     };
   },
@@ -284,7 +299,7 @@ addEventListener("popstate", () => {
 // What was typed into the screen shown would be lost.
 addEventListener("beforeunload", event => {
   const typed = [...shown?.element.querySelectorAll("input, textarea") ?? []]
-    .some(input => input.value && input.ariaInvalid !== "true");
+    .some(input => input.value && !input.message);
   if (typed && program) event.preventDefault();
 });
 
