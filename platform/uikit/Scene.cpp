@@ -107,6 +107,7 @@ UIButton& SceneBase::buttonOnTab(const std::string& tabName, std::string name, s
 UIImageView& SceneBase::illustration(std::string name, std::string description) {
   auto picture = std::make_shared<UIImageView>();
   picture->setAccessibilityLabel(std::move(description));
+  picture->setContentMode(UIViewContentMode::ScaleAspectFill);
   place(picture, std::move(name));
   return *picture;
 }

@@ -43,8 +43,6 @@ View picture(std::string name) {
   return {.kind = ViewKind::Picture, .name = std::move(name), .fillsByCutting = true};
 }
 
-View illustration(std::string name) { return {.kind = ViewKind::Picture, .name = std::move(name)}; }
-
 View tab(std::string name) { return {.kind = ViewKind::Tab, .name = std::move(name)}; }
 
 View hidden(View view) {
@@ -76,9 +74,9 @@ std::vector<View> home() {
 
 std::vector<View> news() {
   return {
-      illustration("rideStoryPicture"),    label("rideStoryTitle"),    label("rideStoryText"),
-      illustration("compostStoryPicture"), label("compostStoryTitle"), label("compostStoryText"),
-      illustration("pledgeStoryPicture"),  label("pledgeStoryTitle"),  label("pledgeStoryText"),
+      picture("rideStoryPicture"),    label("rideStoryTitle"),    label("rideStoryText"),
+      picture("compostStoryPicture"), label("compostStoryTitle"), label("compostStoryText"),
+      picture("pledgeStoryPicture"),  label("pledgeStoryTitle"),  label("pledgeStoryText"),
   };
 }
 
