@@ -3,6 +3,8 @@ const stopped = document.getElementById("stopped");
 stopped.querySelector("button").addEventListener("click", () => stopped.close());
 stopped.addEventListener("close", () => location.reload());
 
+if (/^(ar|fa|he|ur|yi)\b/.test(navigator.language)) document.documentElement.dir = "rtl";
+
 try {
   const { start } = await import("./page.js");
   await start(fetch("leafund.wasm"));

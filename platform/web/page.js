@@ -79,7 +79,14 @@ const bindings = {
     input.addEventListener("blur", () => document.hasFocus() && tell("endEditing", id));
     // Some browsers give a letter beyond the first plane by halves.
     const edit = () => tell("edit", id, ...given(encoder.encode(input.value)));
-    input.addEventListener("input", () => (input.value.isWellFormed() ? edit() : setTimeout(edit)));
+    input.addEventListener("input", () => (/\p{Surrogate}/u.test(input.value) ? setTimeout(edit) : edit()));
+    // Where people write sums with a comma, a phone's keyboard for numbers has no point.
+    input.addEventListener("beforeinput", event => {
+      if (event.data !== "," || input.inputMode !== "decimal" || !matchMedia("(pointer: coarse)").matches) return;
+      event.preventDefault();
+      input.setRangeText(".", input.selectionStart, input.selectionEnd, "end");
+      edit();
+    });
     if (input.tagName === "INPUT")
       input.addEventListener("keydown", event => {
         if (event.key !== "Enter" || event.isComposing) return;
@@ -129,9 +136,19 @@ const bindings = {
       if (!look.hidden) bringIntoSight(element.parentElement);
     };
   },
-  NAV: element => look => {
-    element.ariaLabel = look.label;
-    element.style.setProperty("--tint", look.tint);
+  NAV(element) {
+    element.addEventListener("keydown", event => {
+      const mirrored = getComputedStyle(element).direction === "rtl" ? -1 : 1;
+      const step = { ArrowDown: 1, ArrowUp: -1, ArrowRight: mirrored, ArrowLeft: -mirrored }[event.key];
+      if (!step || event.altKey) return;
+      event.preventDefault();
+      const tabs = [...element.querySelectorAll("[role=tab]")];
+      tabs[tabs.indexOf(document.activeElement) + step]?.focus();
+    });
+    return look => {
+      element.ariaLabel = look.label;
+      element.style.setProperty("--tint", look.tint);
+    };
   },
   PROGRESS: element => look => {
     if (look.from !== look.value) {
@@ -149,10 +166,18 @@ const bindings = {
   },
   UL: bindTable,
   LI(element, id) {
+    fitting.observe(element.querySelector(".title"));
     element.firstElementChild.addEventListener("click", () => tell("tap", id));
     return () => {};
   },
 };
+
+// A row's pitch has what its title leaves, in whole lines.
+const wordsHeight = 125;  // px
+const fitting = new ResizeObserver(changes => {
+  for (const { target: { offsetHeight, nextElementSibling: detail } } of changes)
+    detail.style.webkitLineClamp = Math.floor((wordsHeight - offsetHeight) / parseFloat(getComputedStyle(detail).lineHeight));
+});
 
 function bind(id, element) {
   const draw = (bindings[element.tagName] ?? (() => look => writeText(element, look)))(element, id);
@@ -165,7 +190,7 @@ const tallest = 16_000_000;  // px; browsers lay out no more than 33 million
 
 function bindTable(element, id) {
   const space = element.parentElement, box = space.parentElement, empty = box.nextElementSibling;
-  let look = { height: 0, placements: -1 }, shift = 0, last = 0;
+  let look = { height: 0, placements: -1 }, shift = 0, last = 0, rowOf = new Map();
   const reach = () => Math.max(0, look.height - box.clientHeight);
   const travel = () => Math.max(0, Math.min(look.height, tallest) - box.clientHeight);
   // What is taller than an element can be is scrolled point by point, at a shift; the shift is set anew
@@ -195,6 +220,8 @@ function bindTable(element, id) {
     empty.firstElementChild.textContent = look.emptyHeading ?? "";
     empty.lastElementChild.textContent = look.emptySentence ?? "";
     if (placed) place(look.offset);
+    const held = element.contains(document.activeElement) && document.activeElement.closest("li"), had = rowOf;
+    rowOf = new Map();
     let before = null;
     for (const [row, cell, top, height] of look.rows) {
       const item = views.get(cell).element;
@@ -202,11 +229,15 @@ function bindTable(element, id) {
       item.style.height = `${height}px`;
       item.ariaPosInSet = String(row + 1);
       item.ariaSetSize = String(Math.round(look.height / height));
-      // In reading order; what stands there already is not moved, and so keeps the focus.
-      const there = before ? before.nextElementSibling : element.firstElementChild;
-      if (there !== item) element.insertBefore(item, there);
-      before = item;
+      // In reading order; what stays is not moved, and so keeps the focus.
+      rowOf.set(item, row);
+      if (had.get(item) === row) before = item;
+      else before = element.insertBefore(item, before ? before.nextElementSibling : element.firstElementChild);
     }
+    // The row in focus has gone out of sight: its nearest neighbour takes it, once all are drawn.
+    if (!held || rowOf.get(held) === had.get(held)) return;
+    const rows = [...rowOf.keys()], neighbour = rows.at(had.get(held) < rowOf.get(rows[0]) ? 1 : -2) ?? rows[0];
+    queueMicrotask(() => neighbour?.firstElementChild.focus({ preventScroll: true }));
   };
 }
 
@@ -230,18 +261,20 @@ async function still(blob) {
   return canvas.convertToBlob();
 }
 
-// What was drawn before stays until the new picture is ready.
+// What was drawn before stays until the new picture is ready; the browser keeps its pixels, and no more.
 async function setPicture(image, blob) {
   const turn = image.turn = {};
   if (blob && blob.type !== "image/jpeg") blob = await still(blob).catch(() => null);
   if (image.turn !== turn) return;
-  const old = image.src;
-  const forget = () => { if (old.startsWith("blob:")) URL.revokeObjectURL(old); };
-  image.onload = forget;
-  image.onerror = () => { forget(); image.removeAttribute("src"); };
-  if (blob) return void (image.src = URL.createObjectURL(blob));
-  image.removeAttribute("src");
-  forget();
+  URL.revokeObjectURL(image.src);
+  image.onerror = () => image.removeAttribute("src");
+  if (blob) image.src = URL.createObjectURL(blob);
+  else image.removeAttribute("src");
+}
+
+function forgetPicture(image) {
+  image.turn = null;
+  URL.revokeObjectURL(image.src);
 }
 
 // --- Fetching, within the session's limits. The browser itself follows at most 20 redirects.
@@ -310,8 +343,26 @@ function startPress(goesOn, event) {
   if (!goesOn) pressedOn = shown?.element;
   else if (pressedOn !== shown?.element) { event.preventDefault(); event.stopImmediatePropagation(); }
 }
-addEventListener("click", event => startPress(event.detail > 1, event), true);
 addEventListener("keydown", event => startPress(event.repeat, event), true);
+
+// Of fingers many browsers count single taps alone.
+let lastClick = null;
+addEventListener("click", event => {
+  const { detail, timeStamp, clientX, clientY } = event, before = lastClick;
+  if (detail > 0) lastClick = { timeStamp, clientX, clientY };  // and no key's
+  startPress(detail > 1 || (detail > 0 && before && timeStamp - before.timeStamp < 400 &&
+    Math.hypot(clientX - before.clientX, clientY - before.clientY) < 24), event);
+}, true);
+
+// Where the pointer went down: who selects text may let go of it elsewhere.
+let downOn = null;
+addEventListener("pointerdown", event => { downOn = event.target; }, true);
+
+// The keys that scroll do so wherever on a screen the focus is.
+addEventListener("keydown", ({ key, target }) => {
+  if (!/^(Page|Home|End|Arrow(Up|Down)| )/.test(key) || target.closest("main, nav") || (key === " " && target.closest("button"))) return;
+  [...shown?.element.querySelectorAll("main") ?? []].find(isSeen)?.focus({ preventScroll: true });
+}, true);
 
 // --- What the program imports.
 
@@ -340,9 +391,10 @@ const imports = {
       if (found.length === 1) bind(number, found[0]);
       else if (view !== "root") console.error(`${name} has ${found.length} elements for ${view}`);
     }
+    for (const pane of element.querySelectorAll("main:not([tabindex])")) pane.tabIndex = -1;
     // What no control takes for itself goes to the screen.
     element.addEventListener("click", event => {
-      if (!event.target.closest("button, label, li")) tell("tap", numbers.root);
+      if (![event.target, downOn ?? event.target].some(each => each.closest("button, label, li"))) tell("tap", numbers.root);
       event.stopPropagation();
     });
     scenes.set(id, element);
@@ -350,7 +402,8 @@ const imports = {
   },
   endScene(id) { scenes.get(id).remove(); scenes.delete(id); },
   show(at, size) {
-    const look = jsonAt(at, size), element = scenes.get(look.scene);
+    const look = jsonAt(at, size), element = scenes.get(look.scene), focus = document.activeElement;
+    if (shown?.element !== element && shown?.element.contains(focus)) shown.element.left = focus.closest("button");
     for (const [id, scene] of scenes) scene.hidden = scene.inert = id !== look.scene && id !== look.child;
     const header = element.querySelector("header"), back = header.querySelector(".back");
     header.hidden = !look.bar;
@@ -382,7 +435,11 @@ const imports = {
     const blob = size ? new Blob([bytes(at, size).slice()], { type }) : null;
     if (views.has(id)) setPicture(views.get(id).element, blob);
   },
-  endView(id) { views.delete(id); },
+  endView(id) {
+    const element = views.get(id)?.element;
+    if (element?.tagName === "IMG") forgetPicture(element);
+    views.delete(id);
+  },
   fetch(id, at, size, idleSeconds, mostBytes) { download(id, textAt(at, size), idleSeconds, mostBytes); },
   wake() { wakeUp.port2.postMessage(0); },
   screenScale: () => devicePixelRatio,
@@ -403,12 +460,16 @@ const imports = {
   },
 };
 
-// The new screen slides in; the keyboard and the reader begin at what it is about.
+const isSeen = element => element.getClientRects().length > 0;
+
+// The new screen slides in; the keyboard and the reader begin at what it is about, or where they left it.
 function enter(element, forward) {
   const calm = matchMedia("(prefers-reduced-motion: reduce)").matches;
-  const from = calm ? { opacity: 0 } : { translate: `${(forward ? 100 : -33) * (element.matches(":dir(rtl)") ? -1 : 1)}% 0` };
+  const mirrored = getComputedStyle(element).direction === "rtl";
+  const from = calm ? { opacity: 0 } : { translate: `${(forward ? 100 : -33) * (mirrored ? -1 : 1)}% 0` };
   element.animate([from, {}], { duration: calm ? 100 : 200, easing: "ease-out" });
-  [...element.querySelectorAll("h1")].find(each => each.checkVisibility())?.focus({ preventScroll: true });
+  const left = forward ? [] : [element.left];
+  [...left, ...element.querySelectorAll("h1")].find(each => each && isSeen(each))?.focus({ preventScroll: true });
 }
 
 // --- The little that the C library asks for: two streams, each line of them on the console.

@@ -2,7 +2,7 @@
 import fs from "node:fs";
 import { serve } from "./server.mjs";
 import { expect } from "./testing.mjs";
-import { pressBack, shown } from "./verbs.mjs";
+import { pressBack, rest, shown, verbsFor } from "./verbs.mjs";
 
 export const tests = {
   async everyViewHasItsOneElement({ page, app, errors }) {
@@ -26,7 +26,7 @@ export const tests = {
     const line = await page.$eval("#stopped p", each => each.textContent);
     expect(line.startsWith("Leafund stopped: "), `it says why, not: ${line}`);
     expect(errors.includes(line), "the line is on the console");
-    await page.tap("#stopped button");
+    await page.keyboard.press("Escape");  // as Back does, on a phone
     await shown(page, "LandingPageVC");
     await page.waitForFunction(() => !document.getElementById("stopped").open);
   },
@@ -38,6 +38,87 @@ export const tests = {
     await page.mouse.click(x + 60, y + 150, { count: 2 });
     await shown(page, "OneCampaignViewController");
     expect(await page.evaluate(() => window.taps) === 1, "one click alone gets through");
+  },
+  // Which browsers of phones count as two taps.
+  async norDoesAFingersSecondTapConfirmWhatItDidNotSee({ page, app }) {
+    await app.signIn();
+    await app.tapRow(0);
+    await shown(page, "OneCampaignViewController");
+    await app.type("dollarAmountField", "80");
+    const clicks = await page.evaluate(async () => {
+      const button = document.querySelector("[data-view=FundButton]"), { x, y } = button.getBoundingClientRect();
+      const click = () => document.elementFromPoint(x + 9, y + 9).dispatchEvent(
+        new MouseEvent("click", { bubbles: true, cancelable: true, detail: 1, clientX: x + 9, clientY: y + 9 }));
+      let heard = 0;
+      document.getElementById("screens").addEventListener("click", () => ++heard, true);
+      click();
+      await new Promise(done => setTimeout(done, 250));
+      click();
+      return heard;
+    });
+    await shown(page, "ConfirmPageVC");
+    expect(clicks === 1, `one tap, and not ${clicks}`);
+  },
+  async textSelectedBeyondItsBoxIsNoTapBesideIt({ page, app }) {
+    await app.signIn();
+    await app.tap("mineTab");
+    await app.tap("newButton");
+    await shown(page, "NewCampaignVC");
+    await app.type("nameOfCreator", "wren@example.org");
+    const { x, y } = await page.$eval("[data-view=nameOfCreator] input", each => each.getBoundingClientRect().toJSON());
+    await page.mouse.move(x + 60, y + 10);
+    await page.mouse.down();
+    await page.mouse.move(5, y - 20, { steps: 4 });
+    await page.mouse.up();
+    const input = await page.$eval("[data-view=nameOfCreator] input", each => [document.activeElement === each, each.selectionEnd - each.selectionStart]);
+    expect(input[0] && input[1] > 2, `the user goes on in the input: ${input}`);
+  },
+  async picturesOfScreensThatWereLeftAreLetGo({ page, app }) {
+    await page.evaluate(() => {
+      window.held = new Set();
+      const { createObjectURL, revokeObjectURL } = URL;
+      URL.createObjectURL = blob => { const name = createObjectURL.call(URL, blob); window.held.add(name); return name; };
+      URL.revokeObjectURL = name => { window.held.delete(name); revokeObjectURL.call(URL, name); };
+    });
+    await app.signIn();
+    await shown(page, "OtherCampaignsTableViewController");
+    await page.waitForNetworkIdle({ idleTime: 200 });
+    const before = await page.evaluate(() => window.held.size);
+    for (let time = 0; time < 3; ++time) {
+      await app.tapRow(time);
+      await shown(page, "OneCampaignViewController");
+      await page.waitForNetworkIdle({ idleTime: 200 });
+      expect(await page.evaluate(() => window.held.size) > before, "its picture is shown");
+      await pressBack(page);
+      await shown(page, "OtherCampaignsTableViewController");
+    }
+    const after = await page.evaluate(() => window.held.size);
+    expect(after === before, `no more than the ${before} of the rows, and not ${after}`);
+  },
+  async aRowEndsInAWholeLine({ page, app, pictures }) {
+    await app.signIn();
+    await app.tap("mineTab");
+    await app.tap("newButton");
+    await shown(page, "NewCampaignVC");
+    const texts = { nameOfCreator: "Wren", nameOfCampaign: "A rain barrel under each and every gutter of our long street",
+      shortDescription: "water for the beds ".repeat(9), fullDescription: "All of it.", desiredFunding: "100",
+      imageURL: `${pictures.address}/biking-to-work.jpg`, emailInvite: "robin@example.org" };
+    for (const [name, text] of Object.entries(texts)) await app.type(name, text);
+    await app.tap("createButton");
+    await shown(page, "ThankYouVC");
+    await app.tap("homeButton");
+    await app.tap("mineTab");
+    await shown(page, "MyProfileVC");
+    for (const size of [16, 20, 32]) {
+      await page.evaluate(size => { document.documentElement.style.fontSize = `${size}px`; }, size);
+      await rest(page);
+      const { title, detail, line } = await page.$$eval(".screen:not([hidden]) .detail", all => {
+        const detail = all.find(each => each.textContent.startsWith("water"));
+        return { title: detail.previousElementSibling.offsetHeight, detail: detail.offsetHeight, line: parseFloat(getComputedStyle(detail).lineHeight) };
+      });
+      expect(title + detail <= 126 && Math.abs(detail / line - Math.round(detail / line)) < 0.1 && detail >= line - 1,
+        `at ${size} px whole lines in 129: ${title} and ${detail} of ${line}`);
+    }
   },
   async returnLeadsFromInputToInputAndEndsInTheLast({ page, app }) {
     const inFocus = () => page.evaluate(() => document.activeElement.closest("[data-view]")?.dataset.view ?? "none");
@@ -62,6 +143,21 @@ export const tests = {
     expect(shownThen === "🌱", `the letter stands there, not ${shownThen}`);
     await app.tap("signInButton");
     expect(await app.text("userEmail") === "🌱", "and stays");
+  },
+  async theCommaOfAPhonesKeyboardForNumbersIsAPoint({ page, app, newPage }) {
+    const typed = async ({ page, app }) => {
+      await app.signIn();
+      await app.tapRow(0);
+      await shown(page, "OneCampaignViewController");
+      await app.type("dollarAmountField", "12,50");
+      return app.text("dollarAmountField");
+    };
+    expect(await typed({ page, app }) === "12.50", `a point, not ${await app.text("dollarAmountField")}`);
+    const desk = await newPage({ width: 800, height: 844 });
+    await desk.page.goto(page.url());
+    await shown(desk.page, "LandingPageVC");
+    expect(await typed({ page: desk.page, app: verbsFor(desk.page) }) === "12,50", "on a desk it is what was pressed");
+    await desk.close();
   },
   async aSlideMakesThePageNoWider({ page }) {
     const widths = await page.evaluate(async () => {

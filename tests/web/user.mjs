@@ -102,8 +102,8 @@ export class User {
     await this.expect(point.what);
     await this.hand.click(point, lot, twice);
     if (!this.hand.real) return;
-    const { count, what } = await this.page.evaluate(() => window.lastClick);
-    if (twice && (reference.screen === before || count < 2)) await this.expect(what);
+    const { goesOn, what } = await this.page.evaluate(() => window.lastClick);
+    if (twice && (reference.screen === before || !goesOn)) await this.expect(what);
     await pause(500);
   }
 

@@ -1,0 +1,72 @@
+// Where keys lead, and where the focus stands.
+import { expect } from "./testing.mjs";
+import { pressBack, rest, shown } from "./verbs.mjs";
+
+const inFocus = page => page.evaluate(() => {
+  const element = document.activeElement, row = element.closest("li");
+  return row ? `row ${row.ariaPosInSet}` : element.dataset.view ?? element.tagName;
+});
+
+// Signed in, in a window too low for all rows, with the focus on a row.
+async function openRows({ page, app }, row) {
+  await app.resize(390, 500);
+  await app.signIn();
+  await shown(page, "OtherCampaignsTableViewController");
+  await page.focus(`.screen:not([hidden]) li[aria-posinset="${row}"] button`);
+}
+
+async function scrollBy(page, by) {
+  await page.$$eval(".screen:not([hidden]) .table", (found, by) => { found.find(each => each.checkVisibility()).scrollTop += by; }, by);
+  await rest(page);
+  await rest(page);
+}
+
+export const tests = {
+  async aRowKeepsTheFocusWhileItIsInSight({ page, app }) {
+    await openRows({ page, app }, 3);
+    await scrollBy(page, 200);
+    expect(await inFocus(page) === "row 3", `still row 3, not ${await inFocus(page)}`);
+    await scrollBy(page, 500);
+    const now = await inFocus(page);
+    expect(/^row [5-7]$/.test(now), `a row in sight, not ${now}`);
+    await scrollBy(page, -10_000);
+    expect(/^row [1-3]$/.test(await inFocus(page)), `a row in sight, not ${await inFocus(page)}`);
+  },
+  async tabLeadsToEveryRow({ page, app }) {
+    await openRows({ page, app }, 1);
+    const count = Number(await page.$eval(".screen:not([hidden]) li:not([hidden])", each => each.ariaSetSize));
+    expect(count > 4, `more rows than are in sight, not ${count}`);
+    for (let row = 2; row <= count; ++row) {
+      await page.keyboard.press("Tab");
+      await rest(page);
+      expect(await inFocus(page) === `row ${row}`, `row ${row}, not ${await inFocus(page)}`);
+    }
+  },
+  async keysScrollAScreenThatHasJustCome({ page, app }) {
+    await openRows({ page, app }, 1);
+    await page.keyboard.press("Enter");
+    await shown(page, "OneCampaignViewController");
+    await page.keyboard.press("PageDown");
+    await new Promise(done => setTimeout(done, 400));
+    const top = await page.$$eval(".screen:not([hidden]) main", all => all.find(each => each.checkVisibility()).scrollTop);
+    expect(top > 100, `it has scrolled, and not to ${top}`);
+  },
+  async afterBackTheFocusStandsWhereItLeft({ page, app }) {
+    await openRows({ page, app }, 2);
+    await page.keyboard.press("Enter");
+    await shown(page, "OneCampaignViewController");
+    expect(await inFocus(page) === "H1", `the title, not ${await inFocus(page)}`);
+    await pressBack(page);
+    await shown(page, "OtherCampaignsTableViewController");
+    expect(await inFocus(page) === "row 2", `the row, not ${await inFocus(page)}`);
+  },
+  async arrowsLeadFromTabToTab({ page, app }) {
+    await app.signIn();
+    await page.focus("[data-view=browseTab]");
+    for (const [key, tab] of [["ArrowRight", "fundedTab"], ["ArrowRight", "mineTab"], ["ArrowLeft", "fundedTab"], ["ArrowDown", "mineTab"]]) {
+      await page.keyboard.press(key);
+      expect(await inFocus(page) === tab, `${tab} and not ${await inFocus(page)}`);
+    }
+    await shown(page, "OtherCampaignsTableViewController");  // it is the press that chooses
+  },
+};
