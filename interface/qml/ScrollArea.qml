@@ -34,6 +34,9 @@ Flickable {
         contentY = withinEnds(contentY);
     }
 
+    // It would lead to where the end was.
+    onHeightChanged: if (flicking) cancelFlick()
+
     // A turn of the wheel leads as far as it says, and at once, as the keys do: a notch one step. Qt
     // makes a speed of it, which is none for a slow and fine one, averages it with turns the other way,
     // and calls a list moving that creeps for a second or stands still, so that a click would only stop it.

@@ -166,6 +166,29 @@ TEST_F(FlingTest, AFlingEndsAtOnceWhereItsListIsCovered) {
 }
 
 // It would else say for ever that it moves, and swallow the next click.
+TEST_F(FlingTest, AFlingEndsWhereANewSizePutsTheEnd) {
+  signIn();
+  FrameClock passing;
+  clock = &passing;
+  auto& list = app.require("table");
+  const auto end = [&] { return list.property("contentHeight").toDouble() - list.height(); };
+  for (const double within : {5, 40, 120, 300}) {
+    app.window().resize(390, 844);
+    rest();
+    list.setProperty("contentY", 0);
+    QMetaObject::invokeMethod(&list, "flick", Q_ARG(double, 0), Q_ARG(double, -3000));
+    for (int frames = 0; frames < kMostFrames && offset() < end() - within; ++frames) frame();
+    app.window().resize(390, 904);
+    for (int frames = 0; frames < 20; ++frames) {
+      QCoreApplication::processEvents();
+      clock->pass(kFrame);  // what is drawn now
+      EXPECT_LT(offset(), end() + 1) << "resized " << within << " points before the end";
+    }
+    rest();
+    EXPECT_LE(offset(), end());
+  }
+}
+
 TEST_F(FlingTest, ARightClickStopsAFling) {
   signIn();
   FrameClock passing;
