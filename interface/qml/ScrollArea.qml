@@ -8,9 +8,12 @@ Flickable {
     boundsBehavior: Flickable.StopAtBounds
     clip: true
 
-    // Caught in a fling at its end, it is drawn but has no hold of the finger, and would not be told
-    // that it is lifted somewhere else: the drag would go on for ever.
-    containmentMask: dragging ? everywhere : null
+    // Caught slowly or at its end by a finger, it has no hold of that, and would not be told that it is
+    // lifted somewhere else: the movement would go on for ever.
+    property bool caught: false
+    onFlickingChanged: caught = !flicking
+    onDraggingChanged: if (!dragging) caught = false  // it may go on, back to its end
+    containmentMask: dragging || moving && caught ? everywhere : null
     readonly property Item everywhere: Item {
         readonly property real far: 1e5  // points, more than a screen has
         x: -far

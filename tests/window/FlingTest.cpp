@@ -1,7 +1,7 @@
 #include <QWheelEvent>
 
 #include "tests/support/FrameClock.h"
-#include "tests/window/WindowFixture.h"
+#include "tests/window/FingerFixture.h"
 
 namespace leafund {
 namespace {
@@ -10,7 +10,7 @@ constexpr int kFrame = 16;        // milliseconds
 constexpr int kMostFrames = 400;  // a fling takes 2 to 3 seconds
 
 // A list that is flung, frame by frame.
-class FlingTest : public WindowTest {
+class FlingTest : public FingerTest {
  protected:
   double offset() { return app.require("table").property("contentY").toDouble(); }
   bool moving() { return app.require("table").property("moving").toBool(); }
@@ -187,6 +187,51 @@ TEST_F(FlingTest, AFlingEndsWhereANewSizePutsTheEnd) {
     rest();
     EXPECT_LE(offset(), end());
   }
+}
+
+// The list has no hold of a finger that catches it slowly, and is not told where that is lifted. It
+// would move for ever, and the next tap would only stop it.
+TEST_F(FlingTest, AFingerThatCatchesAFlingAndIsLiftedOutsideEndsIt) {
+  app.window().resize(390, 300);
+  signIn();
+  FrameClock passing;
+  clock = &passing;
+  auto& list = app.require("table");
+  const auto finger = [&] { return QTest::touchEvent(&app.window(), finger_.get(), false); };
+  const QPoint on = list.mapToScene({195, list.height() / 2}).toPoint();
+  for (const int speed : {1500, 300, 60}) {
+    for (const QPoint way : {QPoint(0, 100), QPoint(0, -150)}) {
+      SCOPED_TRACE(speed);
+      list.setProperty("contentY", 500);
+      rest();
+      QMetaObject::invokeMethod(&list, "flick", Q_ARG(double, 0), Q_ARG(double, -speed));
+      frame();
+      finger().press(0, on).commit(false);
+      finger().move(0, on + way).commit(false);
+      finger().release(0, on + way).commit(false);
+      rest();
+      EXPECT_FALSE(moving());
+    }
+  }
+  app.click(app.require("newsTab"));
+  EXPECT_EQ(app.shown()->className(), "NewsFeedVC");
+}
+
+// A pane that goes back to its end has let go, and what lies beside it is clicked as ever.
+TEST_F(FlingTest, APaneThatReturnsToItsEndLeavesAClickToBack) {
+  signIn();
+  click("abc-0");
+  FrameClock passing;
+  clock = &passing;
+  auto& pane = flickableOf(app.require("campaignDescription"));
+  pane.setProperty("contentY", pane.property("contentHeight").toDouble() - pane.height() - 0.1);
+  rest();
+  QTest::mousePress(&app.window(), Qt::LeftButton, {}, {347, 560});
+  for (int y = 550; y > 100; y -= 50) QTest::mouseMove(&app.window(), {347, y});
+  QTest::mouseRelease(&app.window(), Qt::LeftButton, {}, {347, 100});
+  ASSERT_TRUE(pane.property("moving").toBool());
+  app.click(app.require("backButton"));
+  EXPECT_EQ(app.navigation().topViewController()->className(), "TabBarVC");
 }
 
 TEST_F(FlingTest, ARightClickStopsAFling) {
