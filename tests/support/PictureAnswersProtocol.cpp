@@ -156,4 +156,10 @@ Answer gzipBomb(const std::string& body, std::size_t zeros) {
                "Content-Encoding: gzip\r\n");
 }
 
+Answer packedForTheWay(const std::string& body, const std::string& codings) {
+  constexpr int lengthOfQt = 4;
+  const QByteArray packed = qCompress(QByteArray::fromStdString(body)).mid(lengthOfQt);
+  return withHeaders("Transfer-Encoding: " + codings + "\r\n", packed.toStdString());
+}
+
 }  // namespace leafund::answers

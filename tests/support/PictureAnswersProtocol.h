@@ -50,5 +50,7 @@ PictureServer::Answer closedAfterHead(std::size_t length);
 
 // Said to be gzip, and unpacks to the body and that many bytes of nothing behind it.
 PictureServer::Answer gzipBomb(const std::string& body, std::size_t zeros);
+// Packed for the way by the coding "deflate", under these names of codings.
+PictureServer::Answer packedForTheWay(const std::string& body, const std::string& codings);
 
 }  // namespace leafund::answers

@@ -116,6 +116,7 @@ const std::vector<Fault>& faults() {
     {"DrawingOfAFile", [](At at) { return at.with(answers::ok(bodies::drawingOfAFile(), "image/svg+xml")); }, Fatal, Empty, Empty},
     {"BadGzip", [](At at) { return at.with(answers::badGzip()); }, Fatal, Empty, Empty},
     {"GzipBomb", [](At at) { return at.with(answers::gzipBomb(picture(), 16 << 20)); }, Fatal, Empty, Empty},
+    {"PackedForTheWay", [](At at) { return at.with(answers::packedForTheWay(picture(), "deflate")); }, Kept, Kept, Kept},
     {"HugeJpeg", [](At at) { return at.with(answers::ok(bodies::hugeJpeg())); }, Blank, Blank, Blank},
     {"HugePng", [](At at) { return at.with(answers::ok(bodies::hugePng())); }, Blank, Blank, Blank},
     {"CutJpeg", [](At at) { return at.with(answers::ok(bodies::cutJpeg(kNewColour))); }, Picture, Picture, Picture},

@@ -37,6 +37,19 @@ TEST_F(CurlTransferTest, ABodyIsNotUnpackedWhateverItIsSaidToBe) {
   EXPECT_TRUE(answered(answers::badGzip()).isResponse(200, "no gzip"));
 }
 
+// libcurl unpacks what was packed for the way, layer upon layer, and nothing bounds that work: what
+// unpacks to nothing never comes to the limit of a body.
+TEST_F(CurlTransferTest, ABodyThatIsPackedForTheWayIsAnError) {
+  for (const char* codings : {"deflate", "Deflate", "identity, deflate"}) {
+    EXPECT_TRUE(answered(answers::packedForTheWay("bytes", codings)).isError()) << codings;
+  }
+  const std::string chunks = "5\r\nbytes\r\n0\r\n\r\n";
+  for (const char* coding : {"chunked", "Chunked ", "identity, chunked"}) {
+    const std::string said = std::string("Transfer-Encoding:  ") + coding + "\r\n";
+    EXPECT_TRUE(answered(answers::withHeaders(said, chunks)).isResponse(200, "bytes")) << coding;
+  }
+}
+
 TEST_F(CurlTransferTest, ABodyThatDoesNotArriveWholeIsAnError) {
   for (const auto& [name, answer] : answers::transportFaults()) {
     EXPECT_TRUE(answered(answer).isError()) << name;
