@@ -120,6 +120,10 @@ void CurlSession::advance(Line& line) {
     Fetch fetch = std::move(line.waiting.front());
     line.waiting.pop_front();
     fetch.handle = takeHandle();
+    if (fetch.handle->get() == nullptr) {
+      fail(fetch, "no memory");
+      continue;
+    }
     send(std::move(fetch), connections_.nextUse(host));
     ++line.underWay;
   }

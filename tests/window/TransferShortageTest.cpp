@@ -70,6 +70,30 @@ TEST_F(TransferShortageTest, WithoutAThreadTheFetchIsAnErrorOnTheMainQueueAndThe
   EXPECT_TRUE(fetched(transfer, server_.address("/picture")).isResponse(200, "bytes"));
 }
 
+TEST_F(TransferShortageTest, WithoutMemoryForABodyTheFetchIsAnErrorAndTheNextOneTriesAgain) {
+  server_.serve("/picture", answers::ok("bytes"));
+  server_.serve("/endless", answers::endless());
+  CurlTransfer transfer;
+  ASSERT_TRUE(fetched(transfer, server_.address("/picture")).isResponse(200, "bytes"));
+  {
+    const Lowered space(RLIMIT_AS, addressSpaceInUse() + (12U << 20U));
+    EXPECT_TRUE(fetched(transfer, server_.address("/endless")).isError());
+  }
+
+  EXPECT_TRUE(fetched(transfer, server_.address("/picture")).isResponse(200, "bytes"));
+}
+
+TEST_F(TransferShortageTest, WithoutMemoryForATransferEachFetchIsAnError) {
+  CurlTransfer transfer(CurlTransfer::Limits{}, LEAFUND_CURL_WITHOUT_HANDLES);
+  std::future<Outcome> first = started(transfer, server_.address("/picture"));
+  std::future<Outcome> second = started(transfer, server_.address("/picture"));
+  for (auto* fetch : {&first, &second}) {
+    const auto error = outcomeOf(std::move(*fetch)).error;
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->reason, "no memory");
+  }
+}
+
 TEST_F(TransferShortageTest, WithoutADescriptorTheFetchIsAnErrorAndTheNextOneTriesAgain) {
   server_.serve("/picture", answers::ok("bytes"));
   CurlTransfer transfer;
