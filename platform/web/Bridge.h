@@ -2,8 +2,9 @@
 
 #include <cstddef>
 
-// The whole of what the program asks of the page, which page.js answers. Texts are UTF-8 in the
-// program's memory and hold only during the call. Views and scenes are known by their numbers.
+// The whole of what the program asks of the page, which page.js and its modules answer. Texts are
+// UTF-8 in the program's memory and hold only during the call. Views and scenes are known by their
+// numbers.
 #define LEAFUND_FROM_PAGE(name) __attribute__((import_module("leafund"), import_name(#name)))
 // What the page asks of the program. Never within a call of the program's to the page, unless an
 // event of the browser comes in between: then it waits for the end of the turn.

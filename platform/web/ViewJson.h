@@ -6,7 +6,7 @@
 
 namespace leafund {
 
-// What a view shows, as page.js reads it. A table's rows and a row's cards are added by WebView,
+// What a view shows, as views.js reads it. A table's rows and a row's cards are added by WebView,
 // which knows their numbers.
 Json lookOf(const UIView& view);
 
