@@ -12,6 +12,8 @@ namespace {
 // What decoding a byte takes, in pixels of a scan without news: measured, and rounded.
 constexpr long long kWorkOfAByte = 4;
 constexpr long long kWorkOfAnArithmeticByte = 100;
+// And beginning a scan, however few pixels it has.
+constexpr long long kWorkOfAScan = 1000;
 
 constexpr unsigned kGrey = 0xFF808080;
 // RGB32 is a number, whose bytes lie by the machine's order.
@@ -182,6 +184,7 @@ class JpegDecoder {
     while (state != JPEG_REACHED_EOI && work_ <= kMostJpegWork && !stop_.stop_requested()) {
       state = jpeg_.consumeInput(&picture_);
       if (state == JPEG_ROW_COMPLETED || state == JPEG_SCAN_COMPLETED) work_ += workOfABlockRow;
+      if (state == JPEG_SCAN_COMPLETED) work_ += kWorkOfAScan;
       countBytes();
     }
     // Not the scan that is still arriving: libjpeg would read it to its end.

@@ -102,6 +102,24 @@ TEST(PictureJpegTest, ScansWithoutAnEndTakeBoundedTime) {
   EXPECT_LT(many, 2 * few + 0.1);
 }
 
+// Of a picture of few pixels a scan is hardly any work, and beginning it is.
+TEST(PictureJpegTest, SmallScansWithoutAnEndTakeBoundedTime) {
+  const std::string body =
+      quadrantJpeg({2, 2}, [](auto& picture) { jpeg_simple_progression(&picture); });
+  const auto cost = [&](int scans) {
+    const std::string bomb = jpegbytes::withScans(body, scans);
+    const double start = processorSeconds();
+    EXPECT_FALSE(drawn(bomb).isNull());
+    return processorSeconds() - start;
+  };
+  const double many = cost(600'000);
+  const double most = cost(4'000'000);
+
+  RecordProperty("many", std::to_string(many));
+  RecordProperty("most", std::to_string(most));
+  EXPECT_LT(most, 2 * many + 0.1);
+}
+
 TEST(PictureJpegTest, ArithmeticCodesTakeBoundedTime) {
   const QSize size{3000, 2000};
   jpegbytes::Row noise(3UL * static_cast<std::size_t>(size.width()));
