@@ -30,16 +30,16 @@ std::optional<FrameHeader> readJpeg(std::string_view body) {
   constexpr std::string_view exif("Exif\0\0", 6);
   if (!body.starts_with("\xFF\xD8\xFF")) return std::nullopt;
   std::optional<FrameHeader> frame;
-  int orientation = 1;
+  std::optional<int> orientation;  // by the first Exif, as a body can hold millions of its entries
   JpegSegments segments(body);
   while (const auto segment = segments.next()) {
     const auto& [marker, content] = *segment;
     if (isFrame(marker) && !frame) frame = frameIn(content);
-    if (marker == exifApplication && orientation == 1 && content.starts_with(exif)) {
+    if (marker == exifApplication && !orientation && content.starts_with(exif)) {
       orientation = exifOrientation(content);
     }
   }
-  if (frame) frame->orientation = orientation;
+  if (frame) frame->orientation = orientation.value_or(1);
   return frame;
 }
 

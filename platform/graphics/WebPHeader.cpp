@@ -17,7 +17,9 @@ std::optional<FrameHeader> extended(ByteReader chunk, ByteReader others) {
     const std::size_t length = others.little32();
     const std::string_view data = others.take(length);
     others.take(length % 2);
-    if (name == "EXIF") canvas.orientation = exifOrientation(data);
+    if (name != "EXIF") continue;
+    canvas.orientation = exifOrientation(data);
+    break;
   }
   return canvas;
 }

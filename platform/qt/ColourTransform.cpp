@@ -83,7 +83,7 @@ ColourTransform::ColourTransform(void* transform, Pixels pixels) : pixels_(pixel
 
 ColourTransform ColourTransform::ofProfile(std::string_view icc, Pixels pixels) {
   const Library& lcms = Library::get();
-  if (!lcms.isThere()) return {};
+  if (!lcms.isThere() || icc.size() > kMostProfileBytes) return {};
   cmsHPROFILE profile =
       lcms.openProfileFromMem(icc.data(), static_cast<cmsUInt32Number>(icc.size()));
   if (profile == nullptr) return {};

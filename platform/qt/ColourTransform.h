@@ -2,16 +2,20 @@
 
 #include <QColor>
 #include <array>
+#include <cstddef>
 #include <memory>
 #include <string_view>
 
 namespace leafund {
 
 // Brings the colours of a picture to sRGB. Made by a profile, or by nothing, and then it does
-// nothing; so it is with a profile that cannot be understood, or is of other pixels than these.
+// nothing; so it is with a profile that is too large, cannot be understood, or is of other pixels.
 // Little CMS, which does the work, is loaded by the first picture that has a profile.
 class ColourTransform {
  public:
+  // In bytes; those of printers with four inks have two or three million.
+  static constexpr std::size_t kMostProfileBytes = 4'000'000;
+
   // What the pixels say: one number, three, or four of inks, 255 being none of it.
   enum class Pixels { Grey, Colours, Inks };
 

@@ -1,5 +1,6 @@
 #include <QColorSpace>
 
+#include "platform/qt/ColourTransform.h"
 #include "tests/window/PixelsFixture.h"
 
 namespace leafund {
@@ -16,6 +17,17 @@ TEST(PicturePixelsTest, AColourProfileCounts) {
     // By hand, from the matrices of the two spaces.
     EXPECT_TRUE(shows(image, 8, 8, QColor(215, 93, 31), 4)) << format;
   }
+}
+
+// A large one would take memory and time that nothing else counts.
+TEST(PicturePixelsTest, AProfileOfMoreThanFourMegabytesIsLeftAside) {
+  const std::string profile = QColorSpace(QColorSpace::DisplayP3).iccProfile().toStdString();
+  const auto isUsed = [&](std::size_t size) {
+    const std::string padded = profile + std::string(size - profile.size(), '\0');
+    return !ColourTransform::ofProfile(padded, ColourTransform::Pixels::Colours).isNone();
+  };
+  EXPECT_TRUE(isUsed(4'000'000));
+  EXPECT_FALSE(isUsed(4'000'001));
 }
 
 TEST(PicturePixelsTest, ALargerPictureIsStretchedAndNotCropped) {
