@@ -1,5 +1,7 @@
 #pragma once
 
+#include <memory>
+#include <mutex>
 #include <string>
 
 namespace leafund {
@@ -9,6 +11,8 @@ namespace leafund {
 // a member for each function:
 //
 //   decltype(&curl_free) free = function("curl_free");
+//
+// Where one object is enough for all, loaded() has it.
 class LoadedLibrary {
  public:
   // Why it cannot be used, for want of it or of a function; empty when all is there. When it is
@@ -40,5 +44,15 @@ class LoadedLibrary {
   void* library_;
   std::string failure_;
 };
+
+// Made by the first who asks; while it is not there, by each, as what was short may be there again.
+template <typename Library>
+std::shared_ptr<const Library> loaded() {
+  static std::mutex mutex;
+  static std::shared_ptr<const Library> library;
+  const std::lock_guard lock(mutex);
+  if (!library || !library->isThere()) library = std::make_shared<const Library>();
+  return library;
+}
 
 }  // namespace leafund

@@ -10,10 +10,7 @@ namespace {
 
 // What is used of Little CMS, each as it is named there.
 struct Library : LoadedLibrary {
-  static const Library& get() {
-    static const Library library;
-    return library;
-  }
+  Library() : LoadedLibrary("liblcms2.so.2") {}
 
   decltype(&cmsOpenProfileFromMem) openProfileFromMem = function("cmsOpenProfileFromMem");
   decltype(&cmsCloseProfile) closeProfile = function("cmsCloseProfile");
@@ -25,9 +22,6 @@ struct Library : LoadedLibrary {
   decltype(&cmsCreateTransform) createTransform = function("cmsCreateTransform");
   decltype(&cmsDeleteTransform) deleteTransform = function("cmsDeleteTransform");
   decltype(&cmsDoTransform) doTransform = function("cmsDoTransform");
-
- private:
-  Library() : LoadedLibrary("liblcms2.so.2") {}
 };
 
 using Pixels = ColourTransform::Pixels;
@@ -78,11 +72,12 @@ cmsHPROFILE profileOf(const Library& lcms, const ColourTransform::Primaries& pri
 }  // namespace
 
 ColourTransform::ColourTransform(void* transform, Pixels pixels) : pixels_(pixels) {
-  if (transform != nullptr) transform_.reset(transform, Library::get().deleteTransform);
+  if (transform != nullptr) transform_.reset(transform, loaded<Library>()->deleteTransform);
 }
 
 ColourTransform ColourTransform::ofProfile(std::string_view icc, Pixels pixels) {
-  const Library& lcms = Library::get();
+  const auto library = loaded<Library>();
+  const Library& lcms = *library;
   if (!lcms.isThere() || icc.size() > kMostProfileBytes) return {};
   cmsHPROFILE profile =
       lcms.openProfileFromMem(icc.data(), static_cast<cmsUInt32Number>(icc.size()));
@@ -94,7 +89,8 @@ ColourTransform ColourTransform::ofProfile(std::string_view icc, Pixels pixels) 
 }
 
 ColourTransform ColourTransform::ofPrimaries(const Primaries& primaries) {
-  const Library& lcms = Library::get();
+  const auto library = loaded<Library>();
+  const Library& lcms = *library;
   if (!lcms.isThere()) return {};
   cmsHPROFILE profile = profileOf(lcms, primaries);
   if (profile == nullptr) return {};
@@ -103,7 +99,8 @@ ColourTransform ColourTransform::ofPrimaries(const Primaries& primaries) {
 
 void ColourTransform::apply(QRgb* pixels, unsigned count) const {
   if (isNone()) return;
-  const Library& lcms = Library::get();
+  const auto library = loaded<Library>();
+  const Library& lcms = *library;
   if (pixels_ != Pixels::Grey) {
     lcms.doTransform(transform_.get(), pixels, pixels, count);
     if (pixels_ != Pixels::Inks) return;

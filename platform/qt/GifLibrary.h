@@ -9,10 +9,7 @@ namespace leafund {
 // The functions of giflib that we call, by its own names. Loaded when the first GIF is drawn.
 class GifLibrary : public LoadedLibrary {
  public:
-  static const GifLibrary& get() {
-    static const GifLibrary library;
-    return library;
-  }
+  GifLibrary() : LoadedLibrary("libgif.so.7") {}
 
   decltype(&DGifOpen) open = function("DGifOpen");
   decltype(&DGifCloseFile) close = function("DGifCloseFile");
@@ -21,9 +18,6 @@ class GifLibrary : public LoadedLibrary {
   decltype(&DGifGetExtension) getExtension = function("DGifGetExtension");
   decltype(&DGifGetExtensionNext) getExtensionNext = function("DGifGetExtensionNext");
   decltype(&DGifGetLine) getLine = function("DGifGetLine");
-
- private:
-  GifLibrary() : LoadedLibrary("libgif.so.7") {}
 };
 
 }  // namespace leafund

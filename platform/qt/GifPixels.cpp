@@ -130,8 +130,8 @@ class GifDecoder {
 }  // namespace
 
 DecodedPicture decodeGif(std::string_view body, const std::stop_token& stop) {
-  const GifLibrary& library = GifLibrary::get();
-  return {library.isThere() ? GifDecoder(library, body, stop).decode() : QImage(), {}};
+  const auto library = loaded<GifLibrary>();
+  return {library->isThere() ? GifDecoder(*library, body, stop).decode() : QImage(), {}};
 }
 
 }  // namespace leafund

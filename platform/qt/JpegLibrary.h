@@ -13,10 +13,8 @@ namespace leafund {
 // drawn.
 class JpegLibrary : public LoadedLibrary {
  public:
-  static const JpegLibrary& get() {
-    static const JpegLibrary library;
-    return library;
-  }
+  // The binary interface follows the version that the library was built to be like.
+  JpegLibrary() : LoadedLibrary(JPEG_LIB_VERSION >= 80 ? "libjpeg.so.8" : "libjpeg.so.62") {}
 
   decltype(&jpeg_std_error) stdError = function("jpeg_std_error");
   decltype(&jpeg_CreateDecompress) createDecompress = function("jpeg_CreateDecompress");
@@ -30,10 +28,6 @@ class JpegLibrary : public LoadedLibrary {
   decltype(&jpeg_start_output) startOutput = function("jpeg_start_output");
   decltype(&jpeg_read_scanlines) readScanlines = function("jpeg_read_scanlines");
   decltype(&jpeg_resync_to_restart) resyncToRestart = function("jpeg_resync_to_restart");
-
- private:
-  // The binary interface follows the version that the library was built to be like.
-  JpegLibrary() : LoadedLibrary(JPEG_LIB_VERSION >= 80 ? "libjpeg.so.8" : "libjpeg.so.62") {}
 };
 
 }  // namespace leafund

@@ -217,8 +217,8 @@ class JpegDecoder {
 }  // namespace
 
 DecodedPicture decodeJpeg(std::string_view body, QSize enough, const std::stop_token& stop) {
-  const JpegLibrary& jpeg = JpegLibrary::get();
-  return jpeg.isThere() ? JpegDecoder(jpeg, body, stop).decode(enough) : DecodedPicture{};
+  const auto jpeg = loaded<JpegLibrary>();
+  return jpeg->isThere() ? JpegDecoder(*jpeg, body, stop).decode(enough) : DecodedPicture{};
 }
 
 }  // namespace leafund

@@ -110,7 +110,8 @@ QImage framePixels(const WebPLibrary& webp, std::string_view frame, QSize canvas
 
 DecodedPicture decodeWebP(std::string_view body, QSize size, const std::stop_token& stop) {
   constexpr std::size_t headBytes = 12;
-  const WebPLibrary& webp = WebPLibrary::get();
+  const auto library = loaded<WebPLibrary>();
+  const WebPLibrary& webp = *library;
   if (!webp.isThere()) return {};
   const auto [profile, firstFrame, isLossy, beforePixels] = chunksOf(body.substr(headBytes));
   DecodedPicture decoded;

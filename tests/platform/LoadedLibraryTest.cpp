@@ -32,6 +32,19 @@ TEST(LoadedLibraryTest, WhereThereIsNoneAllFunctionsAreNull) {
   EXPECT_EQ(library.cosine, nullptr);
 }
 
+struct Changing : Mathematics {
+  static inline const char* fileName = "libnowhere.so.1";
+  Changing() : Mathematics(fileName, "sin") {}
+};
+
+TEST(LoadedLibraryTest, WhatIsNotThereIsLoadedAnewAndWhatIsThereIsNot) {
+  EXPECT_FALSE(loaded<Changing>()->isThere());
+  Changing::fileName = "libm.so.6";
+  const auto first = loaded<Changing>();
+  EXPECT_TRUE(first->isThere());
+  EXPECT_EQ(loaded<Changing>(), first);
+}
+
 TEST(LoadedLibraryTest, AFunctionThatIsMissingIsAFailureWhateverComesBehindIt) {
   const Mathematics library("libm.so.6", "cosineOfTheFuture");
   EXPECT_FALSE(library.isThere());

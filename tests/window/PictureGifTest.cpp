@@ -1,3 +1,4 @@
+#include "tests/support/LoweredLimit.h"
 #include "tests/window/PixelsFixture.h"
 
 namespace leafund {
@@ -29,6 +30,17 @@ TEST(PictureGifTest, OfAFrameThatReachesOverTheEdgeTheRestIsDrawn) {
   EXPECT_TRUE(shows(image, 3, 3, Qt::red));
   EXPECT_EQ(image.pixelColor(2, 3).alpha(), 0);
   EXPECT_EQ(drawn(gifWithItsFrameAt(9, 9), {4, 4}).pixelColor(3, 3).alpha(), 0);
+}
+
+TEST(PictureGifTest, WithoutADescriptorItIsBlankAndTheNextOneIsDrawn) {
+#if defined(__SANITIZE_ADDRESS__)
+  GTEST_SKIP() << "the sanitizer needs a descriptor to look at an object's type";
+#endif
+  {
+    const LoweredLimit descriptors(RLIMIT_NOFILE, descriptorsInUse());
+    EXPECT_TRUE(drawn(gifWithItsFrameAt(0, 0), {4, 4}).isNull());
+  }
+  EXPECT_FALSE(drawn(gifWithItsFrameAt(0, 0), {4, 4}).isNull());
 }
 
 TEST(PictureGifTest, ACanvasOfMoreThan256MegabytesIsBlank) {

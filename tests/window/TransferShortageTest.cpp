@@ -4,40 +4,17 @@
 #include <filesystem>
 #include <fstream>
 
+#include "tests/support/LoweredLimit.h"
 #include "tests/support/ProbeHost.h"
 #include "tests/window/TransferFixture.h"
 
 namespace leafund {
 namespace {
 
-// A limit of the process, lowered for as long as this lives.
-class Lowered {
- public:
-  Lowered(decltype(RLIMIT_AS) which, rlim_t most) : which_(which) {
-    getrlimit(which_, &before_);
-    const rlimit lowered{most, before_.rlim_max};
-    setrlimit(which_, &lowered);
-  }
-  Lowered(const Lowered&) = delete;
-  Lowered& operator=(const Lowered&) = delete;
-  ~Lowered() { setrlimit(which_, &before_); }
-
- private:
-  decltype(RLIMIT_AS) which_;
-  rlimit before_{};
-};
-
 rlim_t addressSpaceInUse() {
   rlim_t pages = 0;
   std::ifstream("/proc/self/statm") >> pages;
   return pages * static_cast<rlim_t>(sysconf(_SC_PAGESIZE));
-}
-
-// The lowest descriptor that is free.
-rlim_t descriptorsInUse() {
-  const int free = dup(0);
-  close(free);
-  return static_cast<rlim_t>(free);
 }
 
 // What the machine may be short of when the first fetch is made.
@@ -59,7 +36,7 @@ TEST_F(TransferShortageTest, WithoutAThreadTheFetchIsAnErrorOnTheMainQueueAndThe
   std::future<Outcome> first;
   {
     // A thread takes a stack of some megabytes.
-    const Lowered space(RLIMIT_AS, addressSpaceInUse() + (1U << 20U));
+    const LoweredLimit space(RLIMIT_AS, addressSpaceInUse() + (1U << 20U));
     first = started(transfer, server_.address("/picture"));
   }
 
@@ -76,7 +53,7 @@ TEST_F(TransferShortageTest, WithoutMemoryForABodyTheFetchIsAnErrorAndTheNextOne
   CurlTransfer transfer;
   ASSERT_TRUE(fetched(transfer, server_.address("/picture")).isResponse(200, "bytes"));
   {
-    const Lowered space(RLIMIT_AS, addressSpaceInUse() + (12U << 20U));
+    const LoweredLimit space(RLIMIT_AS, addressSpaceInUse() + (12U << 20U));
     EXPECT_TRUE(fetched(transfer, server_.address("/endless")).isError());
   }
 
@@ -98,7 +75,7 @@ TEST_F(TransferShortageTest, WithoutADescriptorTheFetchIsAnErrorAndTheNextOneTri
   server_.serve("/picture", answers::ok("bytes"));
   CurlTransfer transfer;
   for (rlim_t spare = 0; spare < 4; ++spare) {
-    const Lowered descriptors(RLIMIT_NOFILE, descriptorsInUse() + spare);
+    const LoweredLimit descriptors(RLIMIT_NOFILE, descriptorsInUse() + spare);
     EXPECT_TRUE(fetched(transfer, "http://127.0.0.1:1/").isError()) << spare;
   }
 
@@ -109,7 +86,7 @@ TEST_F(TransferShortageTest, TheEndIsAtOnceThoughThereWasNoDescriptor) {
   const auto start = std::chrono::steady_clock::now();
   {
     CurlTransfer transfer;
-    const Lowered descriptors(RLIMIT_NOFILE, descriptorsInUse());
+    const LoweredLimit descriptors(RLIMIT_NOFILE, descriptorsInUse());
     EXPECT_TRUE(fetched(transfer, "http://127.0.0.1:1/").isError());
   }
   EXPECT_LT(std::chrono::steady_clock::now() - start, 10s);
