@@ -149,6 +149,7 @@ void WindowUser::longPress(QPointF where, Chance& how) {
   auto place = placeAt(where);
   const Top before = top();
   const bool byTouch = how.percent(40);
+  if (byTouch) lastTouch_.note(hand_.now(), where);  // which is held for a moment of real time
   hand_.press(where, byTouch);
   hand_.frames(static_cast<int>(how.between(1, 60)), how);
   if (top() != before) place.sure = false;  // nothing of the user's: a picture cannot do it either
