@@ -1,10 +1,8 @@
 #include "platform/qt/PicturePixels.h"
 
-#include <QLoggingCategory>
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
-#include <mutex>
 
 #include "platform/graphics/PictureHeader.h"
 #include "platform/qt/DecodedPicture.h"
@@ -36,11 +34,26 @@ QSize ownPixels(const UIImage& image) {
   return {side(image.size().width), side(image.size().height)};
 }
 
+// Of a picture of which only the middle shows, at the size `whole`, what is cut off goes before
+// anything else is made of it: at its full length it would take the memory a second time, and
+// turned a third. Whole pixels go, as many from either end, and `whole` shrinks with them.
+void cutToSight(QImage& picture, QSizeF& whole, QSizeF pixels) {
+  const auto cut = [](int length, double drawn, double shown) {
+    return std::max(0, static_cast<int>((length - shown * length / drawn) / 2));
+  };
+  const int across = cut(picture.width(), whole.width(), pixels.width());
+  const int down = cut(picture.height(), whole.height(), pixels.height());
+  if (across + down == 0) return;
+  const QRect rest = picture.rect().adjusted(across, down, -across, -down);
+  whole = {whole.width() * rest.width() / picture.width(),
+           whole.height() * rest.height() / picture.height()};
+  picture = picture.copy(rest);
+}
+
 // Smaller, in the colours that every screen is taken to show.
 QImage scaledInSRgb(DecodedPicture decoded, QSize size) {
-  if (decoded.pixels.isNull()) return {};
-  // In place, which scaling would do in a second picture as large as the first.
-  if (decoded.pixels.hasAlphaChannel() && decoded.pixels.size() != size) {
+  // In its place, which scaling would do in a copy.
+  if (decoded.pixels.hasAlphaChannel()) {
     decoded.pixels.convertTo(QImage::Format_ARGB32_Premultiplied);
   }
   QImage scaled = decoded.pixels.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
@@ -95,36 +108,22 @@ QImage middle(const QImage& picture, QSizeF whole, QSize pixels) {
   return result;
 }
 
-// Qt would warn of a damaged picture on standard error.
-void silenceQt() {
-  static std::once_flag silenced;
-  std::call_once(silenced, [] {
-    QLoggingCategory::setFilterRules(QStringLiteral("qt.gui.imageio*.warning=false"));
-  });
-}
-
 QImage bodyPixels(const std::string& body, QSize pixels, UIViewContentMode mode,
                   const std::stop_token& stop) {
-  silenceQt();
   const auto header = readPictureHeader(body);
   if (!header) return {};
   const QSize stored(header->width, header->height);
-  const QSize own = header->isTurned() ? stored.transposed() : stored;
-  const QSizeF whole = wholeSize({1.0 * own.width(), 1.0 * own.height()}, pixels, mode);
-  const QSize size = decodedSize(whole, own);
-  const QSize enough = header->isTurned() ? size.transposed() : size;
-  DecodedPicture found = decoded(body, *header, enough, stop);
-  if (stop.stop_requested()) return {};
-  // In its place: scaling would do it in a copy of the whole.
-  if (found.pixels.hasAlphaChannel()) {
-    found.pixels.convertTo(QImage::Format_ARGB32_Premultiplied);
-  }
-  QImage picture = scaledInSRgb(found, enough);
-  if (picture.isNull()) return picture;
-  picture = upright(std::move(picture), header->orientation);
+  // Turned last of all, when it is smallest.
+  const QSize frame = header->isTurned() ? pixels.transposed() : pixels;
+  QSizeF whole = wholeSize({1.0 * stored.width(), 1.0 * stored.height()}, frame, mode);
+  DecodedPicture found = decoded(body, *header, decodedSize(whole, stored), stop);
+  if (found.pixels.isNull() || stop.stop_requested()) return {};
+  cutToSight(found.pixels, whole, frame);
+  const QSize size = decodedSize(whole, found.pixels.size());
+  QImage picture = scaledInSRgb(std::move(found), size);
   const bool isJpeg = header->format == PictureHeader::Format::JPEG;
   picture.convertTo(isJpeg ? QImage::Format_RGB32 : QImage::Format_ARGB32_Premultiplied);
-  return middle(picture, whole, pixels);
+  return upright(middle(picture, whole, frame), header->orientation);
 }
 
 // Whether the drawing is one picture over all of it, as a resize makes it.

@@ -16,7 +16,8 @@ constexpr WEBP_CSP_MODE kArgb32 = Q_BYTE_ORDER == Q_LITTLE_ENDIAN ? MODE_BGRA : 
 struct Chunks {
   std::string_view profile;
   std::string_view firstFrame;   // Empty when nothing moves.
-  bool isLossy = true;           // Without a lossless part, which an alpha channel is, too.
+  bool isLossy = false;          // The pixels, whatever their alpha channel is.
+  bool isLossless = false;       // The pixels or their alpha channel.
   std::size_t beforePixels = 0;  // How many bytes stand before those of the first still picture.
 };
 
@@ -34,7 +35,8 @@ Chunks chunksOf(std::string_view chunks) {
     const std::string_view data = bytes.takeUpTo(length);
     if (name == "ICCP") found.profile = data;
     if (name == "ANMF") found.firstFrame = data;
-    if (name == "VP8L" || name == "ALPH") found.isLossy = false;
+    if (name == "VP8 ") found.isLossy = true;
+    if (name == "VP8L" || name == "ALPH") found.isLossless = true;
     bytes.takeUpTo(length % 2);
   }
   return found;
@@ -50,14 +52,13 @@ constexpr std::size_t kPieces = 64;
 
 struct Still {
   std::string_view bytes;
-  std::size_t beforePixels;
+  Chunks chunks;
   QSize size;
-  bool isLossy;
 };
 
 // What can be made of it, which is transparent where it is cut short.
 QImage stillPixels(const WebPLibrary& webp, const Still& still, const std::stop_token& stop) {
-  const int bytesAPixel = still.isLossy ? kLossyBytes : kLosslessBytes;
+  const int bytesAPixel = still.chunks.isLossless ? kLosslessBytes : kLossyBytes;
   if (1LL * bytesAPixel * still.size.width() * still.size.height() > kMostPictureBytes) return {};
   QImage pixels(still.size, QImage::Format_ARGB32);
   if (pixels.isNull()) return {};
@@ -68,9 +69,9 @@ QImage stillPixels(const WebPLibrary& webp, const Still& still, const std::stop_
   if (decoder == nullptr) return {};
   const auto* const first = reinterpret_cast<const uint8_t*>(still.bytes.data());
   // It goes through all chunks before the pixels until it is given the first of these.
-  std::size_t given = still.beforePixels;
+  std::size_t given = still.chunks.beforePixels;
   const std::size_t rest = still.bytes.size() - given;
-  const std::size_t all = given + (still.isLossy ? std::min(rest, kMostWebPBytes) : rest);
+  const std::size_t all = given + (still.chunks.isLossy ? std::min(rest, kMostWebPBytes) : rest);
   const std::size_t piece = rest / kPieces + 1;
   auto status = VP8_STATUS_SUSPENDED;
   while (given < all && status == VP8_STATUS_SUSPENDED && !stop.stop_requested()) {
@@ -97,8 +98,7 @@ QImage framePixels(const WebPLibrary& webp, std::string_view frame, QSize canvas
       (4LL + kLosslessBytes) * canvasSize.width() * canvasSize.height() > kMostPictureBytes)
     return {};
   const std::string_view still = bytes.take(bytes.left());
-  const QImage pixels = stillPixels(
-      webp, {still, chunksOf(still).beforePixels, place.size(), /*isLossy=*/false}, stop);
+  const QImage pixels = stillPixels(webp, {still, chunksOf(still), place.size()}, stop);
   QImage canvas(canvasSize, QImage::Format_ARGB32);
   if (pixels.isNull() || canvas.isNull()) return {};
   canvas.fill(Qt::transparent);
@@ -111,15 +111,14 @@ QImage framePixels(const WebPLibrary& webp, std::string_view frame, QSize canvas
 DecodedPicture decodeWebP(std::string_view body, QSize size, const std::stop_token& stop) {
   constexpr std::size_t headBytes = 12;
   const auto library = loaded<WebPLibrary>();
-  const WebPLibrary& webp = *library;
-  if (!webp.isThere()) return {};
-  const auto [profile, firstFrame, isLossy, beforePixels] = chunksOf(body.substr(headBytes));
+  if (!library->isThere()) return {};
+  Chunks chunks = chunksOf(body.substr(headBytes));
+  chunks.beforePixels += headBytes;
   DecodedPicture decoded;
-  decoded.pixels = firstFrame.empty()
-                       ? stillPixels(webp, {body, headBytes + beforePixels, size, isLossy}, stop)
-                       : framePixels(webp, firstFrame, size, stop);
-  if (!profile.empty()) {
-    decoded.toSRgb = ColourTransform::ofProfile(profile, ColourTransform::Pixels::Colours);
+  decoded.pixels = chunks.firstFrame.empty() ? stillPixels(*library, {body, chunks, size}, stop)
+                                             : framePixels(*library, chunks.firstFrame, size, stop);
+  if (!chunks.profile.empty()) {
+    decoded.toSRgb = ColourTransform::ofProfile(chunks.profile, ColourTransform::Pixels::Colours);
   }
   return decoded;
 }

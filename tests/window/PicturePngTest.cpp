@@ -73,6 +73,24 @@ TEST(PicturePngTest, RowsOfMoreThan350MegabytesAreBlank) {
   EXPECT_LT(kilobytes("VmHWM") - before, 64'000);
 }
 
+// Grey, and made opaque: 234 MB, of which one copy is too many.
+TEST(PicturePngTest, OfALongOneOnlyTheMiddleIsTurned) {
+  const std::string rows(std::size_t{65'001} * 900, '\0');
+  const std::string header = big32(65'000) + big32(900) + byte(8) + byte(0);
+  const auto body = std::make_shared<const std::string>(
+      pngStart + chunk("IHDR", header + std::string(3, '\0')) + chunk("eXIf", exif(6)) +
+      chunk("IDAT", packed(rows)) + chunk("IEND", ""));
+  const auto recipe = UIImage::initWithData(body);
+  ASSERT_EQ(recipe->size(), (CGSize{900, 65'000}));
+  const long before = kilobytes("VmHWM");
+
+  const QImage image = picturePixels(*recipe, {900, 900}, cover);
+
+  EXPECT_EQ(image.size(), QSize(900, 900));
+  EXPECT_TRUE(shows(image, 450, 450, Qt::black));
+  EXPECT_LT(kilobytes("VmHWM") - before, 256'000);
+}
+
 TEST(PicturePngTest, EveryKindThatQtWritesIsDrawn) {
   for (const auto format : {QImage::Format_Mono, QImage::Format_Indexed8, QImage::Format_Grayscale8,
                             QImage::Format_Grayscale16, QImage::Format_RGB32, QImage::Format_ARGB32,

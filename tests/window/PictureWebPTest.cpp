@@ -62,6 +62,31 @@ TEST(PictureWebPTest, OfAnAnimationTheFirstPictureIsDrawnWhereItLies) {
   EXPECT_TRUE(drawn(extendedWebP(64, 64, frame(56, 0, red))).isNull());
 }
 
+// The last of eight parts begins behind that; libwebp draws nothing before it has been given all of
+// the others.
+TEST(PictureWebPTest, BehindThirtyTwoMegabytesNothingLossyIsDrawn) {
+  const auto lossy = [](std::size_t padding) {
+    return riffChunk("VP8 ", lossyPartsOf(quadrants({128, 128}), padding));
+  };
+  const std::string clear = riffChunk("ALPH", "");
+  const auto animated = [](const std::string& frame) {
+    const std::string whole = little24(0) + little24(0) + little24(127) + little24(127);
+    return extendedWebP(
+        128, 128,
+        riffChunk("ANIM", std::string(6, '\0')) + riffChunk("ANMF", whole + little32(100) + frame));
+  };
+  const std::string few = lossy(4'000'000);
+  const std::string many = lossy(5'000'000);
+
+  expectQuadrants(drawn(webp(few)));
+  expectQuadrants(drawn(animated(few)));
+  // Neither a chunk for the alpha channel, which is lossless, nor the head of a frame makes it
+  // more.
+  for (const auto& body : {webp(many), webp(many + clear), animated(many)}) {
+    EXPECT_EQ(drawn(body).pixelColor(8, 8).alpha(), 0);
+  }
+}
+
 TEST(PictureWebPTest, ADamagedOneIsBlankAndStopsNothing) {
   std::string body = webpOf(quadrants({64, 64}), 100);
   for (std::size_t at = 30; at < body.size(); ++at) body[at] = static_cast<char>(~body[at]);
