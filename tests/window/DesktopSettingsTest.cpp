@@ -105,6 +105,20 @@ TEST_F(DesktopSettingsTest, WithLessMotionACelebrationStandsOpen) {
   EXPECT_EQ((*party)->scale(), 1);
 }
 
+TEST_F(DesktopSettingsTest, WithLessMotionAReasonHasItsRoomAtOnce) {
+  open(appearance("reduced-motion", 1));
+  app->click(app->require("signInButton"));
+  app->settle();
+  app->click(app->require("signInButton"));
+  app->settle();
+  app->click(app->require("abc-0"));
+  app->settle();
+  app->click(app->require("FundButton"));
+  const auto& reason = app->require("errorLabel");
+  ASSERT_TRUE(reason.isVisible());
+  EXPECT_EQ(reason.parentItem()->height(), reason.height());
+}
+
 TEST_F(DesktopSettingsTest, WithLessMotionAPageFollowsTheFingerAndReturnsAtOnce) {
   open(appearance("reduced-motion", 1));
   app->click(app->require("signUpButton"));

@@ -67,6 +67,24 @@ TEST_F(FeedbackTest, ATabThatComesFadesIn) {
   EXPECT_GE(shares.size(), 3U);
 }
 
+TEST_F(FeedbackTest, TheRoomForAReasonOpensOverSomeFrames) {
+  signIn();
+  click("abc-0");
+  type("dollarAmountField", "much");
+  const auto& reason = app.require("errorLabel");
+  const auto& room = *reason.parentItem();
+  std::set<double> heights;
+  QObject context;
+  QObject::connect(&room, &QQuickItem::heightChanged, &context,
+                   [&] { heights.insert(room.height()); });
+
+  click("FundButton");
+
+  EXPECT_TRUE(
+      app.waitUntil([&] { return reason.isVisible() && room.height() == reason.height(); }));
+  EXPECT_GE(heights.size(), 3U);
+}
+
 TEST_F(FeedbackTest, ACaptionGlidesToItsPlace) {
   auto& input = app.require("userEmail");
   const auto* box = &input;
