@@ -58,7 +58,7 @@ def unique_names(project):
 
 def small_files(project):
     found = []
-    for path in project.files(".h", ".cpp", ".qml", ".py", ".sh") + project.scripts():
+    for path in project.files(*LIMITS.keys() - {""}) + project.scripts():
         length = project.text(path).count("\n")
         if length > LIMITS[pathlib.Path(path).suffix]:
             found.append(f"{path} has {length} lines")
