@@ -52,7 +52,7 @@ class CampaignClass {
     campaignDescription_ = std::move(campaignDescription);
   }
 
-  // The absolute http address of a JPEG; the picture itself is never held here.
+  // The address of the picture, as it was typed; the picture itself is never held here.
   const std::string& photo() const { return photo_; }
   void setPhoto(std::string photo) { photo_ = std::move(photo); }
 
@@ -63,7 +63,7 @@ class CampaignClass {
   }
 
   // The date of creation is a day of the month, 1 to 31, and a three-letter English month ("Nov").
-  // It has no year because it is only shown: nothing sorts or compares by it.
+  // It has no year, as nothing sorts or compares by it.
   std::ptrdiff_t dayCreated() const { return dayCreated_; }
   void setDayCreated(std::ptrdiff_t dayCreated) { dayCreated_ = dayCreated; }
   const std::string& monthCreated() const { return monthCreated_; }

@@ -29,7 +29,7 @@ std::vector<SceneDescription> scenes() {
       scene("UpdatePageVC", updateScene),   scene("NewCampaignVC", newCampaignScene)};
 }
 
-// The navigation map: a row a transition.
+// The navigation map: one row for each transition.
 std::vector<SegueDescription> segues() {
   using enum SegueKind;
   return {

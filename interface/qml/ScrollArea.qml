@@ -8,8 +8,8 @@ Flickable {
     boundsBehavior: Flickable.StopAtBounds
     clip: true
 
-    // Caught slowly or at its end by a finger, it has no hold of that, and would not be told that it is
-    // lifted somewhere else: the movement would go on for ever.
+    // A finger that catches it when it is slow, or at its end, is not held by it: lifted outside of it,
+    // that finger would be gone untold, and the movement would go on for ever.
     property bool caught: false
     onFlickingChanged: caught = !flicking
     onDraggingChanged: if (!dragging) caught = false  // it may go on, back to its end

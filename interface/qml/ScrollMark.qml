@@ -3,8 +3,6 @@ import Leafund
 
 // Shows which part of something longer is seen, while it is scrolled.
 Rectangle {
-    id: mark
-
     required property Flickable target
 
     readonly property real place: target.visibleArea.yPosition

@@ -62,7 +62,6 @@ Pressable {
             }
         }
         Text {
-            id: label
             width: parent.width
             horizontalAlignment: Text.AlignHCenter
             text: tab.view.text

@@ -23,9 +23,9 @@ class NSURLSessionDataTask {
 };
 
 // The one session of the process. Its policy, which hosts carry out: http and https only, GET, no
-// headers of a request's own, bodies as sent, no cookies, no cache, at most `kMostRedirects`
-// redirects, `kIdleSeconds` without a byte, `kMostBodyBytes` a body. Every breach is an error, and
-// an empty body is no body.
+// headers of a request's own, bodies as sent, no cookies, no cache but a browser's, at most
+// `kMostRedirects` redirects, `kIdleSeconds` without a byte, `kMostBodyBytes` a body. Every breach
+// is an error, and an empty body is no body.
 class NSURLSession {
  public:
   static constexpr int kMostRedirects = 20;
@@ -34,9 +34,8 @@ class NSURLSession {
 
   static NSURLSession& sharedSession();
 
-  // The handler runs once, never inside resume() and never with the host's onMain(), because it may
-  // be on a thread of the session's own. What it holds is let go on the main thread, because
-  // screens and cells must end there.
+  // The handler runs once and never inside resume(); where, Host::transfer() says. What it holds is
+  // let go on the main thread, because screens and cells must end there.
   std::shared_ptr<NSURLSessionDataTask> dataTaskWithRequestCompletionHandler(
       NSURLRequest request, CompletionHandler handler);
 };

@@ -51,7 +51,7 @@ class SceneStage : public QObject {
   QQuickItem* shown_ = nullptr;
   QQuickItem* outgoing_ = nullptr;  // while it slides, and the one below while a finger draws
   QQuickItem* drawn_ = nullptr;     // by a finger
-  double ahead_ = 0;                // of the finger is what it draws
+  double ahead_ = 0;                // how far, in points, what is drawn is ahead of the finger
   DragSpeed speed_;
   QElapsedTimer clock_;
   QVariantAnimation animation_;

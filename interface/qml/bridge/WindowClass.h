@@ -44,7 +44,7 @@ class WindowClass : public QObject {
 
   const QQuickItem* content_ = nullptr;
   double textScale_ = 1;
-  double noted_ = 0;  // the rail, of which each class has one of its own
+  double noted_ = 0;  // the rail's width, which differs from class to class
 };
 
 }  // namespace leafund
