@@ -10,8 +10,8 @@
 #include "tests/random/Shrinker.h"
 
 // Random actions against the application, held to the reference after each. Ends with 0 when the
-// two never differed, with 1 and the shortest script found when they did, and with 2 when called
-// wrongly.
+// two never differed, with 1 and the shortest script found when they did, or when some screen was
+// hardly met, and with 2 when called wrongly.
 namespace leafund::random {
 namespace {
 
@@ -74,6 +74,22 @@ void print(const Totals& totals, double seconds) {
   std::cout << std::endl;
 }
 
+// A screen that fewer than one in a thousand actions find is as good as untried: the user no longer
+// finds the way there.
+bool allAreTried(const Totals& totals) {
+  constexpr std::uint64_t enough = 5'000;
+  if (totals.actions < enough) return true;
+  bool all = true;
+  for (int scene = 0; scene < kScenes; ++scene) {
+    const auto count = totals.scenes[static_cast<std::size_t>(scene)];
+    if (count * 1'000 >= totals.actions) continue;
+    std::cout << className(static_cast<Scene>(scene)) << " was seldom tried: " << count
+              << std::endl;
+    all = false;
+  }
+  return all;
+}
+
 int tellFailure(const Plan& plan, const std::string& told, const FreeWording& wording) {
   std::cout << "seed " << plan.seed << " diverges:\n" << told << "Shrinking" << std::endl;
   const auto failure = shrinkFailure(plan, wording);
@@ -100,7 +116,8 @@ int run(const Call& call) {
   const auto diverged = runSequences(call.order, wording, totals);
   const std::chrono::duration<double> took = std::chrono::steady_clock::now() - start;
   print(totals, took.count());
-  return diverged ? tellFailure(*diverged, totals.told, wording) : 0;
+  if (diverged) return tellFailure(*diverged, totals.told, wording);
+  return allAreTried(totals) ? 0 : 1;
 }
 
 }  // namespace

@@ -57,7 +57,8 @@ std::optional<Plan> runSequences(const Order& order, const FreeWording& wording,
 void warmUp();
 
 // The command: runs or replays what the arguments say. Answers 0 when application and reference
-// never differed, 1 and the shortest script found when they did, and 2 when called wrongly.
+// never differed, 1 and the shortest script found when they did, or when some screen was hardly
+// met, and 2 when called wrongly.
 int runRandomActions(const Order& defaults, int argc, char** argv);
 
 }  // namespace leafund::random

@@ -19,6 +19,7 @@ class WindowActionsTest : public testing::Test {
     const auto diverged = run({.actions = 300, .firstSeed = firstSeed, .fatalPercent = 10});
     EXPECT_FALSE(diverged) << totals.told << "To see it again and shrunk: random_window --longest "
                            << kLongest << " --fatal-share 10 --replay " << diverged->seed;
+    EXPECT_GT(totals.scenes[static_cast<std::size_t>(Scene::Confirm)], 0U) << "nobody pledged";
   }
   // What is told of the first difference.
   std::string expectDivergence(Order order) {

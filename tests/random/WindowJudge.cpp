@@ -65,7 +65,8 @@ QQuickItem* WindowUser::rowItem(long row) {
 }
 
 QRectF WindowUser::inSight(const QQuickItem& item) {
-  QRectF seen = item.mapRectToScene(item.boundingRect());
+  // Not its boundingRect(), which of an input is that of its text: none of an empty one.
+  QRectF seen = item.mapRectToScene({0, 0, item.width(), item.height()});
   for (const auto* each = item.parentItem(); each != nullptr; each = each->parentItem()) {
     if (each->clip()) seen &= each->mapRectToScene(each->boundingRect());
   }
