@@ -83,7 +83,11 @@ DecodedPicture decoded(const std::string& body, const PictureHeader& header, QSi
 
 // Turned and mirrored as its header says: from 5 on the stored columns are the upright rows.
 QImage upright(QImage picture, int orientation) {
-  if (orientation >= 5) picture = picture.transformed(QTransform(0, 1, 1, 0, 0, 0));
+  if (orientation >= 5) {
+    const auto format = picture.format();
+    picture = picture.transformed(QTransform(0, 1, 1, 0, 0, 0));
+    picture.convertTo(format);  // Qt gives what it turns an alpha channel
+  }
   const bool isUpsideDown =
       orientation == 3 || orientation == 4 || orientation == 7 || orientation == 8;
   const bool isMirrored =
