@@ -19,6 +19,10 @@ Item {
     // What a message has just come for, the topmost of several, is in sight until the user goes on.
     property Item told: null
     property real placed: 0  // where the content was last moved for it
+    // By less it is moved by itself: a place between pixels is rounded.
+    function isPlaced(): bool {
+        return Math.abs(flickable.contentY - placed) < 1;
+    }
     function bringIntoSight(item: Item) {
         if (!told || item.mapToItem(column, 0, 0).y < told.mapToItem(column, 0, 0).y)
             told = item;
@@ -49,7 +53,8 @@ Item {
         const top = column.y + shown.y - Theme.wide;
         const bottom = column.y + shown.y + shown.height + Theme.space;
         const lowest = Math.max(0, flickable.contentHeight - flickable.height);
-        placed = flickable.contentY;
+        if (!isPlaced())
+            placed = flickable.contentY;
         if (bottom > placed + flickable.height)
             placed = Math.min(lowest, bottom - flickable.height);
         if (top < placed)
@@ -111,8 +116,7 @@ Item {
         contentHeight: Math.max(height, column.height + 2 * Theme.space)
         interactive: contentHeight > height
         onContentHeightChanged: Qt.callLater(pane.keepInSight)
-        // By less it is moved by itself: a place between pixels is rounded.
-        onContentYChanged: if (Math.abs(contentY - pane.placed) >= 1) pane.told = null
+        onContentYChanged: if (!pane.isPlaced()) pane.told = null
 
         // A tap beside the controls, which the pane would keep to itself where it scrolls.
         MouseArea {
