@@ -31,8 +31,10 @@ Item {
     }
 
     Component.onCompleted: tell()
-    // What is taken back in the meantime is not read.
+    // What is taken back in the meantime is not read, and what was read is not read once more when
+    // its page comes back.
     onMessageChanged: if (message === "") visible = false
+    onEnabledChanged: if (!enabled) visible = false
 
     // That the user enters or leaves the input is a change of the view and none of the message.
     Connections {

@@ -22,7 +22,7 @@ class AnnouncementTest : public WindowTest {
 
  private:
   void listen() {
-    for (auto* item : app.page()->findChildren<QQuickItem*>()) {
+    for (auto* item : app.window().contentItem()->findChildren<QQuickItem*>()) {
       auto* access = QAccessible::queryAccessibleInterface(item);
       if (access == nullptr || access->role() != QAccessible::Notification) continue;
       QObject::disconnect(item, &QQuickItem::visibleChanged, &context_, nullptr);
@@ -75,6 +75,18 @@ TEST_F(AnnouncementTest, AReasonThatComesASecondTimeIsSaidASecondTime) {
   type("dollarAmountField", "1000");
   EXPECT_THAT(saidOn("FundButton"), ElementsAre(kExceeds));
   EXPECT_THAT(saidOn("FundButton"), ElementsAre(kExceeds));
+}
+
+TEST_F(AnnouncementTest, AReasonIsNotSaidAgainWhenItsPageComesBack) {
+  signIn();
+  click("abc-0");
+  type("dollarAmountField", "1000");
+  EXPECT_THAT(saidOn("FundButton"), ElementsAre(kExceeds));
+  click("dollarAmountField");
+  for (int i = 0; i < 4; ++i) app.press(Qt::Key_Backspace);
+  app.typeKeys("5");
+  EXPECT_THAT(saidOn("FundButton"), IsEmpty());
+  EXPECT_THAT(saidOn("noButton"), IsEmpty());
 }
 
 TEST_F(AnnouncementTest, AReasonThatStaysForTheSameMistakeIsSaidASecondTime) {
