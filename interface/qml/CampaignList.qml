@@ -93,9 +93,6 @@ FocusScope {
         onContentYChanged: list.root.scroll(flicking ? withinEnds(contentY) : contentY)
         readonly property int placement: list.root.placement
         onPlacementChanged: contentY = list.root.contentOffset
-        // A fling ends where its list is covered.
-        readonly property bool covered: !enabled || !visible
-        onCoveredChanged: if (covered) cancelFlick()
 
         Accessible.role: Accessible.List
         Accessible.name: list.root.accessibleName

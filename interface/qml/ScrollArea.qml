@@ -37,6 +37,10 @@ Flickable {
         contentY = withinEnds(contentY);
     }
 
+    // A fling ends where the area is covered.
+    readonly property bool covered: !enabled || !visible
+    onCoveredChanged: if (covered) cancelFlick()
+
     // It would lead to where the end was.
     onHeightChanged: if (flicking) cancelFlick()
 

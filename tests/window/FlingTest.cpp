@@ -1,55 +1,9 @@
-#include <QWheelEvent>
-
-#include "tests/support/FrameClock.h"
-#include "tests/window/FingerFixture.h"
+#include "tests/window/FlingFixture.h"
 
 namespace leafund {
 namespace {
 
-constexpr int kFrame = 16;        // milliseconds
-constexpr int kMostFrames = 400;  // a fling takes 2 to 3 seconds
-
-// A list that is flung, frame by frame.
-class FlingTest : public FingerTest {
- protected:
-  double offset() { return app.require("table").property("contentY").toDouble(); }
-  bool moving() { return app.require("table").property("moving").toBool(); }
-
-  static QQuickItem& flickableOf(QQuickItem& item) {
-    auto* each = &item;
-    while (!each->property("contentY").isValid()) each = each->parentItem();
-    return *each;
-  }
-
-  void frame() {
-    QCoreApplication::processEvents();
-    clock->pass(kFrame);
-    QEvent draw(QEvent::UpdateRequest);
-    QCoreApplication::sendEvent(&app.window(), &draw);
-    QCoreApplication::processEvents();
-  }
-  // Until nothing is animated any more.
-  void rest() {
-    for (int frames = 0; frames < kMostFrames && (frames < 3 || clock->isRunning()); ++frames)
-      frame();
-    EXPECT_FALSE(clock->isRunning());
-  }
-  void fling(double pointsPerSecond) {
-    QMetaObject::invokeMethod(&app.require("table"), "flick", Q_ARG(double, 0),
-                              Q_ARG(double, pointsPerSecond));
-    rest();
-  }
-  static constexpr int kNotch = 120;          // eighths of a degree
-  static constexpr int kStep = 80;            // points that one leads
-  static constexpr int kOvershootBounds = 2;  // of Flickable
-  void turnWheel(int eighths, QPoint points = {}, Qt::ScrollPhase phase = Qt::NoScrollPhase) {
-    const QPointF at(200, 400);
-    QWheelEvent event(at, app.window().mapToGlobal(at), points, {0, eighths}, {}, {}, phase, false);
-    QCoreApplication::sendEvent(&app.window(), &event);
-  }
-
-  FrameClock* clock = nullptr;  // once the screen stands
-};
+using FlingTest = FlingFixture;
 
 // Some of these are then past their end, by less than anybody sees, and go back by themselves. Who
 // was put back instead would move for ever.
@@ -97,61 +51,6 @@ TEST_F(FlingTest, AFlingStopsAtItsEnd) {
   }
 }
 
-TEST_F(FlingTest, ANotchOfTheWheelIsAStepAtOnceAndNoFurtherThanTheEnds) {
-  signIn();
-  const auto& list = app.require("table");
-  const double length = list.property("contentHeight").toDouble() - list.height();
-  for (int notches = 1; notches < 10; ++notches) {
-    turnWheel(-kNotch);
-    EXPECT_EQ(offset(), std::min(length, notches * 1.0 * kStep));
-    EXPECT_FALSE(moving());
-  }
-  turnWheel(2 * kNotch);
-  EXPECT_EQ(offset(), length - 2 * kStep);
-  turnWheel(20 * kNotch);
-  EXPECT_EQ(offset(), 0);
-}
-
-// Slowly drawn over a touchpad that is told as a wheel two fingers would else move nothing.
-TEST_F(FlingTest, AFineWheelScrollsAsFarAsANotchedOne) {
-  signIn();
-  for (int turned = 0; turned < kNotch; turned += 8) turnWheel(-8);
-  EXPECT_NEAR(offset(), kStep, 0.001);
-}
-
-TEST_F(FlingTest, ATouchpadThatTellsOfPointsIsFollowedToThePoint) {
-  signIn();
-  turnWheel(0, {}, Qt::ScrollBegin);
-  for (int i = 0; i < 7; ++i) turnWheel(-36, {0, -3}, Qt::ScrollUpdate);
-  turnWheel(0, {}, Qt::ScrollEnd);
-  EXPECT_EQ(offset(), 21);
-}
-
-TEST_F(FlingTest, TheWheelTakesOverFromAFling) {
-  signIn();
-  FrameClock passing;
-  clock = &passing;
-  const double length =
-      app.require("table").property("contentHeight").toDouble() - app.require("table").height();
-  for (const int notches : {1, -1, -20}) {
-    SCOPED_TRACE(notches);
-    app.require("table").setProperty("contentY", 0);
-    QMetaObject::invokeMethod(&app.require("table"), "flick", Q_ARG(double, 0),
-                              Q_ARG(double, -1500));
-    for (int frames = 0; frames < 8; ++frames) frame();
-    const double before = offset();
-    ASSERT_GT(before, kStep);
-    turnWheel(notches * kNotch);
-    const double led = std::min(length, before - notches * kStep);
-    EXPECT_EQ(offset(), led);
-    EXPECT_FALSE(moving());
-    frame();
-    EXPECT_EQ(offset(), led);
-    rest();
-    EXPECT_EQ(offset(), led);
-  }
-}
-
 // And not a step later, when the place that it tells is refused.
 TEST_F(FlingTest, AFlingEndsAtOnceWhereItsListIsCovered) {
   signIn();
@@ -163,6 +62,22 @@ TEST_F(FlingTest, AFlingEndsAtOnceWhereItsListIsCovered) {
   ASSERT_TRUE(moving());
   app.click(app.require("newsTab"));
   EXPECT_FALSE(list.property("moving").toBool());
+}
+
+TEST_F(FlingTest, AFlingOfAPageEndsWhereItIsCovered) {
+  app.window().resize(390, 420);
+  ASSERT_TRUE(app.waitUntil([&] { return app.page()->height() == 420; }));
+  signIn();
+  app.click(app.require("newsTab"));
+  app.settle();
+  FrameClock passing;
+  clock = &passing;
+  auto& page = flickableOf(app.require("rideStoryTitle"));
+  QMetaObject::invokeMethod(&page, "flick", Q_ARG(double, 0), Q_ARG(double, -1500));
+  for (int frames = 0; frames < 8; ++frames) frame();
+  ASSERT_TRUE(page.property("moving").toBool());
+  app.click(app.require("mineTab"));
+  EXPECT_FALSE(page.property("moving").toBool());
 }
 
 // It would else say for ever that it moves, and swallow the next click.
