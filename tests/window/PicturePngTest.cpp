@@ -88,7 +88,7 @@ TEST(PicturePngTest, OfALongOneOnlyTheMiddleIsScaledAndTurned) {
 
   EXPECT_EQ(image.size(), QSize(800, 800));
   EXPECT_TRUE(shows(image, 400, 400, Qt::black));
-  EXPECT_LT(kilobytes("VmHWM") - before, 256'000);
+  EXPECT_LT(kilobytes("VmHWM") - before, 300'000);  // 234, and what a sanitizer adds
 }
 
 TEST(PicturePngTest, EveryKindThatQtWritesIsDrawn) {
