@@ -15,6 +15,11 @@ MouseArea {
         start = text.selectionStart;
         end = text.selectionEnd;
     }
+    // A message is selected as soon as it is entered.
+    function noteAll() {
+        start = 0;
+        end = text.length;
+    }
 
     // A TextInput or a TextEdit, or what EditMenu uses of them: they share no type.
     required property var text
@@ -48,6 +53,9 @@ MouseArea {
         parent: offer.area
         acceptedDevices: PointerDevice.TouchScreen | PointerDevice.Stylus
         onPressedChanged: if (pressed) offer.note()
-        onLongPressed: offer.ask(offer.mapFromItem(offer.area, finger.point.position))
+        // What the desktop takes for a gesture of its own still seems to be pressed.
+        property bool taken: false
+        onGrabChanged: change => taken = change === PointerDevice.UngrabPassive
+        onLongPressed: if (!taken) offer.ask(offer.mapFromItem(offer.area, finger.point.position))
     }
 }

@@ -80,6 +80,7 @@ Rectangle {
         if (offer.open)
             return;  // the finger rested, and is lifted
         input.forceActiveFocus(Qt.MouseFocusReason);
+        watch.enter();
         Qt.inputMethod.show();
         Qt.callLater(selectMessage);
     }
@@ -96,10 +97,16 @@ Rectangle {
     MouseArea {
         anchors.fill: parent
         cursorShape: Qt.IBeamCursor
-        onPressed: offer.note()
+        // Known when it is pressed alone: what is held always seems to be synthesized.
+        property bool byFinger: false
+        onPressed: press => {
+            byFinger = press.source !== Qt.MouseEventNotSynthesized;
+            offer.note();
+        }
         onPressAndHold: press => {
-            if (press.source !== Qt.MouseEventNotSynthesized)
-                offer.ask(Qt.point(press.x, press.y));  // by a finger
+            if (byFinger)
+                offer.ask(Qt.point(press.x, press.y));
+            press.accepted = byFinger;  // a slow click is a click
         }
         onClicked: box.takeTap()
     }
@@ -165,6 +172,11 @@ Rectangle {
         area: box.input
         text: box.input
         bridge: box.bridge
-        onAsked: box.input.forceActiveFocus(Qt.MouseFocusReason)
+        onAsked: {
+            const entering = !box.input.activeFocus;
+            box.input.forceActiveFocus(Qt.MouseFocusReason);
+            if (entering && box.bridge.showsMessage)
+                offer.noteAll();
+        }
     }
 }

@@ -22,6 +22,8 @@ class FocusWatch : public QObject {
   void setTarget(QQuickItem* target);
   bool ring() const { return ring_; }
 
+  // The user has pressed beside the item what stands for it.
+  Q_INVOKABLE void enter();
   // The pointer's press is part of an earlier one, which was meant for another screen.
   Q_INVOKABLE bool pressContinues() const;
   // What lay over the screen has been closed by the press, and what continues it presses nothing
@@ -41,7 +43,6 @@ class FocusWatch : public QObject {
  private:
   void focusIn(Qt::FocusReason reason);
   void focusOut(Qt::FocusReason reason);
-  void enter();
   void setRing(bool ring);
 
   QPointer<QQuickItem> target_;

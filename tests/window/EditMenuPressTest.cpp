@@ -1,3 +1,4 @@
+#include <QStyleHints>
 #include <QWheelEvent>
 
 #include "platform/qt/FocusWatch.h"
@@ -30,6 +31,21 @@ TEST_F(EditMenuPressTest, AFingerRestsAnywhereOnTheBox) {
   const QPoint caption = middleOf("userEmail") - QPoint(0, 20);
   longPress(caption);
   EXPECT_EQ(offers(), (Names{"Paste"}));
+}
+
+// By the desktop, for a gesture of its own.
+TEST_F(EditMenuPressTest, AFingerThatIsTakenAwayOpensNone) {
+  QGuiApplication::clipboard()->setText("x");
+  for (const auto where : {middleOf("userEmail"), middleOf("userEmail") - QPoint(0, 20)}) {
+    put(where);
+    QTouchEvent cancelled(QEvent::TouchCancel, finger_.get());
+    QCoreApplication::sendEvent(&app.window(), &cancelled);
+    QTest::qWait(QGuiApplication::styleHints()->mousePressAndHoldInterval() + 100);
+    EXPECT_EQ(offers(), Names{});
+    touchItem("userEmail");
+    EXPECT_TRUE(app.application->firstResponder());
+    app.press(Qt::Key_Tab);
+  }
 }
 
 TEST_F(EditMenuPressTest, APageStandsStillForIt) {

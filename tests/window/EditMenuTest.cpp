@@ -35,6 +35,20 @@ TEST_F(EditMenuTest, ARightClickOffersWhatCanBeDoneAndDoesIt) {
   }
 }
 
+TEST_F(EditMenuTest, WhatIsPastedOverAMessageTakesItsPlace) {
+  openForm();
+  click("createButton");
+  QGuiApplication::clipboard()->setText("Wren");
+  for (const auto* name : {"nameOfCreator", "shortDescription"}) {
+    SCOPED_TRACE(name);
+    EXPECT_TRUE(shownWords(name).startsWith("Error")) << shownWords(name).toStdString();
+    rightClick(name);
+    EXPECT_EQ(offers(), (Names{"Cut", "Copy", "Paste"}));
+    choose("Paste");
+    EXPECT_EQ(shownWords(name), "Wren");
+  }
+}
+
 TEST_F(EditMenuTest, WhereNothingCanBeDoneNothingIsShown) {
   QGuiApplication::clipboard()->clear();
   rightClick("userEmail");

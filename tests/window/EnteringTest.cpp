@@ -1,3 +1,5 @@
+#include <QStyleHints>
+
 #include "platform/uikit/UITextInput.h"
 #include "tests/window/WindowFixture.h"
 
@@ -35,6 +37,15 @@ TEST_F(EnteringTest, WhoComposesHasEntered) {
   app.settle();
   EXPECT_EQ(editedName(), "userEmail");
   EXPECT_EQ(shownWords("userEmail"), "");
+}
+
+TEST_F(EnteringTest, WhoPressesTheCaptionSlowlyHasEntered) {
+  const auto caption = app.require("userEmail").mapToScene({20, -8}).toPoint();
+  QTest::mousePress(&app.window(), Qt::LeftButton, {}, caption);
+  QTest::qWait(QGuiApplication::styleHints()->mousePressAndHoldInterval() + 50);
+  QTest::mouseRelease(&app.window(), Qt::LeftButton, {}, caption);
+  app.settle();
+  EXPECT_EQ(editedName(), "userEmail");
 }
 
 TEST_F(EnteringTest, WhoMovesTheCaretHasNot) {
