@@ -11,6 +11,7 @@
 #include <QStyleHints>
 #include <algorithm>
 
+#include "platform/qt/Fingers.h"
 #include "platform/uikit/UIApplication.h"
 #include "platform/uikit/UINavigationController.h"
 
@@ -46,33 +47,6 @@ bool presses(const QKeyEvent& key) {
 
 void goBack() {
   if (auto* application = UIApplication::current()) application->goBack();
-}
-
-// Takes what is lifted from whatever would take it for a tap; what scrolls or drags keeps it.
-void cancelTaps(QPointerEvent& event) {
-  for (const auto& point : event.points()) {
-    const auto* holder = event.exclusiveGrabber(point);
-    const bool drags = holder != nullptr && (holder->inherits("QQuickFlickable") ||
-                                             holder->inherits("QQuickDragHandler"));
-    if (point.state() != QEventPoint::Released || drags) continue;
-    event.setExclusiveGrabber(point, nullptr);
-    event.clearPassiveGrabbers(point);
-  }
-}
-
-// Whether a finger comes while others only rest, on the ground or on what would scroll.
-bool joinsRestingFingers(QPointerEvent& event) {
-  bool joins = false;
-  for (const auto& point : event.points()) {
-    const auto* holder = event.exclusiveGrabber(point);
-    if (point.state() == QEventPoint::Pressed) {
-      joins = true;
-    } else if (holder != nullptr && !holder->property("isGround").toBool()) {
-      const bool mayScroll = holder->inherits("QQuickFlickable");
-      if (!mayScroll || holder->property("dragging").toBool()) return false;
-    }
-  }
-  return joins && event.pointCount() > 1;
 }
 
 // Qt Quick takes a finger's second touch for a double click, and drops it where no item asks for
@@ -139,17 +113,23 @@ bool QtWindow::event(QEvent* event) {
 }
 
 bool QtWindow::deliver(QEvent* event) {
-  if (event->type() == QEvent::TouchUpdate) {
-    auto& touch = static_cast<QTouchEvent&>(*event);
-    // Qt Quick lets one finger at a time do what a pointer does, and controls hear of no other.
-    if (joinsRestingFingers(touch)) {
-      QTouchEvent cancelled(QEvent::TouchCancel, touch.pointingDevice());
-      QQuickWindow::event(&cancelled);
-    }
+  if (event->type() != QEvent::TouchBegin && event->type() != QEvent::TouchUpdate) {
+    return QQuickWindow::event(event);
   }
-  if (event->type() != QEvent::TouchBegin) return QQuickWindow::event(event);
+  auto& touch = static_cast<QTouchEvent&>(*event);
+  if (pressedPoints(touch).isEmpty()) return QQuickWindow::event(event);
   const WithoutDoubleTaps every;
-  return QQuickWindow::event(event);
+  if (!joinsRestingFingers(touch)) return QQuickWindow::event(event);
+  // Qt Quick lets one finger at a time do what a pointer does, and controls hear of no other. What
+  // scrolls would take the resting ones anew, and the event with them.
+  QTouchEvent cancelled(QEvent::TouchCancel, touch.pointingDevice());
+  QQuickWindow::event(&cancelled);
+  QTouchEvent joining(QEvent::TouchBegin, touch.pointingDevice(), touch.modifiers(),
+                      pressedPoints(touch));
+  joining.setTimestamp(touch.timestamp());
+  const bool taken = QQuickWindow::event(&joining);
+  touch.setAccepted(joining.isAccepted());
+  return taken;
 }
 
 // Answers whether the event has come to its end here.
@@ -166,12 +146,14 @@ bool QtWindow::takePress(QEvent& event) {
       if (!pressContinues_) goBack();
       return true;
     case QEvent::TouchBegin:
-      notePointer(static_cast<QPointerEvent&>(event), 0);
-      return false;
-    case QEvent::MouseButtonRelease:
     case QEvent::TouchUpdate:
     case QEvent::TouchEnd:
-      if (pressContinues_) cancelTaps(static_cast<QPointerEvent&>(event));
+    case QEvent::MouseButtonRelease:
+      // Also a finger that comes to others.
+      if (!pressedPoints(static_cast<QPointerEvent&>(event)).isEmpty()) {
+        notePointer(static_cast<QPointerEvent&>(event), 0);
+      }
+      if (pressContinues_) cancelTap(static_cast<QPointerEvent&>(event), pressPoint_);
       return false;
     default:
       return false;
@@ -196,13 +178,19 @@ bool QtWindow::takeKey(QKeyEvent& key) {
 void QtWindow::notePointer(const QPointerEvent& event, int button) {
   usedByKeys_ = false;
   const auto* hints = QGuiApplication::styleHints();
-  const int reach = event.type() == QEvent::TouchBegin
-                        ? std::max(hints->touchDoubleTapDistance(), kFingertip)
-                        : hints->mouseDoubleClickDistance();
-  const Press press{event.pointingDevice(),     button,
-                    event.timestamp(),          event.points().first().position(),
+  const bool byMouse = event.type() == QEvent::MouseButtonPress;
+  const int reach = byMouse ? hints->mouseDoubleClickDistance()
+                            : std::max(hints->touchDoubleTapDistance(), kFingertip);
+  const auto pressed = pressedPoints(event);
+  const auto& point = pressed.isEmpty() ? event.points().first() : pressed.first();
+  const Press press{event.pointingDevice(),     button, event.timestamp(), point.position(),
                     static_cast<double>(reach), false};
-  pressContinues_ = pointer_.continues(press, hints->mouseDoubleClickInterval());
+  // What another button does meanwhile makes no press of its own of one that is held.
+  const bool isHeld =
+      byMouse && static_cast<const QMouseEvent&>(event).buttons() != Qt::MouseButton(button);
+  const bool continued = isHeld && pressContinues_;
+  pressContinues_ = pointer_.continues(press, hints->mouseDoubleClickInterval()) || continued;
+  pressPoint_ = point.id();
 }
 
 void QtWindow::resizeEvent(QResizeEvent* event) {

@@ -49,6 +49,7 @@ class QtWindow : public QQuickWindow {
   PressSeries keys_;
   PressSeries pointer_;
   bool pressContinues_ = false;
+  int pressPoint_ = 0;  // of the finger that pressed last, by the event
 };
 
 }  // namespace leafund

@@ -163,11 +163,11 @@ TEST_F(BackDragTest, ASecondFingerEndsNothingHalfWay) {
   for (const QPoint second : {QPoint(10, 300), QPoint(200, 300)}) {
     drawFromTheEdge(150);
     const auto hands = [this] { return QTest::touchEvent(&app.window(), finger_.get()); };
-    hands().stationary(0).press(1, second);
+    hands().move(0, QPoint(150, kHeight)).press(1, second);
     waitForFrame();
-    hands().move(0, QPoint(200, kHeight)).stationary(1);
+    hands().move(0, QPoint(200, kHeight)).move(1, second);
     waitForFrame();
-    hands().stationary(0).release(1, second);
+    hands().move(0, QPoint(200, kHeight)).release(1, second);
     rest();
     lift({200, kHeight});
     expectNothingHalfWay();

@@ -45,6 +45,13 @@ class FingerTest : public WindowTest {
     QTest::touchEvent(&app.window(), finger_.get()).release(0, where);
     QCoreApplication::processEvents();
   }
+  // By another finger, while the first one rests: a point that QTest calls stationary is told to be
+  // in the window's corner.
+  void tapBeside(QPoint resting, QPoint where) {
+    QTest::touchEvent(&app.window(), finger_.get()).move(0, resting).press(1, where);
+    QTest::touchEvent(&app.window(), finger_.get()).move(0, resting).release(1, where);
+    QCoreApplication::processEvents();
+  }
   void touchItem(const std::string& name) {
     touch(middleOf(name));
     app.settle();

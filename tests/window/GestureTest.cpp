@@ -132,7 +132,7 @@ TEST_F(GestureTest, TwoFingersOnYesBookOnce) {
   const std::unique_ptr<QPointingDevice> hand(QTest::createTouchDevice());
   const auto hands = [&] { return QTest::touchEvent(&app.window(), hand.get()); };
   hands().press(0, yes).press(1, beside);
-  hands().release(0, yes).stationary(1);
+  hands().release(0, yes).move(1, beside);
   hands().release(1, beside);
   touch(yes);  // while the screen slides out
   EXPECT_EQ(screen(), "ThankYouVC");

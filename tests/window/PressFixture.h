@@ -42,8 +42,11 @@ class PressFixture : public FingerTest {
 
   void sendPointer(QPoint where, Qt::MouseButton held, QEvent::Type type,
                    Qt::MouseButton lifted = Qt::NoButton) {
-    qt_handleMouseEvent(&app.window(), where, app.window().mapToGlobal(where), held,
-                        lifted == Qt::NoButton ? held : lifted, type, {}, now_);
+    sendButtons(where, held, type, lifted == Qt::NoButton ? held : lifted);
+  }
+  void sendButtons(QPoint where, Qt::MouseButtons held, QEvent::Type type, Qt::MouseButton which) {
+    qt_handleMouseEvent(&app.window(), where, app.window().mapToGlobal(where), held, which, type,
+                        {}, now_);
     QCoreApplication::processEvents();
   }
 

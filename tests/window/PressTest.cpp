@@ -90,27 +90,65 @@ TEST_F(PressTest, ASecondTouchWhereTheFirstChangedNoScreenCounts) {
   EXPECT_EQ(screen(), "OtherCampaignsTableViewController");
 }
 
-TEST_F(PressTest, ADoubleTapOfAFingerBooksNothing) {
+class DoubleTapTest : public PressFixture {
+ protected:
+  // By a finger whose second touch falls on "Yes", a little beside the first.
+  void expectNoBooking(const std::function<void(QPoint)>& tap) {
+    openCampaign();
+    type("dollarAmountField", "1");
+    app.window().resize(550, 740);  // where Yes comes to lie below the finger
+    ASSERT_TRUE(app.waitUntil([&] { return app.page()->width() == 550; }));
+    for (int i = 0; i < 10; ++i) {  // on a busy machine the second touch may come too late
+      app.settle();
+      const auto fund = middleOf("FundButton");
+      QElapsedTimer time;
+      time.start();
+      tap(fund);
+      app.settle();
+      const auto& yes = app.require("yesButton");
+      ASSERT_TRUE(yes.contains(yes.mapFromScene(fund)));
+      const bool soon = time.elapsed() < 330;
+      if (soon) tap(fund + QPoint(12, -6));
+      ASSERT_EQ(screen(), "ConfirmPageVC");
+      if (soon) return;
+      click("noButton");
+    }
+    FAIL() << "no second touch came in time";
+  }
+};
+
+TEST_F(DoubleTapTest, ItBooksNothing) {
+  expectNoBooking([this](QPoint where) { touch(where); });
+}
+
+TEST_F(DoubleTapTest, BesideAFingerThatRestsItBooksNothing) {
+  const QPoint ground{4, 300};
+  put(ground);
+  expectNoBooking([&](QPoint where) { tapBeside(ground, where); });
+}
+
+TEST_F(DoubleTapTest, BesideAFingerThatRestsItIsTwoTapsWhereNoScreenChanged) {
+  const auto button = middleOf("signInButton");
+  const QPoint ground{4, 300};
+  put(ground);
+  tapBeside(ground, button);
+  EXPECT_EQ(shownWords("password"), "Error: Please Enter a Password");
+  tapBeside(ground, button);
+  EXPECT_EQ(screen(), "OtherCampaignsTableViewController");
+}
+
+TEST_F(PressTest, AnotherButtonMakesNoPressOfTheRestOfADoubleClick) {
   openCampaign();
   type("dollarAmountField", "1");
-  app.window().resize(550, 740);  // where Yes comes to lie below the finger
-  ASSERT_TRUE(app.waitUntil([&] { return app.page()->width() == 550; }));
-  for (int i = 0; i < 10; ++i) {  // on a busy machine the second touch may come too late
-    app.settle();
-    const auto fund = middleOf("FundButton");
-    QElapsedTimer time;
-    time.start();
-    touch(fund);
-    app.settle();
-    const auto& yes = app.require("yesButton");
-    ASSERT_TRUE(yes.contains(yes.mapFromScene(fund)));
-    const bool soon = time.elapsed() < 330;
-    if (soon) touch(fund + QPoint(12, -6));
-    ASSERT_EQ(screen(), "ConfirmPageVC");
-    if (soon) return;
-    click("noButton");
-  }
-  FAIL() << "no second touch came in time";
+  app.settle();
+  const auto fund = middleOf("FundButton");
+  clickTimes(fund, 1);
+  app.settle();
+  sendPointer(fund, Qt::LeftButton, QEvent::MouseButtonPress);
+  sendButtons(fund, Qt::LeftButton | Qt::RightButton, QEvent::MouseButtonPress, Qt::RightButton);
+  sendButtons(fund, Qt::LeftButton, QEvent::MouseButtonRelease, Qt::RightButton);
+  sendPointer(fund, Qt::NoButton, QEvent::MouseButtonRelease, Qt::LeftButton);
+  EXPECT_EQ(screen(), "ConfirmPageVC");
 }
 
 TEST_F(PressTest, TheSecondPressOfADoubleOneEntersNoInput) {

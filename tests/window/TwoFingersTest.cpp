@@ -1,3 +1,5 @@
+#include <QStyleHints>
+
 #include "tests/window/FingerFixture.h"
 
 namespace leafund {
@@ -6,18 +8,16 @@ namespace {
 // A hand that rests on the window keeps no other finger from what it presses.
 class TwoFingersTest : public FingerTest {
  protected:
-  void restOn(QPoint where) { QTest::touchEvent(&app.window(), finger_.get()).press(0, where); }
-  void liftRest(QPoint where) {
-    QTest::touchEvent(&app.window(), finger_.get()).release(0, where);
-    app.settle();
+  void restOn(QPoint where) {
+    resting_ = where;
+    put(where);
   }
-  // By another finger, while the first one rests.
   void tap(QPoint where) {
-    QTest::touchEvent(&app.window(), finger_.get()).stationary(0).press(1, where);
-    QTest::touchEvent(&app.window(), finger_.get()).stationary(0).release(1, where);
+    tapBeside(resting_, where);
     app.settle();
   }
-  std::string screen() { return app.shown()->className(); }
+
+  QPoint resting_;
 };
 
 TEST_F(TwoFingersTest, AFingerThatRestsBesideTheControlsBlocksNoButton) {
@@ -25,7 +25,7 @@ TEST_F(TwoFingersTest, AFingerThatRestsBesideTheControlsBlocksNoButton) {
   restOn(ground);
   tap(middleOf("signUpButton"));
   EXPECT_EQ(screen(), "SignUpVC");
-  liftRest(ground);
+  lift(ground);
   EXPECT_EQ(screen(), "SignUpVC");
 }
 
@@ -45,6 +45,45 @@ TEST_F(TwoFingersTest, AFingerThatRestsInAListBlocksNoTab) {
   restOn({195, 700});  // below the last row
   tap(middleOf("mineTab"));
   EXPECT_EQ(screen(), "MyProfileVC");
+}
+
+// For longer than a tap takes it does nothing there either.
+TEST_F(TwoFingersTest, AFingerThatHasRestedOnARowBlocksNoTab) {
+  signIn();
+  const auto row = middleOf("abc-0");
+  restOn(row);
+  QTest::qWait(QGuiApplication::styleHints()->mousePressAndHoldInterval() + 50);
+  tap(middleOf("mineTab"));
+  EXPECT_EQ(screen(), "MyProfileVC");
+  lift(row);
+  EXPECT_EQ(screen(), "MyProfileVC");
+}
+
+TEST_F(TwoFingersTest, AFingerThatRestsOnAPageKeepsNobodyFromLeavingAnInput) {
+  app.window().resize(568, 320);
+  signIn();
+  ASSERT_TRUE(app.waitUntil([&] { return app.page()->height() == 320; }));
+  click("abc-1");
+  click("dollarAmountField");
+  ASSERT_TRUE(app.application->firstResponder());
+  const QPoint margin{566, 160};
+  restOn(margin);
+  tap({547, 261});
+  EXPECT_FALSE(app.application->firstResponder());
+  tap({547, 261});
+  lift(margin);
+}
+
+TEST_F(TwoFingersTest, AFingerThatHasJustPressedKeepsItsTap) {
+  signIn();
+  const auto row = middleOf("abc-0");
+  const auto tab = middleOf("mineTab");
+  restOn(row);
+  QTest::touchEvent(&app.window(), finger_.get()).move(0, row).press(1, tab);
+  QTest::touchEvent(&app.window(), finger_.get()).release(0, row).move(1, tab);
+  QTest::touchEvent(&app.window(), finger_.get()).release(1, tab);
+  app.settle();
+  EXPECT_EQ(screen(), "OneCampaignViewController");
 }
 
 }  // namespace
