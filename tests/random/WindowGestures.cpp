@@ -73,6 +73,18 @@ void WindowUser::drag(QPointF from, QPointF to, Chance& how) {
   judge(taps, place, true, "a drag");
 }
 
+// On the ground, at the edge of a page that stands still.
+bool WindowUser::putThumb() {
+  const QPointF where(app_.window().width() - 2, app_.window().height() / 2.0);
+  const auto place = placeAt(where);
+  const auto* page = app_.page();
+  const bool stands = page != nullptr && page->x() == 0;
+  if (!stands || !place.sure || place.tap != Taps{"beside"}) return false;
+  hand_.putThumb(where);
+  expect({}, false, "a thumb that is put down");
+  return true;
+}
+
 void WindowUser::goBack(Chance& how) {
   switch (how.below(8)) {
     case 0:

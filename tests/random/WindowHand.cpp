@@ -7,6 +7,7 @@
 #include <QTest>
 #include <QWheelEvent>
 #include <algorithm>
+#include <utility>
 
 #include "tests/support/KeyText.h"
 
@@ -37,8 +38,28 @@ void WindowHand::press(QPointF where, bool byTouch) {
     pointer(QEvent::MouseMove, where, Qt::NoButton, Qt::NoButton);
     return pointer(QEvent::MouseButtonPress, where, Qt::LeftButton, Qt::LeftButton);
   }
-  if (!finger_) finger_.reset(QTest::createTouchDevice());
-  QTest::touchEvent(&window_, finger_.get(), false).press(0, where.toPoint()).commit(false);
+  touch(Finger::Put, where);
+}
+
+void WindowHand::touch(Finger finger, QPointF where) {
+  if (!screen_) screen_.reset(QTest::createTouchDevice());
+  auto points = QTest::touchEvent(&window_, screen_.get(), false);
+  if (thumb_) points.move(0, *thumb_);
+  const int number = thumb_ ? 1 : 0;
+  if (finger == Finger::Put) points.press(number, where.toPoint());
+  if (finger == Finger::Moved) points.move(number, where.toPoint());
+  if (finger == Finger::Lifted) points.release(number, where.toPoint());
+  points.commit(false);
+}
+
+void WindowHand::putThumb(QPointF where) {
+  touch(Finger::Put, where);
+  thumb_ = where.toPoint();
+}
+
+void WindowHand::liftThumb() {
+  const auto where = *std::exchange(thumb_, std::nullopt);
+  touch(Finger::Lifted, where);
 }
 
 void WindowHand::pressBackButton(QPointF where) {
@@ -54,12 +75,12 @@ void WindowHand::clickRight(QPointF where) {
 
 void WindowHand::move(QPointF where, bool byTouch) {
   if (!byTouch) return pointer(QEvent::MouseMove, where, Qt::LeftButton, Qt::NoButton);
-  QTest::touchEvent(&window_, finger_.get(), false).move(0, where.toPoint()).commit(false);
+  touch(Finger::Moved, where);
 }
 
 void WindowHand::release(QPointF where, bool byTouch) {
   if (!byTouch) return pointer(QEvent::MouseButtonRelease, where, Qt::NoButton, Qt::LeftButton);
-  QTest::touchEvent(&window_, finger_.get(), false).release(0, where.toPoint()).commit(false);
+  touch(Finger::Lifted, where);
 }
 
 void WindowHand::wheel(QPointF where, int notches) {

@@ -3,6 +3,7 @@
 #include <QPointF>
 #include <QPointingDevice>
 #include <memory>
+#include <optional>
 
 #include "platform/qt/QtWindow.h"
 #include "tests/random/Chance.h"
@@ -19,6 +20,9 @@ class WindowHand {
   void press(QPointF where, bool byTouch);
   void move(QPointF where, bool byTouch);
   void release(QPointF where, bool byTouch);
+  // A finger that only rests, while others press and are lifted.
+  void putThumb(QPointF where);
+  void liftThumb();
   void pressBackButton(QPointF where);
   void clickRight(QPointF where);
   void wheel(QPointF where, int notches);
@@ -41,11 +45,14 @@ class WindowHand {
 
  private:
   void pointer(QEvent::Type type, QPointF where, Qt::MouseButtons buttons, Qt::MouseButton button);
+  enum class Finger { Put, Moved, Lifted };
+  void touch(Finger finger, QPointF where);
   void draw();
 
   QtWindow& window_;
   FrameClock clock_;
-  std::unique_ptr<QPointingDevice> finger_;
+  std::unique_ptr<QPointingDevice> screen_;
+  std::optional<QPoint> thumb_;
 };
 
 }  // namespace leafund::random

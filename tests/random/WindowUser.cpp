@@ -119,6 +119,7 @@ void WindowUser::tapItem(QQuickItem* item, Chance& how) {
 }
 
 void WindowUser::tapAt(QPointF where, Chance& how, int count, bool byTouch) {
+  const bool besideThumb = byTouch && how.percent(10) && putThumb();
   const Top before = top();
   bool late = lastClick_.soonAfter(hand_.now(), where);
   for (int click = 0; click < count; ++click) {
@@ -139,10 +140,13 @@ void WindowUser::tapAt(QPointF where, Chance& how, int count, bool byTouch) {
            (byTouch ? "touch " : "click ") + std::to_string(click + 1) + " at " + told(where));
     late = late || menu;
     if (top() != before || late) lastClick_.note(hand_.now(), where);
-    if (!told_.empty() || click + 1 == count) return;
+    if (!told_.empty() || click + 1 == count) break;
     if (how.percent(70)) hand_.frames(static_cast<int>(how.between(1, 12)), how);
     expect({}, true, "between clicks");
   }
+  if (!besideThumb) return;
+  hand_.liftThumb();
+  expect({}, false, "a thumb that is lifted");
 }
 
 void WindowUser::longPress(QPointF where, Chance& how) {

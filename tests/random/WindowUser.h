@@ -56,6 +56,7 @@ class WindowUser {
   void tapRow(long row, Chance& how);
   void tapItem(QQuickItem* item, Chance& how);
   void tapAt(QPointF where, Chance& how, int count, bool byTouch);
+  bool putThumb();
   void longPress(QPointF where, Chance& how);
   void clickRight(QPointF where);
   void pressKeys(int key, int count, int repeats, Chance& how);
