@@ -40,6 +40,7 @@ enum class Twist {
   CountIsNotPrinted,
   NoBackFromTheForm,
   AnotherReasonToStop,
+  PledgeIsLost,
   TapIsLost,  // on its way from the window to the application
 };
 

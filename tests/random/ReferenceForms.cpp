@@ -72,7 +72,7 @@ void ReferenceApp::book(Screen& screen) {
   Pledge& pledge = *screen.pledge;
   const float sum = pledge.raised + screen.amount;
   const bool capped = twist_ != Twist::PledgeWithoutCap && !(sum < pledge.goal);
-  pledge.raised = capped ? pledge.goal : sum;
+  if (twist_ != Twist::PledgeIsLost) pledge.raised = capped ? pledge.goal : sum;
   entry(others_, screen.position, screen);
   others_.erase(others_.begin() + static_cast<std::ptrdiff_t>(screen.position));
   funded_.push_front(screen.pledge);
