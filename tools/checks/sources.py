@@ -6,6 +6,8 @@ import re
 import shutil
 import subprocess
 
+from mistakes import mutants
+
 from .tree import Unavailable
 
 FORMAT = "clang-format-19"
@@ -100,9 +102,14 @@ def callers(project):
     ]
 
 
+def stale_mistakes(_project):
+    return [mutant.headline for mutant in mutants() if mutant.stale()]
+
+
 CHECKS = (
     ("headers stand alone", "include in the header what it uses", headers),
     ("headers are read once", "begin it with #pragma once", guards),
     ("C++ is formatted", f"{FORMAT} -i on the files named", formatted),
     ("toolkit operations are used", "take the operation away, or use it", callers),
+    ("mistakes can be made", "give tools/mutants.d the text as it stands, once", stale_mistakes),
 )
