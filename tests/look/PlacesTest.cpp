@@ -1,9 +1,13 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <array>
 #include <cstdlib>
 #include <fstream>
 #include <set>
 #include <sstream>
+#include <string>
+#include <vector>
 
 #include "tests/look/StageApplication.h"
 #include "tests/look/WindowItems.h"
@@ -21,6 +25,40 @@ void collectNames(const UIView& root, std::set<std::string>& names) {
     if (!view->name().empty()) names.insert(view->name());
     collectNames(*view, names);
   }
+}
+
+// A line of the text. What is a hair's breadth wider in another text rendering is rounded to the
+// next point: so much less or more is the same.
+struct Place {
+  std::string name;
+  std::array<int, 4> numbers{};
+  std::string words;
+
+  bool operator==(const Place& other) const {
+    const bool same = std::equal(numbers.begin(), numbers.end(), other.numbers.begin(),
+                                 [](int one, int two) { return std::abs(one - two) <= 1; });
+    return same && name == other.name && words == other.words;
+  }
+  friend std::ostream& operator<<(std::ostream& out, const Place& place) {
+    out << place.name;
+    for (const int number : place.numbers) out << ' ' << number;
+    return out << place.words;
+  }
+};
+
+std::vector<Place> places(const std::string& text) {
+  std::vector<Place> places;
+  std::istringstream lines(text);
+  for (std::string line; std::getline(lines, line);) {
+    std::istringstream words(line);
+    Place& place = places.emplace_back();
+    words >> place.name;
+    if (place.name != "#") {
+      for (int& number : place.numbers) words >> number;
+    }
+    std::getline(words, place.words);
+  }
+  return places;
 }
 
 class PlacesTest : public testing::TestWithParam<QSize> {
@@ -53,7 +91,8 @@ class PlacesTest : public testing::TestWithParam<QSize> {
     }
     std::ifstream file(path);
     const std::string approved{std::istreambuf_iterator<char>(file), {}};
-    EXPECT_EQ(told_.str(), approved) << "If this is how it should be: tools/approve-walk";
+    EXPECT_EQ(places(told_.str()), places(approved))
+        << "If this is how it should be: tools/approve-walk";
   }
 
   StageApplication app_{{}, StageApplication::Pictures::Served, GetParam()};
