@@ -53,9 +53,6 @@ MouseArea {
         parent: offer.area
         acceptedDevices: PointerDevice.TouchScreen | PointerDevice.Stylus
         onPressedChanged: if (pressed) offer.note()
-        // What the desktop takes for a gesture of its own still seems to be pressed.
-        property bool taken: false
-        onGrabChanged: change => taken = change === PointerDevice.UngrabPassive
-        onLongPressed: if (!taken) offer.ask(offer.mapFromItem(offer.area, finger.point.position))
+        onLongPressed: offer.ask(offer.mapFromItem(offer.area, finger.point.position))
     }
 }

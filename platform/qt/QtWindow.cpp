@@ -10,6 +10,7 @@
 #include <QScreen>
 #include <QStyleHints>
 #include <algorithm>
+#include <utility>
 
 #include "platform/qt/Fingers.h"
 #include "platform/uikit/UIApplication.h"
@@ -113,23 +114,54 @@ bool QtWindow::event(QEvent* event) {
 }
 
 bool QtWindow::deliver(QEvent* event) {
-  if (event->type() != QEvent::TouchBegin && event->type() != QEvent::TouchUpdate) {
-    return QQuickWindow::event(event);
+  switch (event->type()) {
+    case QEvent::TouchCancel:
+      return cancel(static_cast<QTouchEvent&>(*event));
+    case QEvent::TouchBegin:
+    case QEvent::TouchUpdate:
+    case QEvent::TouchEnd:
+      return touch(static_cast<QTouchEvent&>(*event));
+    default:
+      return QQuickWindow::event(event);
   }
-  auto& touch = static_cast<QTouchEvent&>(*event);
-  if (pressedPoints(touch).isEmpty()) return QQuickWindow::event(event);
+}
+
+bool QtWindow::touch(QTouchEvent& event) {
+  for (const auto& point : event.points()) {
+    if (point.state() == QEventPoint::Released) fingers_.removeAll(point.id());
+  }
+  const auto pressed = pressedPoints(event);
+  if (pressed.isEmpty()) return QQuickWindow::event(&event);
+  const bool joins = joinsRestingFingers(event);
+  if (joins) {
+    QTouchEvent cancelled(QEvent::TouchCancel, event.pointingDevice());
+    cancel(cancelled);
+  }
+  for (const auto& point : pressed) fingers_.append(point.id());
   const WithoutDoubleTaps every;
-  if (!joinsRestingFingers(touch)) return QQuickWindow::event(event);
+  if (!joins) return QQuickWindow::event(&event);
   // Qt Quick lets one finger at a time do what a pointer does, and controls hear of no other. What
   // scrolls would take the resting ones anew, and the event with them.
-  QTouchEvent cancelled(QEvent::TouchCancel, touch.pointingDevice());
-  QQuickWindow::event(&cancelled);
-  QTouchEvent joining(QEvent::TouchBegin, touch.pointingDevice(), touch.modifiers(),
-                      pressedPoints(touch));
-  joining.setTimestamp(touch.timestamp());
+  QTouchEvent joining(QEvent::TouchBegin, event.pointingDevice(), event.modifiers(), pressed);
+  joining.setTimestamp(event.timestamp());
   const bool taken = QQuickWindow::event(&joining);
-  touch.setAccepted(joining.isAccepted());
+  event.setAccepted(joining.isAccepted());
   return taken;
+}
+
+// What waits for a tap or a long press is told nothing of a cancel by Qt: it would wait on, and
+// take the next tap for the rest of this one. It gives up where a finger is lifted elsewhere.
+bool QtWindow::cancel(QTouchEvent& event) {
+  for (const int finger : std::exchange(fingers_, {})) {
+    QTouchEvent lifted(QEvent::TouchEnd, event.pointingDevice(), {},
+                       {QEventPoint(finger, QEventPoint::Released, {}, {})});
+    const auto& point = lifted.points().first();
+    const auto* holder = lifted.exclusiveGrabber(point);
+    if (holder != nullptr && holder->inherits("QQuickDragHandler")) continue;
+    lifted.setExclusiveGrabber(point, nullptr);
+    QQuickWindow::event(&lifted);
+  }
+  return QQuickWindow::event(&event);
 }
 
 // Answers whether the event has come to its end here.

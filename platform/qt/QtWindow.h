@@ -39,6 +39,8 @@ class QtWindow : public QQuickWindow {
  private:
   void fit();
   bool deliver(QEvent* event);
+  bool touch(QTouchEvent& event);
+  bool cancel(QTouchEvent& event);
   bool takePress(QEvent& event);
   bool takeKey(QKeyEvent& key);
   void notePointer(const QPointerEvent& event, int button);
@@ -49,7 +51,9 @@ class QtWindow : public QQuickWindow {
   PressSeries keys_;
   PressSeries pointer_;
   bool pressContinues_ = false;
-  int pressPoint_ = 0;  // of the finger that pressed last, by the event
+  // By the event: the finger that pressed last, and those on the screen.
+  int pressPoint_ = 0;
+  QList<int> fingers_;
 };
 
 }  // namespace leafund
