@@ -40,6 +40,7 @@ Column {
     // too wide. A sum wider than the card goes on in the next line.
     Item {
         id: sums
+        readonly property real blank: Theme.half * WindowClass.growth
         readonly property bool stacked: raised.width + word.width + goal.width + 2 * Theme.unit > width
         width: parent.width
         height: stacked ? goal.y + goal.height : raised.height
@@ -56,7 +57,7 @@ Column {
         // A reader hears it with the sum.
         Text {
             id: word
-            anchors { right: goal.left; rightMargin: Theme.half; baseline: goal.baseline }
+            anchors { right: goal.left; rightMargin: sums.blank; baseline: goal.baseline }
             visible: goal.visible
             text: funds.goal.accessibleName
             textFormat: Text.PlainText
@@ -68,8 +69,8 @@ Column {
             id: goal
             view: funds.goal
             anchors.right: parent.right
-            y: sums.stacked ? raised.height : (raised.height - height) / 2
-            width: Math.min(implicitWidth, parent.width - word.width - Theme.half)
+            y: sums.stacked ? raised.height : raised.baselineOffset - baselineOffset
+            width: Math.min(implicitWidth, parent.width - word.width - sums.blank)
             wrapMode: Text.WrapAnywhere
             horizontalAlignment: Text.AlignRight
             font.weight: Font.DemiBold

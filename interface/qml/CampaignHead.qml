@@ -50,8 +50,9 @@ Item {
             // One line in the middle, or two where the name is long; not mirrored, as words are read.
             Item {
                 id: maker
-                readonly property bool stacked: by.width + Theme.half + creator.implicitWidth > width
-                readonly property real start: (width - by.width - Theme.half - creator.width) / 2
+                readonly property real blank: Theme.half * WindowClass.growth
+                readonly property bool stacked: by.width + blank + creator.implicitWidth > width
+                readonly property real start: (width - by.width - blank - creator.width) / 2
                 width: parent.width
                 height: creator.y + creator.height
                 Words {
@@ -63,7 +64,7 @@ Item {
                 Words {
                     id: creator
                     view: head.creator
-                    x: maker.stacked ? 0 : maker.start + by.width + Theme.half
+                    x: maker.stacked ? 0 : maker.start + by.width + maker.blank
                     y: maker.stacked ? by.height : 0
                     width: maker.stacked ? parent.width : implicitWidth
                     horizontalAlignment: Text.AlignHCenter

@@ -16,8 +16,8 @@ Item {
         color: Theme.hillFar
     }
     Repeater {
-        model: [{ x: 0.68, y: 0.3, size: Theme.icon }, { x: 0.8, y: 0.18, size: Theme.wide },
-                { x: 0.12, y: 0.42, size: Theme.wide }]
+        model: [{ x: 0.68, y: 0.59, size: Theme.icon }, { x: 0.8, y: 0.49, size: Theme.wide },
+                { x: 0.12, y: 0.34, size: Theme.wide }]
         IconItem {
             required property var modelData
             width: modelData.size

@@ -75,7 +75,7 @@ Rectangle {
 
     Row {
         id: trailing
-        anchors { right: parent.right; rightMargin: Math.max(Theme.unit, bar.columnEnd - Theme.unit) }
+        anchors { right: parent.right; rightMargin: bar.columnEnd }
         anchors.verticalCenter: parent.verticalCenter
     }
 

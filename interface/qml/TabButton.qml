@@ -15,7 +15,7 @@ Pressable {
     readonly property real signHeight: sign.height
     // How high it is where there is room.
     readonly property real comfortable: words.height + 2 * Theme.unit
-    readonly property color iconColor: view.selected ? tint : Theme.quiet
+    readonly property color iconColor: view.selected ? tint : Theme.tabQuiet
 
     objectName: view.name
     visible: view.visible
@@ -52,7 +52,7 @@ Pressable {
             width: 2 * height
             height: Theme.icon + Theme.half
             radius: height / 2
-            color: tab.view.selected ? Theme.accentPale : Theme.none
+            color: tab.view.selected ? Theme.tabField : Theme.none
             IconItem {
                 anchors.centerIn: parent
                 width: Theme.icon
@@ -66,7 +66,7 @@ Pressable {
             horizontalAlignment: Text.AlignHCenter
             text: tab.view.text
             textFormat: Text.PlainText
-            color: tab.view.selected ? tab.view.selectedTitleColor : Theme.quiet
+            color: tab.view.selected ? tab.view.selectedTitleColor : Theme.tabQuiet
             font { pointSize: Math.max(1, Theme.lead * tab.share); weight: tab.view.selected ? Font.Bold : Font.Medium }
             Accessible.ignored: true
         }

@@ -10,10 +10,11 @@ function writeText(element, look) {
   if (look.text === undefined) return;
   element.textContent = look.text;
   element.classList.toggle("long", look.text.length > 48);
+  if (element.matches(".sum")) element.style.setProperty("--letters", look.text.length || 1);
   if (!look.label) return;
   const label = document.createElement("span");
   label.className = "unseen";
-  label.textContent = `${look.label}: `;
+  label.textContent = `${look.label} `;
   element.prepend(label);
 }
 
