@@ -77,6 +77,7 @@ runWindow() {
   runTool "random window" '^[0-9]+ sequences, ' '^seed .* diverges' \
     "$folder/tests/random/random_window" --actions 20000 --seed "$RANDOM" --jobs "$jobs"
   runLargePictures
+  runTool scarce ': done$' '^$^' tools/scarce "$folder/shell/leafund"
 }
 
 # Pictures that are large, or made to take long.
