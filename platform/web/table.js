@@ -24,7 +24,10 @@ export function bindTable(element, id) {
     const jumped = Math.abs(top - last) > 4 * box.clientHeight || top <= 0 || top >= travel();
     if (look.height > tallest && jumped) shift = top / travel() * reach() - top;
     last = top;
-    tell("scroll", id, Math.max(0, Math.min(reach(), top + shift)), look.placements);
+    const offset = Math.max(0, Math.min(reach(), top + shift)), drawn = look;
+    tell("scroll", id, offset, look.placements);
+    // The program draws anew when other rows come; in between all move together.
+    if (look === drawn) element.style.translate = `0 ${look.offset - offset}px`;
   });
   box.addEventListener("scrollend", () => look.height > tallest && place(last + shift));
   return next => {
@@ -38,6 +41,7 @@ export function bindTable(element, id) {
     empty.firstElementChild.textContent = look.emptyHeading ?? "";
     empty.lastElementChild.textContent = look.emptySentence ?? "";
     if (placed) place(look.offset);
+    element.style.translate = "";
     const held = element.contains(document.activeElement) && document.activeElement.closest("li"), had = rowOf;
     rowOf = new Map();
     let before = null;

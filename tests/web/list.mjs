@@ -69,6 +69,20 @@ export const tests = {
       expect(Math.abs(after - before - by) <= 1.5, `from ${before} by ${by}, and not by ${after - before}`);
     }
   }),
+  rowsFollowTheFingerPointByPoint: async ({ page, app }) => {
+    await app.signIn();
+    await shown(page, "OtherCampaignsTableViewController");
+    await page.mouse.move(190, 400);
+    for (const place of [30, 60, 90, 120, 150, 180, 140]) {
+      const moved = await page.$eval(".screen .table", each => each.scrollTop);
+      await page.mouse.wheel({ deltaY: place - moved });
+      await page.waitForFunction(place => document.querySelector(".screen .table").scrollTop === place, {}, place);
+      await rest(page);
+      const tops = await page.$$eval(".screen li:not([hidden])", (found, height) => found.map(each =>
+        each.getBoundingClientRect().top - each.closest(".table").getBoundingClientRect().top - (each.ariaPosInSet - 1) * height), rowHeight);
+      expect(tops.length > 3 && tops.every(top => Math.abs(top + place) < 0.5), `${place} px further up: ${tops}`);
+    }
+  },
   pageDownFromTheMiddleMissesNoRow: withLongList(async ({ page }) => {
     await page.focus(".screen .table");
     await page.$eval(".screen .table", each => { each.scrollTop = each.scrollHeight / 3; });
