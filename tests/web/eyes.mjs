@@ -38,10 +38,14 @@ export function openEyes() {
     if (row) return ["row", row.ariaPosInSet - 1];
     return control.dataset.view ? [control.matches("label") ? "enter" : "tap", control.dataset.view] : null;
   };
-  // A second tap of a finger within 400 ms goes on with the first, however the browser counts it.
-  addEventListener("click", ({ detail, target, timeStamp }) => {
-    const goesOn = detail > 1 || timeStamp - window.lastClick?.timeStamp < 400;
-    window.lastClick = { timeStamp, goesOn, what: window.whatIsIn(target) };
+  // A second tap of a finger within 400 ms, and near by, goes on with the first, however the browser counts it.
+  // A label's click makes one more, on its input.
+  window.clicks = [];
+  let last = null;
+  addEventListener("click", ({ detail, target, timeStamp, clientX, clientY }) => {
+    const isNear = last && timeStamp - last.timeStamp < 400 && Math.hypot(clientX - last.clientX, clientY - last.clientY) < 24;
+    if (detail > 0) last = { timeStamp, clientX, clientY };
+    window.clicks.push({ goesOn: detail > 1 || (detail > 0 && isNear), what: window.whatIsIn(target) });
   }, true);
 }
 
@@ -58,6 +62,13 @@ export const look = page => page.evaluate(() => {
   }
   const rows = screens.flatMap(each => [...each.querySelectorAll(":scope > .table li")]).filter(each => each.checkVisibility())
     .map(each => ({ row: each.ariaPosInSet - 1, title: each.querySelector(".title").textContent }));
+  for (const list of screens.flatMap(each => [...each.querySelectorAll(":scope > .table")]).filter(each => each.checkVisibility())) {
+    for (const each of list.querySelectorAll("li:not([hidden])")) {
+      const { top, height } = each.getBoundingClientRect();
+      const stands = top - list.getBoundingClientRect().top, place = (each.ariaPosInSet - 1) * height - list.scrollTop;
+      if (Math.abs(stands - place) > 1) faults.push(`row ${each.ariaPosInSet - 1} stands at ${stands} and not ${place}`);
+    }
+  }
   const inFocus = document.activeElement.closest(".screen");
   if (inFocus && !screens.includes(inFocus)) faults.push("what has the focus is not shown");
   if (screens.filter(each => each.parentElement.id === "screens").length !== 1) faults.push("not one screen is shown");

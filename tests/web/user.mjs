@@ -4,9 +4,12 @@ import { pressBack, rest } from "./verbs.mjs";
 
 const address = "http://127.0.0.1:9/none.jpg";  // nobody answers there, so the picture stays empty
 const texts = ["wren@example.org", "secret", "25", "1.50", "0", "nan", "x", "Rain Barrels", "Ärger 🌱 für מחר", "<b>&amp;</b>"];
+const amounts = texts.filter(text => Number(text) >= 0);
+const leadsOn = /^(signIn|Fund|yes|create)Button$/;
 const sizes = [[390, 844], [320, 568], [844, 390], [768, 1024], [1280, 800]];
 const patience = 5_000;  // milliseconds
 const pause = ms => new Promise(done => setTimeout(done, ms));
+const takeClicks = page => page.evaluate(() => window.clicks.splice(0));
 
 // Real ones, by a finger or a mouse.
 export const outsideHand = page => ({
@@ -26,7 +29,7 @@ export const outsideHand = page => ({
   },
   async scroll({ x, y }, lot) {
     await page.mouse.move(x, y);
-    await page.mouse.wheel({ deltaY: lot.between(-900, 900) });
+    await page.mouse.wheel({ deltaY: lot.percent(50) ? lot.between(-900, 900) : lot.between(-200, 200) });
     await page.evaluate(() => new Promise(done => {
       let timer = setTimeout(done, 150);
       addEventListener("scroll", () => { clearTimeout(timer); timer = setTimeout(done, 150); }, true);
@@ -49,11 +52,12 @@ export const insideHand = page => ({
     input.value = text;
     input.dispatchEvent(new InputEvent("input", { bubbles: true }));
   }, text),
-  scroll: ({ x, y }, lot) => page.evaluate(async (x, y, share) => {
+  // To anywhere, or a little further.
+  scroll: ({ x, y }, lot) => page.evaluate(async (x, y, share, by) => {
     const box = document.elementFromPoint(x, y)?.closest("main");
-    if (box) box.scrollTop = share * box.scrollHeight;
+    if (box) box.scrollTop = by ? box.scrollTop + by : share * box.scrollHeight;
     await new Promise(done => requestAnimationFrame(() => requestAnimationFrame(done)));
-  }, x, y, lot.draw()),
+  }, x, y, lot.draw(), lot.percent(50) && lot.between(-200, 200)),
   back: () => page.evaluate(() => new Promise(done => {
     addEventListener("popstate", done, { once: true });
     history.back();
@@ -64,21 +68,28 @@ export const insideHand = page => ({
 export class User {
   constructor(surroundings) { Object.assign(this, surroundings); }
 
-  // One action, in the page and in the reference; its words.
+  // One action, in the page and in the reference; its words. Who is in a hurry does not wait until it stands still.
   async act() {
     const { lot, reference } = this;
-    const inputs = this.inSight("input").map(({ name }) => () => this.type(name));
+    const wasInHurry = this.isInHurry;
+    this.isInHurry = this.hand.real && lot.percent(30);
+    // Three times as likely what fills a form, and what leads on.
+    const often = (action, likely) => Array(likely ? 3 : 1).fill(action);
+    const inputs = this.inSight("input").flatMap(({ name, text }) => often(() => this.type(name), !text));
     // A campaign without an address would stop the application, as it should.
     const incomplete = reference.views.some(({ name, text }) => name === "imageURL" && text !== address);
     const controls = this.inSight("button", "tab").filter(({ name }) => name !== "createButton" || !incomplete)
-      .map(({ name }) => () => this.tap(`[data-view="${name}"]`));
+      .flatMap(({ name }) => often(() => this.tap(`[data-view="${name}"]`), leadsOn.test(name)));
     const row = () => this.tap("li:not([hidden])"), anywhere = () => this.tapAnywhere();
+    if (wasInHurry && incomplete) await this.hand.rest();
     const choices = [...inputs, ...controls, ...Array(incomplete ? 0 : 2).fill(anywhere), () => this.resize(),
       ...(reference.rows.length ? [row, row, row, () => this.scroll(), () => this.scroll()] : []),
       ...(reference.back ? [() => this.tap(".back")] : []),
       ...(reference.screen === "LandingPageVC" ? [] : [() => this.goBack()]),
       ...(this.hand.real && !incomplete ? [() => this.useKeys(), () => this.useKeys()] : [])];
+    if (wasInHurry && this.tapped && !incomplete) choices.push(...Array(choices.length).fill(() => this.tapAgain()));
     await lot.oneOf(choices)();
+    if (wasInHurry) this.doing += ", in a hurry";
     await this.compare();
     return this.doing;
   }
@@ -93,29 +104,48 @@ export class User {
     await this.tapAt(async () => ({ ...point, what: await this.page.evaluate(eyes.whatIsAt, point.x, point.y) }));
   }
 
-  // Once or twice in quick succession: where the first changes the screen, the second belongs to it.
+  // Where it tapped before: on a screen that comes meanwhile this may be the rest of a double tap.
+  async tapAgain() {
+    const point = this.tapped;
+    await this.tapAt(async () => point);
+  }
+
+  // Once or twice in quick succession.
   async tapAt(find) {
-    const { lot, reference } = this, twice = this.hand.real && lot.percent(30), before = reference.screen;
-    const point = await find();
+    const { lot } = this, twice = this.hand.real && lot.percent(30), point = await find();
     if (!point) return void (this.doing = "nothing there to tap");
+    this.tapped = point;
     this.doing = `tap ${twice ? "twice " : ""}at ${Math.round(point.x)}, ${Math.round(point.y)}: ${point.what?.join(" ")}`;
-    await this.expect(point.what);
     await this.hand.click(point, lot, twice);
-    if (!this.hand.real) return;
-    const { goesOn, what } = await this.page.evaluate(() => window.lastClick);
-    if (twice && (reference.screen === before || !goesOn)) await this.expect(what);
-    await pause(500);
+    if (!this.hand.real) return void (await this.expect(point.what));
+    await this.expectClicks();
+    if (!this.isInHurry) await pause(500);
+  }
+
+  // What was clicked, as the page had it under the finger by then: the rest of a multiple click that changed the
+  // screen belongs to that.
+  async expectClicks() {
+    for (const { goesOn, what } of await takeClicks(this.page)) {
+      if (!goesOn) this.pressedOn = this.reference.screen;
+      if (this.pressedOn === this.reference.screen) await this.expect(what);
+    }
   }
 
   async expect(what) { if (what) await this.reference.do(...what); }
 
   async type(name) {
-    const { lot } = this, point = await this.page.evaluate(eyes.pointIn, `[data-view="${name}"]`, lot.draw(), lot.draw());
-    const text = name === "imageURL" ? address : lot.percent(10) ? "" : lot.oneOf(texts);
+    const { lot } = this;
+    await this.hand.rest();
+    if (this.hand.real) await pause(400);  // not the rest of a double tap
+    const point = await this.page.evaluate(eyes.pointIn, `[data-view="${name}"]`, lot.draw(), lot.draw());
+    const text = name === "imageURL" ? address : lot.percent(10) ? "" :
+      lot.oneOf(/^d/.test(name) ? amounts : texts);  // dollarAmountField, desiredFunding
     this.doing = `type ${text} into ${name}`;
     if (!point) return;
     await this.expect(["enter", name]);
     await this.hand.click(point, lot);
+    this.pressedOn = this.reference.screen;
+    await takeClicks(this.page);
     await this.hand.fill(text);
     await this.expect(["type", name, text]);
     const hasLines = await this.page.evaluate(() => document.activeElement.matches("textarea"));
@@ -140,7 +170,7 @@ export class User {
       await page.keyboard.press("Tab");
       what = await this.enterFocused();
     }
-    const key = lot.oneOf(["Enter", " "]), before = reference.screen;
+    const key = lot.oneOf(["Enter", " "]), before = this.pressedOn = reference.screen;
     this.doing = `Tab to ${what?.join(" ")}`;
     if (!what || what[0] === "enter") return;
     this.doing += key === " " ? " and Space" : " and Return";
@@ -149,6 +179,7 @@ export class User {
     await pause(50);  // Firefox takes no shorter press for one
     if (key === "Enter" && reference.screen !== before) await page.keyboard.down(key);
     await page.keyboard.up(key);
+    await takeClicks(page);
   }
 
   async scroll() {
@@ -177,7 +208,7 @@ export class User {
       if (Date.now() > end) throw new Error(differences.join("\n     "));
       await pause(10);
     }
-    await this.hand.rest();
+    if (!this.isInHurry) await this.hand.rest();
   }
 
   differences({ views, rows, faults }) {
