@@ -1,7 +1,14 @@
 // Begins, and says so where that fails.
 const stopped = document.getElementById("stopped");
 stopped.querySelector("button").addEventListener("click", () => stopped.close());
-stopped.addEventListener("close", () => location.reload());
+stopped.addEventListener("close", async () => {
+  const reload = () => location.reload(), worker = navigator.serviceWorker;
+  // A version that waits for its turn may do better.
+  const waiting = (await worker?.getRegistration())?.waiting;
+  if (!waiting) return reload();
+  worker.addEventListener("controllerchange", reload);
+  waiting.postMessage("");
+});
 
 if (/^(ar|fa|he|ur|yi)\b/.test(navigator.language)) document.documentElement.dir = "rtl";
 

@@ -4,26 +4,30 @@
 import { isRunning, tell } from "./program.js";
 import { shown } from "./screens.js";
 
-let level = history.state ?? 0, returning = false;
+let level = history.state ?? 0, returning = false, made = false;
+export let hasSlid = false;  // the browser itself has shown how the screen comes back
 
 export function keepLevel() {
   const wanted = shown.depth - 1;
+  made ||= shown.element.dataset.scene === "ThankYouVC";
   if (returning) return;
   while (level < wanted) history.pushState(++level, "");
   if (level > wanted) { returning = true; history.go(wanted - level); }
 }
 
-addEventListener("popstate", () => {
+addEventListener("popstate", event => {
   const goesBack = !returning && (history.state ?? 0) < level;
   level = history.state ?? 0;
   returning = false;
+  hasSlid = event.hasUAVisualTransition;
   if (goesBack) tell("goBack");
+  hasSlid = false;
   if (isRunning) keepLevel();
 });
 
-// What was typed into the screen shown would be lost.
+// What was typed into the screen shown would be lost, and what was pledged or created.
 addEventListener("beforeunload", event => {
   const typed = [...shown?.element.querySelectorAll("input, textarea") ?? []]
     .some(input => input.value && !input.message);
-  if (typed && isRunning) event.preventDefault();
+  if ((typed || made) && isRunning) event.preventDefault();
 });

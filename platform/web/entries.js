@@ -8,7 +8,11 @@ function say(message) {
   setTimeout(() => text.remove(), 2_000);
 }
 
-const markWrong = input => { input.ariaInvalid = String(!!(input.message || input.refused)); };
+// What is the same is not set anew: a phone would draw its keyboard again at every letter.
+function set(element, property, value) { if (element[property] !== value) element[property] = value; }
+
+const markWrong = input => set(input, "ariaInvalid", String(!!(input.message || input.refused)));
+const writesComma = () => new Intl.NumberFormat(navigator.language).format(0.5).includes(",");
 
 // What a message has just come for; of several the topmost.
 let told = null;
@@ -33,26 +37,28 @@ export function bindEntry(element, id) {
   // Some browsers give a letter beyond the first plane by halves.
   const edit = () => tell("edit", id, ...givenText(input.value));
   input.addEventListener("input", () => (/\p{Surrogate}/u.test(input.value) ? setTimeout(edit) : edit()));
-  // Where people write sums with a comma, a phone's keyboard for numbers has no point.
+  // Where people write sums with a comma, a phone's keyboard for numbers has no point. Elsewhere a comma divides
+  // thousands, and what has one is refused.
   input.addEventListener("beforeinput", event => {
-    if (event.data !== "," || input.inputMode !== "decimal" || !matchMedia("(pointer: coarse)").matches) return;
+    if (event.data !== "," || input.inputMode !== "decimal" || !matchMedia("(pointer: coarse)").matches || !writesComma()) return;
     event.preventDefault();
     input.setRangeText(".", input.selectionStart, input.selectionEnd, "end");
     edit();
   });
   if (input.tagName === "INPUT")
     input.addEventListener("keydown", event => {
-      if (event.key !== "Enter" || event.isComposing) return;
+      // Safari tells of the key that ends a composition when that has ended, by this code.
+      if (event.key !== "Enter" || event.isComposing || event.keyCode === 229) return;
       tell("pressReturn", id);
       if (input.enterKeyHint === "next") inputAfter(input).focus();
       if (input.enterKeyHint === "done") input.blur();
     });
   let announced = "", editing = false;
   return look => {
-    caption.textContent = look.placeholder;
-    input.inputMode = ["text", "email", "decimal", "url"][look.keyboard];
-    if (input.tagName === "INPUT") input.type = look.masked ? "password" : "text";
-    if (input.value !== look.text) input.value = look.text;
+    set(caption, "textContent", look.placeholder);
+    set(input, "inputMode", ["text", "email", "decimal", "url"][look.keyboard]);
+    if (input.tagName === "INPUT") set(input, "type", look.masked ? "password" : "text");
+    set(input, "value", look.text);
     input.classList.toggle("wrong", !!look.wrong);
     input.message = !!look.message;
     markWrong(input);

@@ -29,9 +29,10 @@ export { memory } from "./program.js";
 
 export async function start(source) {
   await load(source);
-  const room = () => [innerWidth, innerHeight, parseFloat(getComputedStyle(document.documentElement).getPropertyValue("--tabs"))];
+  const area = document.getElementById("screens");
+  const room = () => [area.clientWidth, area.clientHeight, parseFloat(getComputedStyle(document.documentElement).getPropertyValue("--tabs"))];
   tell("start", ...room());
-  addEventListener("resize", () => tell("resize", ...room()));
+  new ResizeObserver(() => tell("resize", ...room())).observe(area);
   let inFront = true;
   const bringToFront = front => {
     if (front === inFront) return;

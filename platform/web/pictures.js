@@ -12,7 +12,6 @@ export async function setPicture(image, blob) {
   if (blob && blob.type !== "image/jpeg") blob = await still(blob).catch(() => null);
   if (image.turn !== turn) return;
   URL.revokeObjectURL(image.src);
-  image.onerror = () => image.removeAttribute("src");
   if (blob) image.src = URL.createObjectURL(blob);
   else image.removeAttribute("src");
 }

@@ -19,6 +19,9 @@ addEventListener("click", event => {
     Math.hypot(clientX - before.clientX, clientY - before.clientY) < 24), event);
 }, true);
 
+// Safari draws what is held only where somebody listens to fingers.
+addEventListener("touchstart", () => {}, { passive: true });
+
 // Where the pointer went down: who selects text may let go of it elsewhere.
 export let downOn = null;
 addEventListener("pointerdown", event => { downOn = event.target; }, true);

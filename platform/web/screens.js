@@ -1,6 +1,6 @@
 // The screens: their elements, which of them is shown, and how it comes.
 import { jsonAt, tell } from "./program.js";
-import { keepLevel } from "./back.js";
+import { hasSlid, keepLevel } from "./back.js";
 import { downOn } from "./presses.js";
 import { bind } from "./views.js";
 
@@ -31,6 +31,8 @@ export function addScene(id, place, at, size) {
     if (![event.target, downOn ?? event.target].some(each => each.closest("button, label, li"))) tell("tap", numbers.root);
     event.stopPropagation();
   });
+  // Some browsers give the focus to no button that a finger presses.
+  element.addEventListener("click", ({ target }) => { element.left = target.closest("button"); }, true);
   scenes.set(id, element);
   (scenes.get(place)?.querySelector("[data-view=tabs]") ?? by("screens")).append(element);
 }
@@ -61,7 +63,7 @@ export function show(at, size) {
 function enter(element, forward) {
   const calm = matchMedia("(prefers-reduced-motion: reduce)").matches;
   const mirrored = getComputedStyle(element).direction === "rtl";
-  const from = calm ? { opacity: 0 } : { translate: `${(forward ? 100 : -33) * (mirrored ? -1 : 1)}% 0` };
+  const from = hasSlid ? {} : calm ? { opacity: 0 } : { translate: `${(forward ? 100 : -33) * (mirrored ? -1 : 1)}% 0` };
   element.animate([from, {}], { duration: calm ? 100 : 200, easing: "ease-out" });
   const left = forward ? [] : [element.left];
   [...left, ...element.querySelectorAll("h1")].find(each => each && isSeen(each))?.focus({ preventScroll: true });
@@ -69,6 +71,6 @@ function enter(element, forward) {
 
 // The keys that scroll do so wherever on a screen the focus is.
 addEventListener("keydown", ({ key, target }) => {
-  if (!/^(Page|Home|End|Arrow(Up|Down)| )/.test(key) || target.closest("main, nav") || (key === " " && target.closest("button"))) return;
+  if (!/^(Page|Home|End|Arrow(Up|Down)| )/.test(key) || target.closest(key.startsWith("Arrow") ? "main, nav" : "main") || (key === " " && target.closest("button"))) return;
   [...shown?.element.querySelectorAll("main") ?? []].find(isSeen)?.focus({ preventScroll: true });
 }, true);

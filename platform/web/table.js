@@ -56,9 +56,12 @@ export function bindTable(element, id) {
       if (had.get(item) === row) before = item;
       else before = element.insertBefore(item, before ? before.nextElementSibling : element.firstElementChild);
     }
-    // The row in focus has gone out of sight: its nearest neighbour takes it, once all are drawn.
-    if (!held || rowOf.get(held) === had.get(held)) return;
-    const rows = [...rowOf.keys()], neighbour = rows.at(had.get(held) < rowOf.get(rows[0]) ? 1 : -2) ?? rows[0];
-    queueMicrotask(() => neighbour?.firstElementChild.focus({ preventScroll: true }));
+    // The row in focus is drawn elsewhere, or has gone out of sight: then its nearest neighbour takes the focus, once
+    // all are drawn.
+    const left = had.get(held);
+    if (!held || rowOf.get(held) === left) return;
+    const rows = [...rowOf.keys()];
+    const heir = rows.find(each => rowOf.get(each) === left) ?? rows.at(left < rowOf.get(rows[0]) ? 1 : -2) ?? rows[0];
+    queueMicrotask(() => heir?.firstElementChild.focus({ preventScroll: true }));
   };
 }

@@ -59,11 +59,14 @@ const bindings = {
     element.value = look.value;
     element.ariaLabel = look.label;
   },
-  IMG: element => look => {
-    element.alt = look.label ?? "";
-    element.style.objectFit = look.fill ? "cover" : "fill";
-    if (look.radius) element.style.borderRadius = `${look.radius}px`;
-    if (look.border) element.style.border = `${look.border}px solid ${look.borderColor}`;
+  IMG(element) {
+    element.onerror = () => element.removeAttribute("src");
+    return look => {
+      element.alt = look.label ?? "";
+      element.style.objectFit = look.fill ? "cover" : "fill";
+      if (look.radius) element.style.borderRadius = `${look.radius}px`;
+      if (look.border) element.style.border = `${look.border}px solid ${look.borderColor}`;
+    };
   },
   UL: bindTable,
   LI(element, id) {

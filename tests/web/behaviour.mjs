@@ -1,8 +1,7 @@
 // What only the page does.
 import fs from "node:fs";
-import { serve } from "./server.mjs";
 import { expect } from "./testing.mjs";
-import { pressBack, rest, shown, verbsFor } from "./verbs.mjs";
+import { pressBack, rest, shown } from "./verbs.mjs";
 
 export const tests = {
   async everyViewHasItsOneElement({ page, app, errors }) {
@@ -59,20 +58,6 @@ export const tests = {
     await shown(page, "ConfirmPageVC");
     expect(clicks === 1, `one tap, and not ${clicks}`);
   },
-  async textSelectedBeyondItsBoxIsNoTapBesideIt({ page, app }) {
-    await app.signIn();
-    await app.tap("mineTab");
-    await app.tap("newButton");
-    await shown(page, "NewCampaignVC");
-    await app.type("nameOfCreator", "wren@example.org");
-    const { x, y } = await page.$eval("[data-view=nameOfCreator] input", each => each.getBoundingClientRect().toJSON());
-    await page.mouse.move(x + 60, y + 10);
-    await page.mouse.down();
-    await page.mouse.move(5, y - 20, { steps: 4 });
-    await page.mouse.up();
-    const input = await page.$eval("[data-view=nameOfCreator] input", each => [document.activeElement === each, each.selectionEnd - each.selectionStart]);
-    expect(input[0] && input[1] > 2, `the user goes on in the input: ${input}`);
-  },
   async picturesOfScreensThatWereLeftAreLetGo({ page, app }) {
     await page.evaluate(() => {
       window.held = new Set();
@@ -120,45 +105,6 @@ export const tests = {
         `at ${size} px whole lines in 129: ${title} and ${detail} of ${line}`);
     }
   },
-  async returnLeadsFromInputToInputAndEndsInTheLast({ page, app }) {
-    const inFocus = () => page.evaluate(() => document.activeElement.closest("[data-view]")?.dataset.view ?? "none");
-    await app.type("userEmail", "wren@example.org");
-    await page.keyboard.press("Enter");
-    expect(await inFocus() === "password", `the next input, not ${await inFocus()}`);
-    await page.keyboard.press("Enter");
-    expect(await inFocus() === "none", `no input, not ${await inFocus()}`);
-    await shown(page, "LandingPageVC");
-  },
-  // As Firefox gives it for one key.
-  async aLetterThatComesByHalvesIsOne({ page, app }) {
-    const shownThen = await page.$eval("[data-view=userEmail] input", async input => {
-      input.focus();
-      for (const half of "🌱".split("")) {
-        input.value += half;
-        input.dispatchEvent(new InputEvent("input", { bubbles: true }));
-      }
-      await new Promise(done => setTimeout(done, 50));
-      return input.value;
-    });
-    expect(shownThen === "🌱", `the letter stands there, not ${shownThen}`);
-    await app.tap("signInButton");
-    expect(await app.text("userEmail") === "🌱", "and stays");
-  },
-  async theCommaOfAPhonesKeyboardForNumbersIsAPoint({ page, app, newPage }) {
-    const typed = async ({ page, app }) => {
-      await app.signIn();
-      await app.tapRow(0);
-      await shown(page, "OneCampaignViewController");
-      await app.type("dollarAmountField", "12,50");
-      return app.text("dollarAmountField");
-    };
-    expect(await typed({ page, app }) === "12.50", `a point, not ${await app.text("dollarAmountField")}`);
-    const desk = await newPage({ width: 800, height: 844 });
-    await desk.page.goto(page.url());
-    await shown(desk.page, "LandingPageVC");
-    expect(await typed({ page: desk.page, app: verbsFor(desk.page) }) === "12,50", "on a desk it is what was pressed");
-    await desk.close();
-  },
   async aSlideMakesThePageNoWider({ page }) {
     const widths = await page.evaluate(async () => {
       const seen = [];
@@ -179,6 +125,11 @@ export const tests = {
       const nav = await boxOf("nav");
       const expected = rail ? [0, rail, height] : [height - 64, width, 64];
       expect([nav.top, nav.width, nav.height].join() === expected.join(), `${width} × ${height}: ${expected}, not ${[nav.top, nav.width, nav.height]}`);
+    }
+    for (const height of [360, 300, 280]) {
+      await app.resize(640, height);
+      const last = await boxOf("[data-view=newsTab]");
+      expect(last.bottom <= height + 1 && last.height > 60, `all tabs within ${height}, and the last not from ${last.top} to ${last.bottom}`);
     }
     await app.resize(1280, 800);
     await app.tapRow(0);
@@ -204,30 +155,6 @@ export const tests = {
       expect(row.left === left && row.right === right, `at ${width} from ${left} to ${right}, not ${row.left} to ${row.right}`);
     }
     expect(await page.$eval(".empty", each => each.hidden), "it is not empty");
-  },
-  async nothingIsStored({ page, app }) {
-    await app.signIn();
-    const kept = await page.evaluate(async () => [document.cookie, localStorage.length, sessionStorage.length,
-      (await indexedDB.databases()).length].join());
-    expect(kept === ",0,0,0", `cookie, local, session, databases: ${kept}`);
-  },
-  async afterOneVisitItStartsWithoutANetwork({ page, app, errors, site }) {
-    const passing = await serve({ "/": site });
-    await page.goto(`${passing.address}/`);
-    await page.evaluate(() => navigator.serviceWorker.ready.then(worker => worker.active.state === "activated" ||
-      new Promise(done => worker.active.addEventListener("statechange", done))));
-    const kept = await page.evaluate(async () => {
-      const [name] = await caches.keys();
-      return (await (await caches.open(name)).keys()).map(each => new URL(each.url).pathname);
-    });
-    expect(kept.includes("/leafund.wasm") && !kept.some(each => each.endsWith(".jpg")), `what is kept: ${kept}`);
-    passing.close();
-    await page.reload();
-    await shown(page, "LandingPageVC");
-    errors.length = 0;
-    await app.signIn();
-    await shown(page, "OtherCampaignsTableViewController");
-    expect((await app.rows()).startsWith("Vegetarian for PETA"), "the list is there");
   },
   async scriptsFromElsewhereAreRefused({ page }) {
     const refused = await page.evaluate(() => new Promise(done => {

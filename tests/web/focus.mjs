@@ -60,6 +60,49 @@ export const tests = {
     await shown(page, "OtherCampaignsTableViewController");
     expect(await inFocus(page) === "row 2", `the row, not ${await inFocus(page)}`);
   },
+  async alsoInAListThatWasScrolled({ page, app }) {
+    await openRows({ page, app }, 2);
+    await scrollBy(page, 120);
+    await scrollBy(page, 40);
+    await page.keyboard.press("Enter");
+    await shown(page, "OneCampaignViewController");
+    await pressBack(page);
+    await shown(page, "OtherCampaignsTableViewController");
+    expect(await inFocus(page) === "row 2", `the row, not ${await inFocus(page)}`);
+  },
+  // Safari gives the focus to no button that is pressed by a finger.
+  async alsoWhereAFingerGivesNoFocus({ page, app }) {
+    await app.signIn();
+    await shown(page, "OtherCampaignsTableViewController");
+    await page.$eval(".screen:not([hidden]) li[aria-posinset='3'] button", each => { document.activeElement.blur(); each.click(); });
+    await shown(page, "OneCampaignViewController");
+    await pressBack(page);
+    await shown(page, "OtherCampaignsTableViewController");
+    expect(await inFocus(page) === "row 3", `the row, not ${await inFocus(page)}`);
+  },
+  async aRowInFocusHasItsRingOnAllSides({ page, app }) {
+    await openRows({ page, app }, 2);
+    await page.keyboard.press("Tab");
+    const { x, y, height } = await (await page.$(".screen:not([hidden]) li[aria-posinset='3']")).boundingBox();
+    const strip = await page.screenshot({ clip: { x: x - 6, y: y + height / 2, width: 24, height: 1 }, encoding: "base64" });
+    const dark = await page.evaluate(async strip => {
+      const bytes = Uint8Array.from(atob(strip), each => each.charCodeAt(0));
+      const bitmap = await createImageBitmap(new Blob([bytes], { type: "image/png" }));
+      const context = new OffscreenCanvas(bitmap.width, 1).getContext("2d");
+      context.drawImage(bitmap, 0, 0);
+      const { data } = context.getImageData(0, 0, bitmap.width, 1);
+      return [...Array(bitmap.width).keys()].filter(at => data[4 * at] < 100 && data[4 * at + 1] < 130).length;
+    }, strip);
+    expect(dark >= 3, `3 px at its left edge, and not ${dark}`);
+  },
+  async pageDownScrollsTheListFromItsTab({ page, app }) {
+    await openRows({ page, app }, 1);
+    await page.focus("[data-view=browseTab]");
+    await page.keyboard.press("PageDown");
+    await new Promise(done => setTimeout(done, 400));
+    const top = await page.$$eval(".screen:not([hidden]) .table", all => all.find(each => each.checkVisibility()).scrollTop);
+    expect(top > 100, `it has scrolled, and not to ${top}`);
+  },
   async arrowsLeadFromTabToTab({ page, app }) {
     await app.signIn();
     await page.focus("[data-view=browseTab]");

@@ -31,6 +31,17 @@ export const tests = {
     expect(await selected(page, "nameField") === 0, "nothing of what the user wrote");
     expect(await page.$eval("[data-view=nameField] input", each => each.ariaInvalid) === "false", "and it is not called wrong");
   },
+  async whoClicksOnAMessageWritesInItsPlaceToo({ page, app }) {
+    await app.tap("signUpButton");
+    await shown(page, "SignUpVC");
+    await app.tap("signUpButton");
+    const { x, y, width, height } = await (await page.$("[data-view=nameField]")).boundingBox();
+    await page.mouse.click(x + width / 3, y + height / 2);
+    await page.keyboard.type("Wren");
+    expect(await app.text("nameField") === "Wren", `in its place, not ${await app.text("nameField")}`);
+    await page.mouse.click(x + 24, y + height / 2);
+    expect(await selected(page, "nameField") === 0, "and their own text as they click");
+  },
   // The toolkit leaves the colour of a refusal in the input that was refused.
   async whatWasWrittenInPlaceOfAMessageIsAskedForBeforeItIsLost({ page, app }) {
     await app.tap("signUpButton");

@@ -7,7 +7,7 @@ import { serve } from "./server.mjs";
 import { shown, verbsFor } from "./verbs.mjs";
 
 const [build, word = ""] = process.argv.slice(2);
-const rooms = ["behaviour", "messages", "focus", "history", "back", "list", "access", "looks", "network", "places"];
+const rooms = ["behaviour", "typing", "kept", "messages", "focus", "history", "back", "list", "access", "looks", "network", "places"];
 const site = path.join(build, "site");
 const folder = path.join(path.dirname(fileURLToPath(import.meta.url)), "../../pictures");
 const pictures = { folder, ...await serve({ "/": folder }, Number(process.env.LEAFUND_PICTURE_PORT ?? 0)) };

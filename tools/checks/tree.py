@@ -6,7 +6,7 @@ import re
 import subprocess
 
 LIMITS = {".h": 250, ".cpp": 250, ".js": 250, ".mjs": 250, ".py": 250, ".sh": 250, "": 250, ".qml": 200}
-REPEATED = {"CMakeLists.txt", "README.md", "main.cpp", "run"}
+REPEATED = {"CMakeLists.txt", "README.md", "main.cpp", "package.json", "package-lock.json", "run"}
 
 
 class Unavailable(Exception):
