@@ -8,6 +8,7 @@ const by = id => document.getElementById(id);
 const scenes = new Map();  // number -> element
 const isSeen = element => element.getClientRects().length > 0;
 export let shown = null;   // its element, and how deep it lies
+let leaving = [];          // what can still be seen below what slides in
 
 export function addScene(id, place, at, size) {
   const { name, views: numbers } = jsonAt(at, size), template = by(name);
@@ -45,28 +46,38 @@ export function endScene(id) {
 export function show(at, size) {
   const look = jsonAt(at, size), element = scenes.get(look.scene), focus = document.activeElement;
   if (shown?.element !== element && shown?.element.contains(focus)) shown.element.left = focus.closest("button");
-  for (const [id, scene] of scenes) scene.hidden = scene.inert = id !== look.scene && id !== look.child;
+  const before = shown?.element, forward = look.depth >= shown?.depth;
+  if (before !== element) leaving = forward ? [before, ...before.querySelectorAll(".screen:not([hidden])")] : [];
+  for (const [id, scene] of scenes) {
+    scene.inert = id !== look.scene && id !== look.child;
+    scene.hidden = scene.inert && !leaving.includes(scene);
+  }
   const header = element.querySelector("header"), back = header.querySelector(".back");
   header.hidden = !look.bar;
   header.querySelector("h1").textContent = look.title;
   back.hidden = !look.back;
   back.ariaLabel = look.backLabel;
   document.title = look.title ? `${look.title} – Leafund` : "Leafund";
-  const before = shown;
   shown = { element, depth: look.depth };
-  if (before?.element !== element) by("said").textContent = "";
-  if (before && before.element !== element) enter(element, look.depth >= before.depth);
+  if (before !== element) by("said").textContent = "";
+  if (before && before !== element) enter(element, forward);
   keepLevel();
 }
 
-// The new screen slides in; the keyboard and the reader begin at what it is about, or where they left it.
+// The new screen slides in, forward over what is left; the keyboard and the reader begin at what it is about, or
+// where they left it.
 function enter(element, forward) {
   const calm = matchMedia("(prefers-reduced-motion: reduce)").matches;
   const mirrored = getComputedStyle(element).direction === "rtl";
   const from = hasSlid ? {} : calm ? { opacity: 0 } : { translate: `${(forward ? 100 : -33) * (mirrored ? -1 : 1)}% 0` };
-  element.animate([from, {}], { duration: calm ? 100 : 200, easing: "ease-out" });
-  const left = forward ? [] : [element.left];
-  [...left, ...element.querySelectorAll("h1")].find(each => each && isSeen(each))?.focus({ preventScroll: true });
+  const slide = element.animate([from, {}], { duration: calm ? 100 : 200, easing: "ease-out" });
+  const left = leaving, rest = () => {
+    if (leaving === left) leaving = [];
+    left.filter(each => !leaving.includes(each)).forEach(each => { each.hidden = each.inert; });
+  };
+  slide.finished.then(rest, rest);
+  const begin = forward ? null : element.left;
+  [begin, ...element.querySelectorAll("h1")].find(each => each && isSeen(each))?.focus({ preventScroll: true });
 }
 
 // The keys that scroll do so wherever on a screen the focus is.

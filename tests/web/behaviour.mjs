@@ -117,6 +117,21 @@ export const tests = {
     });
     expect(widths.length > 3 && widths.every(each => each === 390), `390 in each frame: ${widths}`);
   },
+  async whatIsLeftIsSeenBelowWhatSlidesIn({ page, app }) {
+    await app.signIn();
+    await shown(page, "OtherCampaignsTableViewController");
+    const seen = await page.evaluate(async () => {
+      const isSeen = place => !!document.querySelector(place)?.checkVisibility();
+      const row = ".screen[data-scene=OtherCampaignsTableViewController] li:not([hidden])";
+      document.querySelector(`${row} button`).click();
+      await new Promise(requestAnimationFrame);
+      await new Promise(requestAnimationFrame);
+      const slides = [isSeen("[data-scene=OneCampaignViewController]"), isSeen(row), document.querySelector(row).closest("[inert]") !== null];
+      await Promise.all(document.getAnimations().map(each => each.finished));
+      return [...slides, isSeen(row)].join();
+    });
+    expect(seen === "true,true,true,false", `both while it slides, what is left takes no input, and then is gone: ${seen}`);
+  },
   async aWideWindowHasTheTabsAtItsSideAndTwoColumns({ page, app }) {
     await app.signIn();
     const boxOf = place => page.$eval(`.screen:not([hidden]) ${place}`, each => each.getBoundingClientRect().toJSON());

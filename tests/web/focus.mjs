@@ -83,6 +83,7 @@ export const tests = {
   async aRowInFocusHasItsRingOnAllSides({ page, app }) {
     await openRows({ page, app }, 2);
     await page.keyboard.press("Tab");
+    await scrollBy(page, 0);  // until it stands
     const { x, y, height } = await (await page.$(".screen:not([hidden]) li[aria-posinset='3']")).boundingBox();
     const strip = await page.screenshot({ clip: { x: x - 6, y: y + height / 2, width: 24, height: 1 }, encoding: "base64" });
     const dark = await page.evaluate(async strip => {
