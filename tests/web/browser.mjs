@@ -56,5 +56,5 @@ export async function openBrowser(screen) {
     page.on("pageerror", error => errors.push(error.stack));
     return { page, said, errors, close: () => context.close() };
   };
-  return { newPage, close };
+  return { browser, newPage, close };
 }

@@ -1,4 +1,5 @@
 // Serves the page, the pictures and whatever a test lays down, on a port of its own.
+import { createHash } from "node:crypto";
 import fs from "node:fs";
 import http from "node:http";
 import path from "node:path";
@@ -7,8 +8,9 @@ const types = { ".html": "text/html; charset=utf-8", ".js": "text/javascript", "
   ".wasm": "application/wasm", ".svg": "image/svg+xml", ".jpg": "image/jpeg", ".webmanifest": "application/manifest+json" };
 
 // `folders`: what a path begins with, and the folder its files lie in; the longest that fits counts. `whim`: how many
-// milliseconds an answer takes, or "break" where there is none.
-export async function serve(folders, port = 0, whim = () => 0) {
+// milliseconds an answer takes, or "break" where there is none. `kept`: a browser may keep the answers, and asks
+// whether they still hold.
+export async function serve(folders, port = 0, whim = () => 0, kept = false) {
   const laid = new Map();
   const requests = [];
   const server = http.createServer(async (request, answer) => {
@@ -17,7 +19,7 @@ export async function serve(folders, port = 0, whim = () => 0) {
     if (mood > 0) await new Promise(done => setTimeout(done, mood));
     const { pathname, searchParams } = new URL(request.url, "http://host");
     answer.setHeader("access-control-allow-origin", "*");
-    answer.setHeader("cache-control", "no-store");
+    answer.setHeader("cache-control", kept ? "no-cache" : "no-store");
     requests.push(pathname);
     if (request.method === "POST") {
       const parts = [];
@@ -30,6 +32,11 @@ export async function serve(folders, port = 0, whim = () => 0) {
     }
     const found = laid.get(pathname) ?? read(folders, pathname);
     if (!found) return answer.writeHead(404).end();
+    if (kept) {
+      const tag = `"${createHash("sha256").update(found.body).digest("base64url")}"`;
+      answer.setHeader("etag", tag);
+      if (request.headers["if-none-match"] === tag) return answer.writeHead(304).end();
+    }
     answer.writeHead(found.status ?? 200, { "content-type": found.type ?? "application/octet-stream" });
     answer.end(found.body);
   });
