@@ -32,7 +32,7 @@ export function addScene(id, place, at, size) {
     if (![event.target, downOn ?? event.target].some(each => each.closest("button, label, li"))) tell("tap", numbers.root);
     event.stopPropagation();
   });
-  // Some browsers give the focus to no button that a finger presses.
+  // Where the focus returns to. Some browsers give it to no button that a finger presses.
   element.addEventListener("click", ({ target }) => { element.left = target.closest("button"); }, true);
   scenes.set(id, element);
   (scenes.get(place)?.querySelector("[data-view=tabs]") ?? by("screens")).append(element);
@@ -44,8 +44,7 @@ export function endScene(id) {
 }
 
 export function show(at, size) {
-  const look = jsonAt(at, size), element = scenes.get(look.scene), focus = document.activeElement;
-  if (shown?.element !== element && shown?.element.contains(focus)) shown.element.left = focus.closest("button");
+  const look = jsonAt(at, size), element = scenes.get(look.scene);
   const before = shown?.element, forward = look.depth >= shown?.depth;
   if (before !== element) leaving = forward ? [before, ...before.querySelectorAll(".screen:not([hidden])")] : [];
   for (const [id, scene] of scenes) {

@@ -10,7 +10,6 @@ function writeText(element, look) {
   if (look.text === undefined) return;
   element.textContent = look.text;
   element.classList.toggle("long", look.text.length > 48);
-  if (element.matches(".sum")) element.style.setProperty("--letters", look.text.length || 1);
   if (!look.label) return;
   const label = document.createElement("span");
   label.className = "unseen";
@@ -34,6 +33,7 @@ const bindings = {
     const describe = element.role === "alert" ? bindReason(element) : () => {};
     return look => {
       writeText(element, look);
+      if (element.matches(".sum")) element.style.setProperty("--letters", look.text.length || 1);
       describe(look);
     };
   },
