@@ -4,6 +4,7 @@
 #include "platform/uikit/UIButton.h"
 #include "platform/uikit/UILabel.h"
 #include "platform/uikit/UITextInput.h"
+#include "tests/support/ViewNamed.h"
 #include "tests/window/WindowFixture.h"
 
 namespace leafund {
@@ -108,6 +109,22 @@ TEST_F(AgreementTest, TheWindowAgreesWithEveryScreenThatRefuses) {
   click("createButton");
   expectWindowEqualsToolkit(app);
   EXPECT_EQ(app.require("nameOfCreator").property("color").value<QColor>(), QColor(Qt::red));
+}
+
+// No screen hides a label today; a controller may, and nothing in the skins would have to change.
+TEST_F(AgreementTest, WhateverTheToolkitHidesIsNotSeen) {
+  signIn();
+  click("abc-0");
+  std::map<std::string, const UIView*> views;
+  collectNames(*app.navigation().topViewController()->view(), views);
+  for (const auto& [name, found] : views) {
+    auto& view = *viewNamed(app.navigation(), name);
+    if (view.hidden()) continue;
+    app.application->turn([&] { view.setHidden(true); });
+    expectWindowEqualsToolkit(app);
+    app.application->turn([&] { view.setHidden(false); });
+    expectWindowEqualsToolkit(app);
+  }
 }
 
 }  // namespace

@@ -137,18 +137,20 @@ TEST_F(DoubleTapTest, BesideAFingerThatRestsItIsTwoTapsWhereNoScreenChanged) {
   EXPECT_EQ(screen(), "OtherCampaignsTableViewController");
 }
 
+// Of a button Qt Quick makes no click once another button was pressed; what is entered hears of it.
 TEST_F(PressTest, AnotherButtonMakesNoPressOfTheRestOfADoubleClick) {
   openCampaign();
-  type("dollarAmountField", "1");
+  const auto amount = middleOf("dollarAmountField");
+  app.press(Qt::Key_Escape);
   app.settle();
-  const auto fund = middleOf("FundButton");
-  clickTimes(fund, 1);
+  clickTimes(amount, 1);
   app.settle();
-  sendPointer(fund, Qt::LeftButton, QEvent::MouseButtonPress);
-  sendButtons(fund, Qt::LeftButton | Qt::RightButton, QEvent::MouseButtonPress, Qt::RightButton);
-  sendButtons(fund, Qt::LeftButton, QEvent::MouseButtonRelease, Qt::RightButton);
-  sendPointer(fund, Qt::NoButton, QEvent::MouseButtonRelease, Qt::LeftButton);
-  EXPECT_EQ(screen(), "ConfirmPageVC");
+  sendPointer(amount, Qt::LeftButton, QEvent::MouseButtonPress);
+  sendButtons(amount, Qt::LeftButton | Qt::RightButton, QEvent::MouseButtonPress, Qt::RightButton);
+  sendButtons(amount, Qt::LeftButton, QEvent::MouseButtonRelease, Qt::RightButton);
+  sendPointer(amount, Qt::NoButton, QEvent::MouseButtonRelease, Qt::LeftButton);
+  EXPECT_EQ(screen(), "OneCampaignViewController");
+  EXPECT_EQ(app.application->firstResponder(), nullptr);
 }
 
 TEST_F(PressTest, TheSecondPressOfADoubleOneEntersNoInput) {
