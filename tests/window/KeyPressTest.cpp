@@ -20,8 +20,9 @@ TEST_F(KeyPressTest, AClickBehindAKeyThatChangedTheScreenIsItsOwn) {
 TEST_F(KeyPressTest, AKeyWhileTheButtonIsHeldDoesNotMakeTheSecondClickItsOwn) {
   openCampaign();
   type("dollarAmountField", "1");
-  app.window().resize(1280, 800);
-  ASSERT_TRUE(app.waitUntil([&] { return app.page()->width() == 1280; }));
+  const QSize size(390, 710);  // Yes comes to lie where Fund was
+  app.window().resize(size);
+  ASSERT_TRUE(app.waitUntil([&] { return app.page()->height() == size.height(); }));
   app.settle();
   const auto fund = middleOf("FundButton");
   sendPointer(fund, Qt::LeftButton, QEvent::MouseButtonPress);
@@ -29,6 +30,8 @@ TEST_F(KeyPressTest, AKeyWhileTheButtonIsHeldDoesNotMakeTheSecondClickItsOwn) {
   sendPointer(fund, Qt::NoButton, QEvent::MouseButtonRelease, Qt::LeftButton);
   pass(100);
   app.settle();
+  const auto& yes = app.require("yesButton");
+  ASSERT_TRUE(yes.contains(yes.mapFromScene(fund)));
   clickTimes(fund, 1);
   EXPECT_EQ(screen(), "ConfirmPageVC");
 }
