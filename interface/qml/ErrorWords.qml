@@ -30,7 +30,8 @@ Item {
         font { pointSize: Theme.body; weight: Font.DemiBold }
         leftPadding: Desktop.mirrored ? 0 : Theme.icon + Theme.unit
         rightPadding: Desktop.mirrored ? Theme.icon + Theme.unit : 0
-        Accessible.ignored: true
+        // Once read out it is words like others: when its page comes back nothing else tells of it.
+        Accessible.ignored: news.visible
 
         IconItem {
             anchors.left: parent.left
@@ -43,6 +44,7 @@ Item {
     }
 
     Announcement {
+        id: news
         anchors.fill: parent
         view: room.view
         message: room.view.visible ? room.view.text : ""

@@ -166,6 +166,25 @@ TEST_F(AccessibilityDetailTest, ARefusedAmountIsDescribedByTheReason) {
   EXPECT_EQ(description("dollarAmountField"), "Error: Donation Exceeds Maximum");
 }
 
+TEST_F(AccessibilityDetailTest, AReasonThatWasReadStaysToBeFoundWhenItsPageComesBack) {
+  const auto reasons = [this] {
+    return std::ranges::count_if(shown(), [](auto* each) {
+      return each->text(QAccessible::Name).startsWith("Error:") &&
+             each->role() != QAccessible::EditableText;
+    });
+  };
+  signIn();
+  press("Vegetarian for PETA", QAccessible::ListItem);
+  press("FundButton");
+  EXPECT_EQ(reasons(), 1);
+  enter("dollarAmountField", "1");
+  press("FundButton");
+  press("noButton");
+  ASSERT_TRUE(app.require("errorLabel").isVisible());
+  EXPECT_EQ(reasons(), 1);
+  EXPECT_TRUE(notifications().isEmpty()) << "read once more";
+}
+
 TEST_F(AccessibilityDetailTest, AMissingGoalIsDescribedByTheReason) {
   openForm();
   EXPECT_EQ(description("desiredFunding"), "");
