@@ -25,6 +25,10 @@ namespace {
 constexpr std::chrono::seconds generously{30};
 constexpr std::string_view endOfHead = "\r\n\r\n";
 
+std::string loopback(const char* scheme, int port) {
+  return scheme + ("://127.0.0.1:" + std::to_string(port));
+}
+
 std::string lowerCase(std::string text) {
   std::transform(text.begin(), text.end(), text.begin(), [](char c) {
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
@@ -86,9 +90,17 @@ PictureServer::~PictureServer() {
   const std::lock_guard lock(mutex_);
 }
 
+std::string PictureServer::closedAddress(std::string_view path) {
+  static QTcpSocket taken;
+  if (taken.localPort() == 0 &&
+      !taken.bind(QHostAddress::LocalHost, 0, QAbstractSocket::DontShareAddress)) {
+    throw std::runtime_error("no port can be taken");
+  }
+  return loopback("http", taken.localPort()).append(path);
+}
+
 std::string PictureServer::baseAddress() const {
-  const char* scheme = speaks_ == Speaks::Plain ? "http" : "https";
-  return scheme + ("://127.0.0.1:" + std::to_string(port_));
+  return loopback(speaks_ == Speaks::Plain ? "http" : "https", port_);
 }
 
 std::string PictureServer::serve(const std::string& path, Answer answer) {

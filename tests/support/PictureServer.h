@@ -41,6 +41,10 @@ class PictureServer {
   // Cuts the connections that are open.
   ~PictureServer();
 
+  // On a port that this process keeps as long as it lives without listening there: one given back
+  // is soon another test's.
+  static std::string closedAddress(std::string_view path);
+
   std::string baseAddress() const;
   std::string address(std::string_view path) const { return baseAddress().append(path); }
 

@@ -15,7 +15,7 @@ std::string FaultHosts::picture() {
   return server_.serve("/new", answers::ok(bodies::jpeg(kNewColour)));
 }
 
-std::string FaultHosts::closed() { return PictureServer().address("/fault"); }
+std::string FaultHosts::closed() { return PictureServer::closedAddress("/fault"); }
 
 std::string FaultHosts::unvouched() {
   tls_ = std::make_unique<PictureServer>(PictureServer::Speaks::Tls,

@@ -33,8 +33,7 @@ class QtHostUnderTest final : public HostUnderTest {
   std::string serve(const std::string& path, std::string body, int status) override {
     return server().serve(path, answers::status(status, std::move(body)));
   }
-  // A port that was just given back, so that nobody listens on it.
-  std::string deadAddress() override { return PictureServer().address("/"); }
+  std::string deadAddress() override { return PictureServer::closedAddress("/"); }
 
  private:
   // Made when first asked for: it needs the application object, which the host makes.
