@@ -75,6 +75,7 @@ TEST(NavigationMapTest, CreatingACampaignThanksForIt) {
   EXPECT_EQ(app.shownAs<ThankYouVC>()->pageFrom, "NewCampaignVC");
   EXPECT_EQ(app.text("thankYouLabel"), "Thank you for creating a campaign!");
   app.tap("homeButton");
+  EXPECT_EQ(app.shown()->className(), "MyProfileVC");
   EXPECT_EQ(app.rowTitles().front(), "Rain Barrels");
 }
 

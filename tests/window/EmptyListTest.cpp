@@ -35,6 +35,10 @@ TEST_F(EmptyListTest, AListThatGetsItsFirstRowGivesTheFocusToIt) {
   pressAt("browseTab");
   pressAt("mineTab");
   EXPECT_FALSE(app.require("table").property("activeFocusOnTab").toBool());
+  key(Qt::Key_F6);
+  ASSERT_EQ(focusedName(), "newButton");
+  key(Qt::Key_F6);
+  EXPECT_EQ(focusedName(), "MyCampaigns-0");
 }
 
 TEST_F(EmptyListTest, AListWithoutRowsSaysSoAndWhatToDoAndIsQuietOnceItHasOne) {

@@ -3,6 +3,8 @@
 #include <QElapsedTimer>
 #include <QGuiApplication>
 
+#include "platform/uikit/UITextInput.h"
+#include "tests/support/ViewNamed.h"
 #include "tests/window/WindowFixture.h"
 
 namespace leafund {
@@ -195,7 +197,10 @@ TEST_F(InputTest, CompositionSurvivesARefresh) {
   type("userEmail", "ab");
   QInputMethodEvent composing("\u00e9", {});
   QCoreApplication::sendEvent(&app.require("userEmail"), &composing);
-  app.application->turn([] {});
+  app.application->turn([this] {
+    auto& input = dynamic_cast<UITextField&>(*viewNamed(app.navigation(), "userEmail"));
+    input.setTextColor(input.textColor());  // also what stays the same refreshes the skin
+  });
   EXPECT_EQ(app.require("userEmail").property("preeditText").toString(), "\u00e9");
   EXPECT_EQ(shownWords("userEmail"), "ab");
   QInputMethodEvent committing;

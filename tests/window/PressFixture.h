@@ -2,6 +2,7 @@
 
 #include <QPoint>
 
+#include "tests/support/KeyText.h"
 #include "tests/window/FingerFixture.h"
 
 namespace leafund {
@@ -25,7 +26,7 @@ class PressFixture : public FingerTest {
     clickTimes(middleOf(name), times, apart);
   }
   void key(Qt::Key key, QEvent::Type type, bool repeat = false, Qt::KeyboardModifiers with = {}) {
-    QKeyEvent event(type, key, with, {}, repeat);
+    QKeyEvent event(type, key, with, keyText(key), repeat);
     event.setTimestamp(static_cast<quint64>(now_));
     QCoreApplication::sendEvent(&app.window(), &event);
   }

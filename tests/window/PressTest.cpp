@@ -33,6 +33,36 @@ TEST_F(PressTest, ADoubleClickOnFundAsksAndBooksNothing) {
   EXPECT_GE(underTheSecond, 8);
 }
 
+TEST_F(PressTest, ADoubleClickOnYesBooksOnceAndThanks) {
+  openCampaign();
+  type("dollarAmountField", "1");
+  click("FundButton");
+  app.settle();
+  const auto where = middleOf("yesButton");
+  clickTimes(where, 2);
+  EXPECT_EQ(screen(), "ThankYouVC");
+  const auto& home = app.require("homeButton");
+  EXPECT_TRUE(home.contains(home.mapFromScene(where))) << "it proves nothing";
+  EXPECT_EQ(campaignsIFunded().size(), 4U);
+  EXPECT_EQ(otherCampaigns().size(), 6U);
+}
+
+TEST_F(PressTest, ASlowSecondClickInTheSamePlaceIsItsOwn) {
+  const QSize size(390, 710);  // Yes comes to lie where Fund was
+  app.window().resize(size);
+  ASSERT_TRUE(app.waitUntil([&] { return app.page()->height() == size.height(); }));
+  openCampaign();
+  type("dollarAmountField", "1");
+  app.settle();
+  const auto fund = middleOf("FundButton");
+  clickTimes(fund, 1, 500);
+  app.settle();
+  const auto& yes = app.require("yesButton");
+  ASSERT_TRUE(yes.contains(yes.mapFromScene(fund)));
+  clickTimes(fund, 1);
+  EXPECT_EQ(screen(), "ThankYouVC");
+}
+
 TEST_F(PressTest, OneSlowYesAfterOneFundBooksAtEverySize) {
   std::size_t booked = campaignsIFunded().size();
   for (const QSize size : {QSize(390, 844), QSize(844, 390), QSize(1280, 800)}) {

@@ -6,8 +6,6 @@ namespace {
 // A window too short for its screen shows what the user has to see now.
 class RevealTest : public WindowTest {
  protected:
-  static constexpr int kBar = 56;
-
   void openForm() {
     signIn();
     click("mineTab");
@@ -27,13 +25,17 @@ class RevealTest : public WindowTest {
     return item.mapRectToScene(item.property("cursorRectangle").toRectF());
   }
   // The frame may take a moment to follow.
-  void expectInSight(const std::function<QRectF()>& area, const char* what) {
-    const auto inSight = [&] {
-      return area().top() >= kBar && area().bottom() <= app.window().height();
-    };
+  void expectInSight(const std::string& name, const char* what, bool caretAlone = false) {
+    const QRectF pane = app.paneOf(app.require(name));
+    const auto area = [&] { return caretAlone ? caretOf(name) : seenAt(name); };
     app.settle();
-    EXPECT_TRUE(app.waitUntil(inSight))
-        << what << ": " << area().top() << " to " << area().bottom();
+    EXPECT_TRUE(app.waitUntil([&] {
+      return area().top() >= pane.top() && area().bottom() <= pane.bottom();
+    })) << what
+        << ": " << area().top() << " to " << area().bottom();
+  }
+  void expectCaretInSight(const std::string& name, const char* what) {
+    expectInSight(name, what, true);
   }
 };
 
@@ -41,16 +43,15 @@ TEST_F(RevealTest, TheCaretStaysInSightWhereverKeysTakeItInALongText) {
   openForm();
   resizeTo({390, 420});
   click("fullDescription");
-  const auto caret = [&] { return caretOf("fullDescription"); };
   for (int i = 0; i < 25; ++i) {
     app.typeKeys("a");
     app.press(Qt::Key_Return);
   }
-  expectInSight(caret, "at the end");
+  expectCaretInSight("fullDescription", "at the end");
   for (int i = 0; i < 20; ++i) app.press(Qt::Key_Up);
-  expectInSight(caret, "twenty lines above");
+  expectCaretInSight("fullDescription", "twenty lines above");
   QTest::keyClick(&app.window(), Qt::Key_End, Qt::ControlModifier);
-  expectInSight(caret, "at the end again");
+  expectCaretInSight("fullDescription", "at the end again");
 }
 
 TEST_F(RevealTest, WhatIsMissingIsScrolledIntoSightAndTheFocusStays) {
@@ -63,7 +64,7 @@ TEST_F(RevealTest, WhatIsMissingIsScrolledIntoSightAndTheFocusStays) {
   type("imageURL", "http://pictures.example/a.jpg");
   click("createButton");
   ASSERT_EQ(app.shown()->className(), "NewCampaignVC");
-  expectInSight([&] { return seenAt("nameOfCreator"); }, "the missing name");
+  expectInSight("nameOfCreator", "the missing name");
   EXPECT_EQ(app.window().activeFocusItem(), &app.require("createButton"));
 }
 
@@ -71,14 +72,14 @@ TEST_F(RevealTest, OfSeveralMessagesTheTopmostIsScrolledIntoSight) {
   openForm();
   resizeTo({390, 568});
   click("createButton");
-  expectInSight([&] { return seenAt("nameOfCreator"); }, "the first message");
+  expectInSight("nameOfCreator", "the first message");
 }
 
 TEST_F(RevealTest, AMessageStaysInSightThoughItsPlaceIsRoundedToWholePixels) {
   openForm();
   resizeTo({390, 568});
   click("createButton");
-  expectInSight([&] { return seenAt("nameOfCreator"); }, "the first message");
+  expectInSight("nameOfCreator", "the first message");
   QObject* pane = nullptr;
   for (auto* each = app.require("nameOfCreator").parentItem(); pane == nullptr;
        each = each->parentItem()) {
@@ -86,7 +87,7 @@ TEST_F(RevealTest, AMessageStaysInSightThoughItsPlaceIsRoundedToWholePixels) {
   }
   pane->setProperty("contentY", 0.4);  // by the pane itself, and not by a user who goes on
   resizeTo({390, 520});
-  expectInSight([&] { return seenAt("nameOfCreator"); }, "the first message, after all");
+  expectInSight("nameOfCreator", "the first message, after all");
 }
 
 TEST_F(RevealTest, AReasonBelowAnInputIsScrolledIntoSight) {
@@ -100,7 +101,7 @@ TEST_F(RevealTest, AReasonBelowAnInputIsScrolledIntoSight) {
   type("imageURL", "http://pictures.example/a.jpg");
   click("createButton");
   ASSERT_TRUE(app.require("moneyErrorField").isVisible());
-  expectInSight([&] { return seenAt("moneyErrorField"); }, "the reason");
+  expectInSight("moneyErrorField", "the reason");
 }
 
 TEST_F(RevealTest, WhyAnAmountIsRefusedIsScrolledIntoSight) {
@@ -120,11 +121,11 @@ TEST_F(RevealTest, WhyAnAmountIsRefusedIsScrolledIntoSight) {
           click("FundButton");
         }
         ASSERT_TRUE(app.require("errorLabel").isVisible());
-        expectInSight([&] { return seenAt("errorLabel"); }, "the reason");
+        expectInSight("errorLabel", "the reason");
         for (int i = 0; i < 5; ++i) app.press(Qt::Key_PageUp);
         app.settle();
         app.press(Qt::Key_Return);
-        expectInSight([&] { return seenAt("errorLabel"); }, "the reason, once more");
+        expectInSight("errorLabel", "the reason, once more");
         app.press(Qt::Key_Escape);
         app.settle();
       }
@@ -138,7 +139,7 @@ TEST_F(RevealTest, OnceTheUserGoesOnTheFocusIsInSightAgain) {
   click("createButton");
   QTest::keyClick(&app.window(), Qt::Key_Backtab, Qt::ShiftModifier);
   ASSERT_EQ(app.window().activeFocusItem(), &app.require("emailInvite"));
-  expectInSight([&] { return caretOf("emailInvite"); }, "the input in focus");
+  expectCaretInSight("emailInvite", "the input in focus");
 }
 
 }  // namespace

@@ -128,6 +128,14 @@ QQuickItem& WindowApplication::require(const std::string& name) {
   return *found;
 }
 
+QRectF WindowApplication::paneOf(const QQuickItem& item) {
+  const QQuickItem* pane = page();
+  for (const auto* each = item.parentItem(); each != nullptr; each = each->parentItem()) {
+    if (each->inherits("QQuickFlickable")) pane = each;
+  }
+  return pane->mapRectToScene(pane->boundingRect());
+}
+
 void WindowApplication::click(QQuickItem& target) {
   settle();
   for (auto* each = target.parentItem(); each != nullptr; each = each->parentItem()) {

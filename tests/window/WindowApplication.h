@@ -45,6 +45,8 @@ class WindowApplication {
   QQuickItem* item(const std::string& name);
   // Fails the test where there is none.
   QQuickItem& require(const std::string& name);
+  // The part of the window in which an item can be seen: that of the page which scrolls it.
+  QRectF paneOf(const QQuickItem& item);
 
   // With the pointer, in the item's middle, which is first scrolled into sight.
   void click(QQuickItem& item);

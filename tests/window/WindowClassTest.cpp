@@ -146,7 +146,7 @@ TEST_F(WindowClassTest, WhatIsTypedAndTheFocusStayWhereverTheWindowGoes) {
     EXPECT_EQ(app.application->firstResponder(), editing);
     EXPECT_EQ(app.navigation().viewControllers().size(), screens);
     const QRectF input = placeOf("dollarAmountField");
-    EXPECT_TRUE(QRectF(0, 0, size.width(), size.height()).contains(input));
+    EXPECT_TRUE(app.paneOf(app.require("dollarAmountField")).contains(input));
   }
   app.typeKeys("0");
   app.settle();

@@ -85,29 +85,21 @@ TEST_F(WindowTest, TheBackButtonGoesBack) {
   EXPECT_EQ(app.shown()->className(), "LandingPageVC");
 }
 
-TEST_F(WindowTest, ADoubleClickOnYesBooksOnce) {
-  signIn();
-  click("abc-0");
-  type("dollarAmountField", "1");
-  click("FundButton");
-  auto& yes = app.require("yesButton");
-  const auto where = yes.mapToScene({yes.width() / 2, yes.height() / 2}).toPoint();
-  QTest::mouseClick(&app.window(), Qt::LeftButton, {}, where);
-  QTest::mouseClick(&app.window(), Qt::LeftButton, {}, where);
-  app.settle();
-  EXPECT_EQ(campaignsIFunded().size(), 4U);
-  EXPECT_EQ(otherCampaigns().size(), 6U);
-}
-
 TEST_F(WindowTest, AnIncomingScreenTakesAClickAtOnce) {
   signIn();
-  auto& tab = app.require("newsTab");
-  const auto where = tab.mapToScene({tab.width() / 2, tab.height() / 2}).toPoint();
-  app.click(app.require("abc-0"));
-  app.press(Qt::Key_Escape);  // the detail screen is still sliding in
-  QTest::mouseClick(&app.window(), Qt::LeftButton, {}, where);
-  app.settle();
-  EXPECT_EQ(app.navigation().topViewController()->className(), "TabBarVC");
+  for (int i = 0; i < 10; ++i) {  // on a busy machine a slide may be over before it is looked at
+    click("browseTab");
+    click("abc-0");
+    app.press(Qt::Key_Escape);
+    const auto& tab = app.require("newsTab");
+    const auto where = tab.mapToScene({tab.width() / 2, tab.height() / 2}).toPoint();
+    const bool sliding = app.page()->x() != 0;
+    QTest::mouseClick(&app.window(), Qt::LeftButton, {}, where);
+    if (!sliding) continue;
+    EXPECT_EQ(app.shown()->className(), "NewsFeedVC");
+    return;
+  }
+  FAIL() << "no slide was met";
 }
 
 TEST_F(WindowTest, ASelectedTabIsDrawnInTheAccentColourAndTheOthersAreNot) {
