@@ -97,6 +97,17 @@ std::vector<Painted> paintedMarks(const std::vector<QQuickItem*>& shown) {
   return painted;
 }
 
+// The left side of the box that the control stands in, as it is drawn; null where it has none.
+QImage boxSide(QQuickWindow& window, const QQuickItem& control) {
+  const auto* box = &control;
+  while (box != nullptr && !isBox(*box)) box = box->parentItem();
+  if (box == nullptr) return {};
+  const QRectF seen = seenPart(*box, box->boundingRect());
+  const double scale = window.effectiveDevicePixelRatio();
+  const QPointF left(seen.left(), seen.top() + seen.height() / 4);
+  return window.grabWindow().copy(QRectF(left * scale, QSizeF(3, 1) * scale).toRect());
+}
+
 }  // namespace
 
 std::vector<Fault> markFaults(QQuickWindow& window, const std::vector<QQuickItem*>& shown) {
@@ -116,13 +127,15 @@ std::vector<Fault> focusFaults(QQuickWindow& window, const std::vector<QQuickIte
   for (auto* control : shown) {
     const QRectF seen = seenPart(*control, hitArea(*control));
     if (!isControl(*control) || seen.height() < hitArea(*control).height() - 1) continue;
+    window.contentItem()->forceActiveFocus();
+    const QImage unfocused = boxSide(window, *control);
     control->forceActiveFocus(Qt::TabFocusReason);
     QCoreApplication::processEvents();
     auto now = shownItems(*window.contentItem());
     std::erase_if(now, [&](const auto* each) {
       return !(isRing(*each) && edgeOf(*each)) && !(isBox(*each) && each->isAncestorOf(control));
     });
-    if (now.empty()) {
+    if (now.empty() || (!unfocused.isNull() && boxSide(window, *control) == unfocused)) {
       faults.push_back({"does not show the focus", described(*control), figure(seen)});
       continue;
     }

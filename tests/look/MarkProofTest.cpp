@@ -15,7 +15,7 @@ const QByteArray kKinds =
     "  Rectangle { anchors.fill: parent; color: 'lightgray' }"
     "  Rectangle { id: full; width: 80; height: 12; color: 'black' } }\n"
     "component Box: Rectangle { property Item input: field; x: 20; y: 20; width: 200; height: 60;"
-    "  objectName: 'box'; border { width: 1; color: 'black' }"
+    "  objectName: 'box'; border { width: field.activeFocus ? 2 : 1; color: 'black' }"
     "  TextInput { id: field; anchors.fill: parent; activeFocusOnTab: true } }\n";
 const QByteArray kButton =
     "Item { objectName: 'button'; x: 20; y: 100; width: 60; height: 60; activeFocusOnTab: true; ";
@@ -50,6 +50,8 @@ TEST_F(MarkProofTest, APaleBarIsFound) {
 TEST_F(MarkProofTest, AFocusThatIsNotSeenIsFound) {
   EXPECT_THAT(faultsInUseOn(kKinds + kButton + "}"),
               ElementsAre(isFault("does not show the focus", "button")));
+  EXPECT_THAT(faultsInUseOn(kKinds + "Box { border.width: 1 }"),
+              ElementsAre(isFault("does not show the focus", "box")));
   EXPECT_THAT(faultsInUseOn(kKinds + kButton + "FocusRing { border.color: 'silver' } }"),
               testing::Contains(isFault("has too pale an edge", "button")));
 }

@@ -93,6 +93,7 @@ TEST_F(FlingTest, AFlingEndsWhereANewSizePutsTheEnd) {
     list.setProperty("contentY", 0);
     QMetaObject::invokeMethod(&list, "flick", Q_ARG(double, 0), Q_ARG(double, -3000));
     for (int frames = 0; frames < kMostFrames && offset() < end() - within; ++frames) frame();
+    ASSERT_TRUE(list.property("moving").toBool()) << within;
     app.window().resize(390, 904);
     for (int frames = 0; frames < 20; ++frames) {
       QCoreApplication::processEvents();
@@ -121,6 +122,7 @@ TEST_F(FlingTest, AFingerThatCatchesAFlingAndIsLiftedOutsideEndsIt) {
       rest();
       QMetaObject::invokeMethod(&list, "flick", Q_ARG(double, 0), Q_ARG(double, -speed));
       frame();
+      ASSERT_TRUE(list.property("moving").toBool());
       finger().press(0, on).commit(false);
       finger().move(0, on + way).commit(false);
       finger().release(0, on + way).commit(false);

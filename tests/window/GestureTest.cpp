@@ -102,7 +102,8 @@ TEST_F(GestureTest, AnOutgoingScreenTakesNoFinger) {
   type("dollarAmountField", "1");
   const auto fund = middleOf("FundButton");
   app.press(Qt::Key_Escape);
-  touch(fund);  // where the outgoing screen still shows its button, over a row of the one that comes
+  touch(
+      fund);  // where the outgoing screen still shows its button, over a row of the one that comes
   EXPECT_EQ(screen(), "OneCampaignViewController");
   EXPECT_EQ(shownWords("campaignTitle").toStdString(), otherCampaigns().at(3)->title());
 }

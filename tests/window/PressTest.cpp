@@ -81,13 +81,22 @@ TEST_F(PressTest, OneSlowYesAfterOneFundBooksAtEverySize) {
 TEST_F(PressTest, ADoubleClickOnHomeOrSignInOpensNoRow) {
   type("userEmail", "wren@example.org");
   type("password", "secret");
-  clickTimes("signInButton", 2, 250);
+  const auto expectOver = [this](QPoint where, const std::string& name) {
+    const auto& item = app.require(name);
+    EXPECT_TRUE(item.contains(item.mapFromScene(where))) << name << " lies elsewhere";
+  };
+  const auto signInButton = middleOf("signInButton");
+  clickTimes(signInButton, 2, 250);
+  expectOver(signInButton, "abc-3");
   EXPECT_EQ(screen(), "OtherCampaignsTableViewController");
   click("abc-0");
   type("dollarAmountField", "1");
   click("FundButton");
   click("yesButton");
-  clickTimes("homeButton", 3);
+  app.settle();
+  const auto home = middleOf("homeButton");
+  clickTimes(home, 3);
+  expectOver(home, "abc-3");
   EXPECT_EQ(screen(), "OtherCampaignsTableViewController");
 }
 

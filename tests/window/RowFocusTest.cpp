@@ -49,6 +49,7 @@ TEST_F(RowFocusTest, AListThatIsScrolledInAnInactiveWindowKeepsTheFocusOnARowInS
     QCoreApplication::sendEvent(&app.window(), &event);
   }
   rest();
+  ASSERT_GT(app.require("table").property("contentY").toDouble(), 160) << "the row is still there";
   other.hide();
   app.window().requestActivate();
   ASSERT_TRUE(app.waitUntil([&] { return app.window().isActive(); }));
