@@ -1,17 +1,12 @@
 // What only the page does.
 import fs from "node:fs";
 import { expect } from "./testing.mjs";
+import { walk } from "./road.mjs";
 import { pressBack, rest, shown } from "./verbs.mjs";
 
 export const tests = {
   async everyViewHasItsOneElement({ page, app, errors }) {
-    await app.tap("signUpButton");
-    await pressBack(page);
-    await app.signIn();
-    for (const tab of ["fundedTab", "mineTab", "newsTab"]) await app.tap(tab);
-    await app.tap("mineTab");
-    await app.tap("newButton");
-    await shown(page, "NewCampaignVC");
+    await walk(app, async scene => { await shown(page, scene); });
     expect(errors.length === 0, `no errors but ${errors.join("; ")}`);
     const unbound = await page.evaluate(() => [...document.querySelectorAll(".screen [data-view] > span:first-child")]
       .filter(each => each.closest("label") && !each.textContent).length);

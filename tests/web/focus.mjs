@@ -84,17 +84,25 @@ export const tests = {
     await openRows({ page, app }, 2);
     await page.keyboard.press("Tab");
     await scrollBy(page, 0);  // until it stands
-    const { x, y, height } = await (await page.$(".screen:not([hidden]) li[aria-posinset='3']")).boundingBox();
-    const strip = await page.screenshot({ clip: { x: x - 6, y: y + height / 2, width: 24, height: 1 }, encoding: "base64" });
-    const dark = await page.evaluate(async strip => {
-      const bytes = Uint8Array.from(atob(strip), each => each.charCodeAt(0));
-      const bitmap = await createImageBitmap(new Blob([bytes], { type: "image/png" }));
-      const context = new OffscreenCanvas(bitmap.width, 1).getContext("2d");
-      context.drawImage(bitmap, 0, 0);
-      const { data } = context.getImageData(0, 0, bitmap.width, 1);
-      return [...Array(bitmap.width).keys()].filter(at => data[4 * at] < 100 && data[4 * at + 1] < 130).length;
-    }, strip);
-    expect(dark >= 3, `3 px at its left edge, and not ${dark}`);
+    const { x, y, width, height } = await (await page.$(".screen:not([hidden]) li[aria-posinset='3']")).boundingBox();
+    const sides = {
+      left: { x: x - 6, y: y + height / 2, width: 24, height: 1 },
+      right: { x: x + width - 18, y: y + height / 2, width: 24, height: 1 },
+      top: { x: x + width / 2, y: y - 6, width: 1, height: 24 },
+      bottom: { x: x + width / 2, y: y + height - 18, width: 1, height: 24 },
+    };
+    for (const [side, clip] of Object.entries(sides)) {
+      const strip = await page.screenshot({ clip, encoding: "base64" });
+      const dark = await page.evaluate(async strip => {
+        const bytes = Uint8Array.from(atob(strip), each => each.charCodeAt(0));
+        const bitmap = await createImageBitmap(new Blob([bytes], { type: "image/png" }));
+        const context = new OffscreenCanvas(bitmap.width, bitmap.height).getContext("2d");
+        context.drawImage(bitmap, 0, 0);
+        const { data } = context.getImageData(0, 0, bitmap.width, bitmap.height);
+        return [...Array(data.length / 4).keys()].filter(at => data[4 * at] < 100 && data[4 * at + 1] < 130).length;
+      }, strip);
+      expect(dark >= 3, `3 px at its ${side} edge, and not ${dark}`);
+    }
   },
   async pageDownScrollsTheListFromItsTab({ page, app }) {
     await openRows({ page, app }, 1);

@@ -110,7 +110,8 @@ export const tests = {
     const reached = await offsetOf(page);
     expect(reached > 5_000, `it was flung, and not by ${reached} px`);
     const reader = await newPage();
-    const gaps = await reader.page.evaluate(async all => {
+    const ground = await page.evaluate(() => getComputedStyle(document.querySelector(".screen")).backgroundColor.match(/\d+/g).map(Number));
+    const gaps = await reader.page.evaluate(async (all, ground) => {
       const gaps = [];
       for (const data of all) {
         const image = new Image();
@@ -121,16 +122,17 @@ export const tests = {
         const scale = image.width / 390, column = context.getImageData(Math.round(25 * scale), 0, 1, image.height).data;
         let longest = 0, run = 0;
         for (let y = Math.round(57 * scale); y < (844 - 65) * scale; ++y) {
-          const ground = [243, 247, 239].every((value, part) => Math.abs(column[4 * y + part] - value) < 3);
-          run = ground ? run + 1 : 0;
+          const isGround = ground.every((value, part) => Math.abs(column[4 * y + part] - value) < 3);
+          run = isGround ? run + 1 : 0;
           longest = Math.max(longest, run);
         }
         gaps.push(longest / scale);
       }
       return gaps;
-    }, frames);
+    }, frames, ground);
     await reader.close();
     expect(gaps.length >= 20, `there are frames to look at: ${gaps.length}`);
+    expect(Math.max(...gaps) > 10, `the ground is seen between cards: ${ground}`);
     expect(Math.max(...gaps) < 20, `the widest gap is that between cards, not ${Math.max(...gaps)} px`);
   }),
 };

@@ -70,6 +70,12 @@ export const tests = {
       window.changes = [];
       new MutationObserver(all => window.changes.push(...all.map(({ type, attributeName }) => attributeName ?? type)))
         .observe(each, { attributes: true, childList: true, characterData: true, subtree: true });
+      // What it holds is neither of them.
+      const input = each.querySelector("input"), value = Object.getOwnPropertyDescriptor(HTMLInputElement.prototype, "value");
+      Object.defineProperty(input, "value", {
+        get: () => value.get.call(input),
+        set: text => { window.changes.push("value"); value.set.call(input, text); },
+      });
     });
     await page.keyboard.type("12.5");
     await rest(page);
