@@ -106,8 +106,8 @@ export class User {
 
   // Where it tapped before: on a screen that comes meanwhile this may be the rest of a double tap.
   async tapAgain() {
-    const point = this.tapped;
-    await this.tapAt(async () => point);
+    const { width, height } = this.page.viewport(), point = this.tapped;
+    await this.tapAt(async () => (point?.x < width && point.y < height ? point : null));  // or the page is smaller now
   }
 
   // Once or twice in quick succession.
