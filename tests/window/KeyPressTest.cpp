@@ -20,10 +20,7 @@ TEST_F(KeyPressTest, AClickBehindAKeyThatChangedTheScreenIsItsOwn) {
 TEST_F(KeyPressTest, AKeyWhileTheButtonIsHeldDoesNotMakeTheSecondClickItsOwn) {
   openCampaign();
   type("dollarAmountField", "1");
-  const QSize size(390, 710);  // Yes comes to lie where Fund was
-  app.window().resize(size);
-  ASSERT_TRUE(app.waitUntil([&] { return app.page()->height() == size.height(); }));
-  app.settle();
+  ASSERT_NO_FATAL_FAILURE(putYesWhereFundWas());
   const auto fund = middleOf("FundButton");
   sendPointer(fund, Qt::LeftButton, QEvent::MouseButtonPress);
   key(Qt::Key_Shift, QEvent::KeyPress);

@@ -36,6 +36,13 @@ class PressFixture : public FingerTest {
     signIn();
     click("abc-0");
   }
+  // A window of the height at which Yes comes to lie where Fund was.
+  void putYesWhereFundWas() {
+    const QSize size(390, 710);
+    app.window().resize(size);
+    ASSERT_TRUE(app.waitUntil([&] { return app.page()->height() == size.height(); }));
+    app.settle();
+  }
   std::string screen() {
     app.settle();
     return app.shown()->className();

@@ -48,9 +48,7 @@ TEST_F(PressTest, ADoubleClickOnYesBooksOnceAndThanks) {
 }
 
 TEST_F(PressTest, ASlowSecondClickInTheSamePlaceIsItsOwn) {
-  const QSize size(390, 710);  // Yes comes to lie where Fund was
-  app.window().resize(size);
-  ASSERT_TRUE(app.waitUntil([&] { return app.page()->height() == size.height(); }));
+  ASSERT_NO_FATAL_FAILURE(putYesWhereFundWas());
   openCampaign();
   type("dollarAmountField", "1");
   app.settle();
