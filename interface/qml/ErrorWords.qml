@@ -31,7 +31,7 @@ Item {
         leftPadding: Desktop.mirrored ? 0 : Theme.icon + Theme.unit
         rightPadding: Desktop.mirrored ? Theme.icon + Theme.unit : 0
         // Once read out it is words like others: when its page comes back nothing else tells of it.
-        Accessible.ignored: news.visible
+        Accessible.ignored: text === "" || news.visible
 
         IconItem {
             anchors.left: parent.left
